@@ -1,0 +1,60 @@
+/// @file
+/// Communication waiting (3GPP TS 24.615, XCAP document of TS 24.623).
+///
+/// - Root element: `communication-waiting`, with the attribute `active`; no children.
+/// - Namespace: http://uri.etsi.org/ngn/params/xml/simservs/xcap.
+/// - Prefixes: mapped. The element is recognised without a prefix and as `ss:`, and with the prefix of a namespace binder.
+/// - Read and written.
+#ifndef IX_XML_COMMUNICATION_WAITING_H
+#define IX_XML_COMMUNICATION_WAITING_H
+
+#include "XMLSimservsXcap.h"
+#include "XmlFamily.h"
+
+/// The element `communication-waiting`.
+class IX_XML_EXPORT ix_communication_waiting : public ix_ns_xcap_simservType {
+  public:
+    /// Unlike the other services, a new one is inactive.
+    ix_communication_waiting() { mActive = 0; }
+
+    const char* ClassName() const override;
+    const char* TypeName() const override { return "CommunicationWaiting"; }
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+  protected:
+    const char* SourceFile() const override;
+    int ExtensionListLine() const override { return 42; }
+};
+
+class IX_XML_EXPORT CommunicationWaitingDataBinder : public XMLObjectFactory {
+  public:
+    /// A new `ix_communication_waiting`, inactive.
+    XMLElement* CreateRootElement() override;
+};
+
+class IX_XML_EXPORT CommunicationWaitingUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes `<communication-waiting  active="true"/>`, with the attributes kept from the document it was decoded from before
+/// `active`, and with the prefix that a namespace binder gives to the namespace. No XML declaration.
+class IX_XML_EXPORT Communication_waitingMarshaller : public XmlFamilyMarshaller {
+  public:
+    Communication_waitingMarshaller();
+
+    /// @return 1.
+    int AddCommunication_waitingElementToXml(ix_communication_waiting* element);
+
+  protected:
+    int AddRootElementToXml(XMLElement* root) override;
+};
+
+class IX_XML_EXPORT CommunicationWaitingContext : public XmlBinderContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

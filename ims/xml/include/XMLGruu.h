@@ -1,0 +1,124 @@
+/// @file
+/// GRUU information (RFC 5628): a globally routable user agent URI.
+///
+/// - Root element: `pub-gruu`, with the attribute `uri`, or `temp-gruu`, with `uri` and `first-cseq`; no children.
+/// - Namespace: urn:ietf:params:xml:ns:gruuinfo. It is neither expected nor written.
+/// - Prefixes: removed.
+/// - Read and written. Other attributes, namespace declarations among them, are refused with a log line and lost.
+#ifndef IX_XML_GRUU_H
+#define IX_XML_GRUU_H
+
+#include "XmlFamily.h"
+#include "XmlFields.h"
+
+/// The element `pub-gruu`: a public GRUU.
+class IX_XML_EXPORT ix_pub_gruu : public XMLObject {
+  public:
+    ~ix_pub_gruu() override;
+    const char* ClassName() const override;
+    const char* BaseClassName() const override { return "XMLObject"; }
+    const char* TypeName() const override { return "PubGruu"; }
+    int Reserved() const override { return 0; }
+    int IsRootElement() const override { return 1; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
+    int setUriValue(const char* uri);
+
+    char* mUri = nullptr;  ///< Owned; NULL: not set. Mandatory in a written document.
+
+  protected:
+    /// Logs that an attribute was refused.
+    virtual void LogRefusal() const;
+};
+
+/// The element `temp-gruu`: a temporary GRUU.
+class IX_XML_EXPORT ix_temp_gruu : public XMLObject {
+  public:
+    ~ix_temp_gruu() override;
+    const char* ClassName() const override;
+    const char* BaseClassName() const override { return "XMLObject"; }
+    const char* TypeName() const override { return "TempGruu"; }
+    int Reserved() const override { return 0; }
+    int IsRootElement() const override { return 1; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
+    int setUriValue(const char* uri);
+    /// @return 1.
+    int setFirstCseqValue(std::int64_t firstCseq);
+
+    char* mUri = nullptr;          ///< Owned; NULL: not set. Mandatory in a written document.
+    std::int64_t mFirstCseq = 0;  ///< The first CSeq for which the GRUU was valid. Always written, as its low 32 bits.
+
+  protected:
+    /// Logs that an attribute was refused.
+    virtual void LogRefusal() const;
+};
+
+/// A public GRUU inside another document.
+class IX_XML_EXPORT ix_ns_gruuinfo_pubGruu : public ix_pub_gruu {
+  public:
+    const char* ClassName() const override { return "ix_ns_gruuinfo_pubGruu"; }
+    int IsRootElement() const override { return 0; }
+
+  protected:
+    void LogRefusal() const override;
+};
+
+/// A temporary GRUU inside another document.
+class IX_XML_EXPORT ix_ns_gruuinfo_tempGruu : public ix_temp_gruu {
+  public:
+    const char* ClassName() const override { return "ix_ns_gruuinfo_tempGruu"; }
+    int IsRootElement() const override { return 0; }
+
+  protected:
+    void LogRefusal() const override;
+};
+
+class IX_XML_EXPORT GruuDataBinder : public XMLObjectFactory {
+  public:
+    ~GruuDataBinder() override;
+
+    /// Names the root to create: "pub-gruu" or "temp-gruu" (copied); NULL clears it. @return 1, or 0 without memory.
+    int setGruutypeValue(const char* type);
+    /// The root that `setGruutypeValue` named; NULL when it named none, or without memory. Required: any leading part of
+    /// the two words selects, the empty text "pub-gruu".
+    XMLElement* CreateRootElement() override;
+    ix_pub_gruu* CreatePubGruuElement();
+    ix_temp_gruu* CreateTempGruuElement();
+
+  private:
+    char* m_pGruutype = nullptr;
+};
+
+class IX_XML_EXPORT GruuUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes the XML declaration and one empty element, as in `<temp-gruu  first-cseq="7"  uri="sip:..."/>`. An element of any
+/// other class is no error: the text is the declaration alone.
+class IX_XML_EXPORT GruuMarshaller : public XmlFamilyMarshaller {
+  public:
+    GruuMarshaller();
+
+    /// @return 1, or 0 without a URI.
+    int AddPubGruuElementToXml(ix_pub_gruu* element);
+    /// @return 1, or 0 without a URI.
+    int AddTempGruuElementToXml(ix_temp_gruu* element);
+
+  protected:
+    int AddRootElementToXml(XMLElement* root) override;
+};
+
+class IX_XML_EXPORT GruuContext : public XmlFamilyContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

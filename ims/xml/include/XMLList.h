@@ -1,0 +1,56 @@
+/// @file
+/// The list behind every repeated child element of a document tree.
+#ifndef IX_XML_LIST_H
+#define IX_XML_LIST_H
+
+#include "XmlPlatform.h"
+
+/// One entry of an `IxSingleElementList`.
+struct IxSingleElementNode {
+    void* key;  ///< The payload; not owned by the list.
+    IxSingleElementNode* next;  ///< NULL at the end.
+};
+
+/// Singly linked list of untyped pointers. It owns its nodes and never what the keys point to; the element that holds the
+/// list frees them (`ix_xml_common_methods`).
+///
+/// The count has 16 bits: a list takes more than 65535 entries and keeps all of them, but the count then starts again at
+/// 0, so that entries past it are reached only by walking the nodes.
+class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
+  public:
+    IxSingleElementList();
+    ~IxSingleElementList();
+    IxSingleElementList(const IxSingleElementList&) = delete;
+    IxSingleElementList& operator=(const IxSingleElementList&) = delete;
+
+    /// Appends `key`, which may be NULL or stand in the list already. @return 1, or 0 without memory, the list unchanged.
+    unsigned int Add(void* key);
+
+    /// Unlinks the first node that holds `key`. A NULL key is never found. @return 1, or 0.
+    unsigned int Remove(void* key);
+
+    /// The key at a zero-based index, or NULL. Walks from the head: to visit all entries, follow `GetPtrToListHead`.
+    void* GetKeyAtIndex(unsigned short index) const;
+
+    /// The first node, or NULL when the list is empty.
+    IxSingleElementNode* GetPtrToListHead() const;
+
+    /// Always NULL.
+    IxSingleElementNode* GetPtrToListEnd() const;
+
+    /// The number of entries, modulo 65536.
+    unsigned short GetCount() const { return m_iListCount; }
+
+    /// The node appended last, or NULL when the list is empty.
+    IxSingleElementNode* LastNode() const { return m_pLast; }
+
+    /// Moves all nodes of `other` to the end of this list, in order.
+    void TakeNodesOf(IxSingleElementList& other);
+
+  private:
+    IxSingleElementNode* m_pHead = nullptr;
+    unsigned short m_iListCount = 0;
+    IxSingleElementNode* m_pLast = nullptr;
+};
+
+#endif

@@ -1,0 +1,58 @@
+/// @file
+/// Schema namespace retrieval: the namespace declarations of any XML text (Namespaces in XML 1.0), so that a caller learns
+/// which schemas a document uses before choosing one.
+///
+/// - Root element: any. Every declaration counts, whatever element carries it.
+/// - Prefixes: not looked at.
+/// - Read only. The result serves as namespace binder (`XMLContext::SetNamespaceBinder`).
+#ifndef IX_XML_SCHEMA_NAME_SPACE_RETRIEVAL_H
+#define IX_XML_SCHEMA_NAME_SPACE_RETRIEVAL_H
+
+#include "XmlFamily.h"
+
+/// What `ix_schema_namespace_retrieval::ClassName` returns.
+constexpr char kSchemaNamespaceRetrievalClass[] = "ix_schema_namespace_retrieval";
+
+/// The declarations of a document.
+class IX_XML_EXPORT ix_schema_namespace_retrieval : public XMLObject {
+  public:
+    ~ix_schema_namespace_retrieval() override;
+    const char* ClassName() const override { return kSchemaNamespaceRetrievalClass; }
+    const char* BaseClassName() const override { return "XMLObject"; }
+    const char* TypeName() const override { return "SchemaNamespaceRetrieval"; }
+    int Reserved() const override { return 0; }
+    int IsRootElement() const override { return 1; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Takes over a list of `ix_AttributeValuePair`s, in place of an earlier one, which is deleted. NULL changes nothing.
+    /// @return 1.
+    int setNameSpaceInfo(IxSingleElementList* list);
+    /// The list, which stays with the element; NULL when there are no declarations.
+    IxSingleElementList* getNameSpaceInfo() const;
+
+    /// Owned `ix_AttributeValuePair`s in the order of the text: the name is the prefix, NULL for the default namespace, the
+    /// value is the URI. NULL: none.
+    IxSingleElementList* mNameSpaceInfo = nullptr;
+};
+
+class IX_XML_EXPORT SchemaNamespaceRetrievalDataBinder : public XMLObjectFactory {
+  public:
+    /// A new `ix_schema_namespace_retrieval`.
+    XMLElement* CreateRootElement() override;
+};
+
+class IX_XML_EXPORT SchemaNamespaceRetrievalUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Its `createMarshaller` answers NULL.
+class IX_XML_EXPORT SchemaNamespaceRetrievalContext : public XmlFamilyContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override { return nullptr; }
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

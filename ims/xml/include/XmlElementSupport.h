@@ -1,0 +1,31 @@
+/// @file
+/// Helpers of element classes: the words in which their hooks and setters are written.
+#ifndef IX_XML_ELEMENT_SUPPORT_H
+#define IX_XML_ELEMENT_SUPPORT_H
+
+#include "XMLCommonDef.h"
+
+/// True when `name` is exactly the fixed string `entry`.
+IX_XML_EXPORT bool ixNameIs(const char* name, e_XmlStrRef entry);
+
+/// True when `name` is the end tag of the element `entry`: "/" and the fixed string.
+IX_XML_EXPORT bool ixEndNameIs(const char* name, e_XmlStrRef entry);
+
+/// True when `element` is an object of the class `className`. NULL is of no class.
+IX_XML_EXPORT bool ixIsClass(const XMLElement* element, const char* className);
+
+/// `attribute` as a pair, or NULL when it is none.
+IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
+
+/// Replaces an owned text by a copy of `text`; NULL clears it.
+/// @return 1, or 0 without memory, the earlier text kept.
+IX_XML_EXPORT int ixSetText(char*& field, const char* text);
+
+/// Appends `entry` to a list that is created on first use and registered under `source` and `line`.
+/// @return 1, or 0 without memory, when the entry stays with the caller.
+IX_XML_EXPORT int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line);
+
+/// A pair with copies of both texts, NULL for NULL, registered under `source` and `line`; NULL without memory.
+IX_XML_EXPORT ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line);
+
+#endif

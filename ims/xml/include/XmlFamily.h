@@ -1,0 +1,308 @@
+/// @file
+/// The family template: what the classes of every schema have in common, once.
+///
+/// A schema is served by a context, a binder factory, an unmarshaller, a decoder, a marshaller and its element classes. Each
+/// takes what is particular to it from a plain struct of constants: source path, log texts, namespaces, element tables. The
+/// first families to read are communication waiting (XMLCommunicationWaiting.h) and GRUU (XMLGruu.h);
+/// docs/adding-a-schema.md builds one from nothing.
+#ifndef IX_XML_FAMILY_H
+#define IX_XML_FAMILY_H
+
+#include "XMLFactory.h"
+#include "XMLStack.h"
+#include "XmlCommon.h"
+#include "XmlDecoder.h"
+#include "XmlNamespaceTable.h"
+#include "ixXMLDocGenerator.h"
+
+class XmlFamilyDecoder;
+
+/// @name Decoder
+/// @{
+
+/// What a decoder compares names with.
+enum class XmlNamePolicy {
+    Mapped,    ///< The document's prefixes replaced by the schema's canonical ones, as far as they are known.
+    Stripped,  ///< The local names.
+    Raw        ///< The names as they stand in the document.
+};
+
+/// A name that a decoder knows: a local name, and the prefix it may or must have.
+struct XmlKnownName {
+    enum Prefix { None, Optional, Required };
+
+    e_XmlStrRef local;
+    Prefix use = None;
+    e_XmlStrRef prefix = IX_STR_IX_NULL;
+
+    bool Matches(const char* name) const;
+};
+
+/// An element that a decoder makes an object of.
+struct XmlContainerRow {
+    enum Role {
+        Root,   ///< Becomes the result and goes on the stack.
+        Child,  ///< Offered to the object on top; goes on the stack when that takes it.
+        Leaf    ///< Offered to the object on top; never on the stack.
+    };
+
+    XmlKnownName name;
+    Role role;
+    const char* className;                     ///< The end tag pops an object of this class only; NULL: whatever is on top.
+    XMLElement* (*create)(const char* name);  ///< NULL result: no memory.
+};
+
+/// An attribute that a decoder gives to the object on top without making a pair of it.
+struct XmlAttributeRow {
+    XmlKnownName element;
+    e_XmlStrRef attribute;
+};
+
+/// The log lines of a decoder; those left out are not logged.
+struct XmlDecoderTexts {
+    XmlLogText noElement{};             ///< ProcessElement without a name.
+    XmlLogText noElementName{};         ///< ... or without memory for the name it compares with.
+    XmlLogText noAttribute{};           ///< ProcessAttribute without element or attribute name.
+    XmlLogText noAttributeName{};       ///< ... or without memory for the element name it compares with.
+    XmlLogText noObject{};              ///< An element object could not be created; the name.
+    XmlLogText noPair{};                ///< An attribute pair could not be created; the attribute name.
+    XmlLogText pairRefused{};           ///< The object refused the pair; the attribute name.
+    XmlLogText noFirstNamespace{};      ///< No memory for the first row of the namespace table ...
+    XmlLogText noNamespace{};           ///< ... or for a later one.
+    XmlLogText changeTagNoMemory{};     ///< XMLChangeNamespaceTag, start tags ...
+    XmlLogText changeEndTagNoMemory{};  ///< ... and end tags.
+    XmlLogText mappedTagNoMemory{};     ///< XMLChangeNamespaceTag, for the mapped name: start tags ...
+    XmlLogText mappedEndTagNoMemory{};  ///< ... and end tags.
+    XmlLogText removeTagNoMemory{};     ///< XMLRemoveNameSpaceTag.
+};
+
+/// What is particular to the decoder of a schema.
+struct XmlDecoderInfo {
+    const char* source = nullptr;
+    XmlNamePolicy names = XmlNamePolicy::Raw;
+    XmlDecoderTexts texts{};
+    const XmlContainerRow* containers = nullptr;
+    std::size_t containerCount = 0;
+    const XmlAttributeRow* attributes = nullptr;
+    std::size_t attributeCount = 0;
+    const XmlNamespaceRow* namespaces = nullptr;
+    std::size_t namespaceCount = 0;
+    int pairLine = 0;  ///< Source line under which attribute pairs are registered.
+};
+
+/// Base of the decoders: turns the tokenizer's events into objects.
+///
+/// Start tags of known elements create an object; end tags take it off the stack again. Any other element goes to the
+/// object on top of the stack, and so does every attribute: one that the decoder knows as it is, any other as a pair.
+///
+/// Of the objects that no tree owns (an accepted child that its parent did not keep, a root inside a root) the decoder frees
+/// those that it replaced or that nobody took, when it ends; the result itself is never its own.
+class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
+  public:
+    ~XmlFamilyDecoder() override;
+
+    int Reserved() override { return 0; }
+    int ProcessAttribute(char* element, char* attribute, char* value) override;
+    int ProcessElement(char* element, char* text) override;
+    int ProcessEndOfStartTag(char* element) override;
+    XMLElement* GetSessionData() override { return m_pSessionData; }
+
+    /// Takes over the prefixes of a binder (see `XMLContext::SetNamespaceBinder`). NULL, or a binder without namespaces,
+    /// changes nothing. @return 1.
+    int SetNameSpaceBinderInfo(XMLObject* binder);
+    /// Maps the prefix of `tag` (with or without a leading "/") to the canonical one. @return 1, the result in `MappedTag`;
+    /// 0 for NULL or without memory.
+    int XMLChangeNamespaceTag(const char* tag);
+    /// Removes the prefix. @return 1, the result in `PassName`; 0 for NULL or without memory.
+    int XMLRemoveNameSpaceTag(const char* tag);
+    /// Result of the last `XMLChangeNamespaceTag`; NULL before it, or when it failed.
+    char* MappedTag() const { return m_pMappedTag; }
+    /// Result of the last `XMLRemoveNameSpaceTag`; NULL before it, or when it failed.
+    char* PassName() const { return m_pPassName; }
+
+  protected:
+    explicit XmlFamilyDecoder(const XmlDecoderInfo& info);
+
+    /// A start tag, its name as the decoder compares it.
+    virtual int StartElement(char* name);
+    /// An end tag; `name` begins with "/".
+    virtual int EndElement(char* name, char* text);
+    /// An element that is none of the containers: goes to the object on top of the stack.
+    virtual int OtherElement(char* name, char* text);
+    /// An attribute that is not known: goes to the object on top of the stack as a pair.
+    virtual int OtherAttribute(char* attribute, char* value);
+
+    /// The object on top of the stack, or NULL.
+    XMLElement* Top() const { return m_stack.empty() ? nullptr : static_cast<XMLElement*>(m_stack.top()); }
+    /// Makes `root` the result in place of an earlier one, which the decoder then frees when it ends. @return false without
+    /// memory, when the earlier one stays and `root` is deleted.
+    bool SetSessionData(XMLElement* root);
+
+  private:
+    const XmlContainerRow* FindContainer(const char* name) const;
+    bool IsKnownAttribute(const char* element, const char* attribute) const;
+    char* ComparedName(char* element);
+    void OfferToTop(const XmlContainerRow& row, XMLElement* object);
+    bool KeepOrphan(XMLElement* object);
+
+    XmlCodeGenStack m_stack;
+    XMLElement* m_pSessionData = nullptr;
+    XmlNamespaceTable m_namespaces;
+    char* m_pMappedTag = nullptr;
+    char* m_pPassName = nullptr;
+
+    const XmlDecoderInfo& m_info;
+    XmlWorkText m_mappedText;
+    XmlWorkText m_passText;
+    XMLElement** m_orphans = nullptr;
+    std::size_t m_orphanCount = 0;
+    std::size_t m_orphanSize = 0;
+};
+/// @}
+
+/// @name Unmarshaller
+/// @{
+
+/// What is particular to the unmarshaller of a schema. Log lines left out are not logged.
+struct XmlUnMarshallerInfo {
+    const char* source = nullptr;
+    XmlFamilyDecoder* (*createDecoder)(int line) = nullptr;  ///< Registers the object under `line`.
+    int textTokenizerLine = 0;                               ///< Source lines of the two objects made for a text ...
+    int textDecoderLine = 0;
+    int fileTokenizerLine = 0;  ///< ... and for a file.
+    int fileDecoderLine = 0;
+    XmlLogText textEntered{};  ///< With the document's text.
+    XmlLogText fileEntered{};  ///< With the document's text, once it was read.
+    XmlLogText noCopy{};       ///< The text could not be duplicated.
+    XmlLogText decoded{};
+    XmlLogText notDecoded{};
+};
+
+/// Base of the unmarshallers: wires a tokenizer to a decoder, decodes, and hands over the root.
+class IX_XML_EXPORT XmlFamilyUnMarshaller : public XMLUnMarshaller {
+  public:
+    XMLElement* UnMarshall(const char* text) override;
+    XMLElement* UnMarshall(XMLFile* file) override;
+
+    /// Namespace binder for the decoders to come; stays with the caller.
+    void SetNamespaceBinder(XMLObject* binder) { m_pNamespaceBinder = binder; }
+
+  protected:
+    virtual const XmlUnMarshallerInfo& Info() const = 0;
+
+  private:
+    XMLElement* Decode(const char* text, int tokenizerLine, int decoderLine);
+
+    XMLObject* m_pNamespaceBinder = nullptr;
+};
+/// @}
+
+/// @name Marshaller
+/// @{
+
+/// What is particular to the marshaller of a schema. Log lines left out are not logged.
+struct XmlMarshallerInfo {
+    const char* source = nullptr;
+    bool writesDeclaration = false;  ///< Version "1.0", encoding "UTF-8". Without one, the text starts at the root element.
+    bool entersFirst = false;        ///< `entered` is logged before the root is looked at.
+    const XmlNamespaceRow* namespaces = nullptr;
+    std::size_t namespaceCount = 0;
+    XmlLogText noFirstNamespace{};  ///< No memory for the first row of the namespace table ...
+    XmlLogText noNamespace{};       ///< ... or for a later one.
+    XmlLogText entered{};
+    XmlLogText noRoot{};       ///< The root is NULL.
+    XmlLogText noClassName{};  ///< The root has no class name.
+    XmlLogText deleting{};     ///< The text of the last call is freed.
+    XmlLogText written{};      ///< With the text.
+    XmlLogText failed{};
+};
+
+/// Base of the marshallers: keeps the generator and the last text, and offers short writers for a schema's own.
+class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
+  public:
+    ~XmlFamilyMarshaller() override;
+
+    char* Marshall(XMLElement* root) override;
+    int Reserved() override { return 0; }
+    int IsTruncated() const override { return m_bTruncated ? 1 : 0; }
+
+    /// Takes over the prefixes of a binder, as `XmlFamilyDecoder::SetNameSpaceBinderInfo` does.
+    void SetNameSpaceBinderInfo(XMLObject* binder);
+
+  protected:
+    /// How an attribute ends.
+    enum class Attribute {
+        Open,        ///< More attributes follow.
+        Closing,     ///< The start tag is closed.
+        SelfClosing  ///< The element is closed.
+    };
+
+    explicit XmlFamilyMarshaller(const XmlMarshallerInfo& info);
+
+    /// Writes the document. @return 1, or 0.
+    virtual int AddRootElementToXml(XMLElement* root) = 0;
+
+    /// @name Writers, through the generator. Names are entries of the string table.
+    /// @{
+    void StartElement(e_XmlStrRef name);
+    /// A start tag that attributes follow.
+    void StartElementOpen(e_XmlStrRef name);
+    void EndElement(e_XmlStrRef name);
+    /// An element with a text; nothing for NULL.
+    void AddTextElement(e_XmlStrRef name, const char* text);
+    void AddDecimalElement(e_XmlStrRef name, std::int64_t value);
+    void AddAttribute(e_XmlStrRef name, const char* value, Attribute end);
+    void AddDecimalAttribute(e_XmlStrRef name, std::int64_t value, Attribute end);
+    /// Each pair as an attribute, the tag left open.
+    void AddAttributeList(const IxSingleElementList* list);
+    /// Calls `add` for each entry in order until one answers 0. @return 1, or 0.
+    int AddChildList(const IxSingleElementList* list, int (*add)(XmlFamilyMarshaller& self, XMLElement* child));
+    /// @}
+
+    /// A copy of the document prefix of a canonical prefix, to be freed (`FreeElement`); NULL when there is none.
+    char* AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const;
+
+    IxXMLDocGenerator m_generator;
+
+  private:
+    int KeepText();
+
+    const XmlMarshallerInfo& m_info;
+    char* m_pXml = nullptr;  ///< The last text; owned.
+    bool m_bTruncated = false;
+    XmlNamespaceTable m_namespaces;
+};
+/// @}
+
+/// @name Context
+/// @{
+
+/// Base of the contexts.
+class IX_XML_EXPORT XmlFamilyContext : public XMLContext {
+  public:
+    XMLMarshaller* createMarshaller() override;
+    XMLUnMarshaller* createUnMarshaller() override;
+    XMLObjectFactory* createBinderFactory() override;
+
+  protected:
+    /// @name New, registered objects of the schema; NULL when there are none.
+    /// @{
+    virtual XmlFamilyMarshaller* NewMarshaller() = 0;
+    virtual XmlFamilyUnMarshaller* NewUnMarshaller() = 0;
+    virtual XMLObjectFactory* NewBinderFactory() = 0;
+    /// @}
+};
+
+/// Base of the contexts of the supplementary services, which take a namespace binder.
+class IX_XML_EXPORT XmlBinderContext : public XmlFamilyContext {
+  public:
+    XMLMarshaller* createMarshaller() override;
+    XMLUnMarshaller* createUnMarshaller() override;
+    int SetNamespaceBinder(XMLObject* binder) override;
+
+  private:
+    XMLObject* m_pNamespaceBinder = nullptr;  ///< Not owned.
+};
+/// @}
+
+#endif

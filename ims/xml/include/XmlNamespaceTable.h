@@ -1,0 +1,52 @@
+/// @file
+/// The prefixes that a decoder or marshaller knows: its own, and what the document at hand calls them.
+#ifndef IX_XML_NAMESPACE_TABLE_H
+#define IX_XML_NAMESPACE_TABLE_H
+
+#include "XMLCommonDef.h"
+#include "XmlPlatform.h"
+
+/// One namespace of a schema, as a constant.
+struct XmlNamespaceRow {
+    e_XmlStrRef canonicalPrefix;  ///< The prefix that the schema's own comparisons use.
+    e_XmlStrRef documentPrefix;   ///< The prefix assumed until a binder says otherwise; `IX_STR_IX_NULL`: none.
+    e_XmlStrRef uri;
+};
+
+/// A chain of namespaces, copied from constants, whose document prefixes can be replaced.
+class IX_XML_EXPORT XmlNamespaceTable {
+  public:
+    struct Entry {
+        const char* canonicalPrefix;
+        const char* documentPrefix;  ///< NULL: none.
+        const char* uri;
+        char* ownPrefix;  ///< The document prefix when a binder replaced it; owned.
+        Entry* next;
+    };
+
+    XmlNamespaceTable() = default;
+    ~XmlNamespaceTable();
+    XmlNamespaceTable(const XmlNamespaceTable&) = delete;
+    XmlNamespaceTable& operator=(const XmlNamespaceTable&) = delete;
+
+    /// Copies the rows. @return the number of rows copied; fewer than `count` when memory ran out.
+    std::size_t Build(const XmlNamespaceRow* rows, std::size_t count);
+
+    /// For every pair of `list` (prefix, URI) in order: the first entry with that URI takes the prefix, NULL included.
+    /// Unknown URIs are passed over.
+    void Bind(const IxSingleElementList* list);
+
+    /// The entry that the document calls by the `length` characters at `prefix`, or NULL.
+    const Entry* FindDocumentPrefix(const char* prefix, std::size_t length) const;
+
+    /// The entry of a canonical prefix, or NULL.
+    const Entry* FindCanonicalPrefix(const char* prefix) const;
+
+  private:
+    static Entry* CreateEntry(const XmlNamespaceRow& row);
+    static void SetDocumentPrefix(Entry& entry, const char* prefix);
+
+    Entry* m_pFirst = nullptr;
+};
+
+#endif

@@ -1,0 +1,53 @@
+#include "Gruu.h"
+
+#include <iterator>
+
+#include "XMLGruu.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/Gruu";
+
+constexpr XmlKnownName kPubGruu = {IX_STR_PUB_GRUU};
+constexpr XmlKnownName kTempGruu = {IX_STR_TEMP_GRUU};
+
+constexpr XmlContainerRow kContainers[] = {
+    {kPubGruu, XmlContainerRow::Root, nullptr, [](const char*) -> XMLElement* { return IX_NEW(ix_pub_gruu); }},
+    // Required: the end tag of a temporary GRUU is not recognised, so it pops nothing (no class has an empty name).
+    {kTempGruu, XmlContainerRow::Root, "", [](const char*) -> XMLElement* { return IX_NEW(ix_temp_gruu); }},
+};
+
+constexpr XmlAttributeRow kAttributes[] = {
+    {kPubGruu, IX_STR_URI},
+    {kTempGruu, IX_STR_URI},
+    {kTempGruu, IX_STR_FIRST_CSEQ},
+};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.names = XmlNamePolicy::Stripped;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    info.pairLine = __LINE__;
+    info.texts.noElement = {3, kSchemaCode, __LINE__, "<XML Module>: XMLGruuDecoder: n_strElement is NULL"};
+    info.texts.noAttribute = {3, kSchemaCode, __LINE__, "<XML Module>: XMLGruuDecoder: n_strElement or n_strAttr is NULL"};
+    info.texts.noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};
+    info.texts.noPair = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at any attribute = \"%s\""};
+    info.texts.pairRefused = {3, kSchemaCode, __LINE__,
+                              "<XML Module>: Any attribute is not allowed for attribute = \"%s\""};
+    info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,
+                                    "XMLGruuDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLGruuDecoder::XMLGruuDecoder() : XmlFamilyDecoder(kInfo) {}
+
+int XMLGruuDecoder::OtherElement(char* /*name*/, char* /*text*/) {
+    return 0;
+}

@@ -1,0 +1,106 @@
+#include "XMLCommunicationWaiting.h"
+
+#include "CommunicationWaiting.h"
+#include "XmlElementSupport.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLCommunicationWaiting";
+
+constexpr char kClass[] = "communication-waiting";
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCommunicationWaitingDecoder); };
+    info.textTokenizerLine = 431;
+    info.textDecoderLine = 433;
+    info.fileTokenizerLine = 468;
+    info.fileDecoderLine = 470;
+    info.noCopy = {4, kSchemaCode, 426, "<XML Module>: StrDup failed in CommunicationWaitingUnMarshaller::UnMarshall"};
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.namespaces = kCommunicationWaitingNamespaces;
+    info.namespaceCount = kCommunicationWaitingNamespaceCount;
+    info.noFirstNamespace = {
+        2, kSchemaCode, 117,
+        "Communication_waitingMarshaller :: Communication_waitingMarshaller: Malloc cannot allocate memory"};
+    info.noNamespace = {
+        2, kSchemaCode, 120,
+        "Communication_waitingMarshaller :: Communication_waitingMarshaller: Malloc cannot allocate memory"};
+    info.entered = {3, kSchemaCode, 283, "<XML Module>: Communication_waitingMarshaller :: Marshall"};
+    info.deleting = {
+        3, kSchemaCode, 288,
+        "<XML Module>: Communication_waitingMarshaller :: Marshall: Deleting mCommunicationWaitingXml"};
+    info.written = {2, kSchemaCode, 313, "<XML Module>: Communication_waitingMarshaller XML %s"};
+    info.failed = {2, kSchemaCode, 301, "<XML Module>: Communication_waitingMarshaller XML Failed!"};
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+constexpr XmlLogText kAddElement = {2, kSchemaCode, 194, "<XML Module>: AddCommunication_waitingElementToXml"};
+
+}  // namespace
+
+const char* ix_communication_waiting::ClassName() const {
+    return kClass;
+}
+
+int ix_communication_waiting::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    if (pair == nullptr) return setActiveValue(ixNameIs(value, IX_STR_TRUE) ? 1 : 0);
+    // An `active` of some child element arrives as a pair and is not kept.
+    if (ixNameIs(attribute, IX_STR_ACTIVE)) return 1;
+    ix_AttributeValuePair* const extension = ixAsPair(pair);
+    if (extension != nullptr) addExtension(extension);
+    return 1;
+}
+
+const char* ix_communication_waiting::SourceFile() const {
+    return kSourceFile;
+}
+
+XMLElement* CommunicationWaitingDataBinder::CreateRootElement() {
+    return IX_NEW_AT(403, ix_communication_waiting);
+}
+
+const XmlUnMarshallerInfo& CommunicationWaitingUnMarshaller::Info() const {
+    return kUnMarshallerInfo;
+}
+
+Communication_waitingMarshaller::Communication_waitingMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+
+int Communication_waitingMarshaller::AddRootElementToXml(XMLElement* root) {
+    if (!ixIsClass(root, kClass)) return 0;
+    return AddCommunication_waitingElementToXml(static_cast<ix_communication_waiting*>(root));
+}
+
+int Communication_waitingMarshaller::AddCommunication_waitingElementToXml(ix_communication_waiting* element) {
+    ixLog(kSourceFile, kAddElement);
+    char* const prefix = AddNameSpaceChange(IX_STR_SS);
+    m_generator.ixSetXmlNamespace(prefix);
+    StartElementOpen(IX_STR_COMMUNICATION_WAITING);
+    m_generator.ixSetXmlNamespace(nullptr);
+    AddAttributeList(element->mExtensionList);
+    AddAttribute(IX_STR_ACTIVE,
+                 ix_xml_common_array_definition::getStringName(element->mActive != 0 ? IX_STR_TRUE : IX_STR_FALSE),
+                 Attribute::SelfClosing);
+    FreeElement(prefix);
+    return 1;
+}
+
+XmlFamilyMarshaller* CommunicationWaitingContext::NewMarshaller() {
+    return IX_NEW_AT(331, Communication_waitingMarshaller);
+}
+
+XmlFamilyUnMarshaller* CommunicationWaitingContext::NewUnMarshaller() {
+    return IX_NEW_AT(380, CommunicationWaitingUnMarshaller);
+}
+
+XMLObjectFactory* CommunicationWaitingContext::NewBinderFactory() {
+    return IX_NEW_AT(389, CommunicationWaitingDataBinder);
+}

@@ -1,0 +1,87 @@
+#include "XMLFactory.h"
+
+#include "XMLCommunicationWaiting.h"
+#include "XMLGruu.h"
+#include "XMLSchemaNameSpaceRetrieval.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLFactory";
+
+constexpr char kSimservs[] = "http://uri.etsi.org/ngn/params/xml/simservs/xcap";
+
+/// One row a schema, in the order of the numbers.
+constexpr XmlSchemaInfo kSchemas[] = {
+    {IX_XML_SCHEMA_IS_COMPOSING, "is-composing", "isComposing", "urn:ietf:params:xml:ns:im-iscomposing", true, false,
+     nullptr},
+    {IX_XML_SCHEMA_RESOURCE_LISTS, "resource-lists", "resource-lists", "urn:ietf:params:xml:ns:resource-lists", true,
+     false, nullptr},
+    {IX_XML_SCHEMA_CONFERENCE_INFO, "conference-info", "conference-info", "urn:ietf:params:xml:ns:conference-info", true,
+     false, nullptr},
+    {IX_XML_SCHEMA_IMDN, "imdn", "imdn", "urn:ietf:params:xml:ns:imdn", true, false, nullptr},
+    {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting", "communication-waiting", kSimservs, true, true,
+     []() -> XMLContext* { return IX_NEW(CommunicationWaitingContext); }},
+    {IX_XML_SCHEMA_OIP, "oip", "originating-identity-presentation", kSimservs, true, true, nullptr},
+    {IX_XML_SCHEMA_TIP, "tip", "terminating-identity-presentation", kSimservs, true, true, nullptr},
+    {IX_XML_SCHEMA_COMMUNICATION_DIVERSION, "communication-diversion", "communication-diversion", kSimservs, true, true,
+     nullptr},
+    {IX_XML_SCHEMA_COMMUNICATION_BARRING, "communication-barring",
+     "incoming-communication-barring outgoing-communication-barring", kSimservs, true, true, nullptr},
+    {IX_XML_SCHEMA_SIMSERVS, "simservs", "simservs", kSimservs, true, true, nullptr},
+    {IX_XML_SCHEMA_XCAP_ERROR, "xcap-error", "xcap-error", "urn:ietf:params:xml:ns:xcap-error", true, false, nullptr},
+    {IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "wap-provisioning", "wap-provisioningdoc", "", false, false, nullptr},
+    {IX_XML_SCHEMA_VOLTE_CONFIG_INFO, "volte-config-info", "volte-config-info", "", false, false, nullptr},
+    {IX_XML_SCHEMA_PRESENCE, "presence", "presence", "urn:ietf:params:xml:ns:pidf", true, false, nullptr},
+    {IX_XML_SCHEMA_RLS_SERVICES, "rls-services", "rls-services", "urn:ietf:params:xml:ns:rls-services", true, false,
+     nullptr},
+    {IX_XML_SCHEMA_LIST, "rlmi", "list", "urn:ietf:params:xml:ns:rlmi", true, false, nullptr},
+    {IX_XML_SCHEMA_XCAP_DIRECTORY, "xcap-directory", "xcap-directory", "urn:oma:xml:xdm:xcap-directory", true, false,
+     nullptr},
+    {IX_XML_SCHEMA_FILE, "file-transfer", "file", "", true, false, nullptr},
+    {IX_XML_SCHEMA_MEDIA_CONTROL, "media-control", "media_control", "", true, false, nullptr},
+    {IX_XML_SCHEMA_CALL_WAITING_INDICATION, "call-waiting-indication", "3gpp-ims", "", true, false, nullptr},
+    {IX_XML_SCHEMA_CW_INDICATION, "cw-indication", "ims-3gpp", "", true, false, nullptr},
+    {IX_XML_SCHEMA_RCS_TERMS_INFO, "rcs-terms-info", "rcs-terms-info", "", true, false, nullptr},
+    {IX_XML_SCHEMA_BOOTSTRAPPING_INFO, "bootstrapping-info", "BootstrappingInfo", "uri:3gpp-gba", true, false, nullptr},
+    {IX_XML_SCHEMA_GRUU, "gruu", "pub-gruu temp-gruu", "urn:ietf:params:xml:ns:gruuinfo", true, false,
+     []() -> XMLContext* { return IX_NEW(GruuContext); }},
+    {IX_XML_SCHEMA_REGINFO, "reginfo", "reginfo", "urn:ietf:params:xml:ns:reginfo", true, false, nullptr},
+    {IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL, "namespaces", "*", "", false, false,
+     []() -> XMLContext* { return IX_NEW(SchemaNamespaceRetrievalContext); }},
+};
+
+}  // namespace
+
+int XMLMarshaller::IsTruncated() const {
+    return 0;
+}
+
+XMLContext::~XMLContext() {
+    IX_DELETE(m_pMarshaller);
+    IX_DELETE(m_pUnMarshaller);
+    IX_DELETE(m_pBinderFactory);
+}
+
+int XMLContext::SetNamespaceBinder(XMLObject* /*binder*/) {
+    return 0;
+}
+
+XMLContext* XMLFactory::newInstance(eXMLSchemaID id) {
+    const XmlSchemaInfo* const schema = SchemaInfo(id);
+    return schema != nullptr && schema->create != nullptr ? schema->create() : nullptr;
+}
+
+void XMLFactory::deleteContext(XMLContext* context) {
+    IX_DELETE(context);
+}
+
+void XMLFactory::DeleteElement(XMLElement* element) {
+    IX_DELETE(element);
+}
+
+const XmlSchemaInfo* XMLFactory::SchemaInfo(int id) {
+    for (const XmlSchemaInfo& schema : kSchemas) {
+        if (schema.id == id) return &schema;
+    }
+    return nullptr;
+}

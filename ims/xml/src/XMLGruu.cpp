@@ -1,0 +1,247 @@
+#include "XMLGruu.h"
+
+#include "Gruu.h"
+#include "XmlElementSupport.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLGruu";
+
+constexpr char kPubGruuClass[] = "ix_pub_gruu";
+constexpr char kTempGruuClass[] = "ix_temp_gruu";
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLGruuDecoder); };
+    info.textTokenizerLine = info.textDecoderLine = __LINE__;
+    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
+    info.textEntered = {2, kSchemaCode, __LINE__, "<XML Module>: In GruuUnMarshaller::UnMarshall with pXmlString=%s"};
+    info.fileEntered = {2, kSchemaCode, __LINE__,
+                        "<XML Module>: In GruuUnMarshaller::UnMarshall(pfile) with pstring=%s"};
+    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in GruuUnMarshaller::UnMarshall"};
+    info.decoded = {2, kSchemaCode, __LINE__, "<XML Module>: Xml Decoder Success"};
+    info.notDecoded = {3, kSchemaCode, __LINE__, "<XML Module>: Xml Decoder failed because of some error in XML"};
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.writesDeclaration = true;
+    info.entersFirst = true;
+    info.entered = {1, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller :: Marshall"};
+    info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller :: Incoming obj is NULL"};
+    info.noClassName = {3, kSchemaCode, __LINE__,
+                        "<XML Module>: GruuMarshaller :: Incoming pObj->ClassName() is NULL"};
+    info.deleting = {1, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller :: Marshall: Deleting mGruuXml"};
+    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller XML %s"};
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+constexpr XmlLogText kPubRefused = {3, kSchemaCode, __LINE__,
+                                    "<XML Module>: Any attribute is not allowed in class ix_pub_gruu"};
+constexpr XmlLogText kTempRefused = {3, kSchemaCode, __LINE__,
+                                     "<XML Module>: Any attribute is not allowed in class ix_temp_gruu"};
+constexpr XmlLogText kInnerPubRefused = {
+    3, kSchemaCode, __LINE__, "<XML Module>: Any attribute is not allowed in class ix_ns_gruuinfo_pubGruu"};
+constexpr XmlLogText kInnerTempRefused = {
+    3, kSchemaCode, __LINE__, "<XML Module>: Any attribute is not allowed in class ix_ns_gruuinfo_tempGruu"};
+constexpr XmlLogText kNoType = {3, kSchemaCode, __LINE__, "<XML Module>: GruuDataBinder :: Gruutype is NULL"};
+constexpr XmlLogText kCreateRoot = {2, kSchemaCode, __LINE__,
+                                    "<XML Module>: In GruuDataBinder::CreateRootElement with m_pGruutype=%s"};
+constexpr XmlLogText kWritesPub = {2, kSchemaCode, __LINE__,
+                                   "<XML Module>: GruuMarshaller :: Marshall: obj is pub-gruu"};
+// Required: a temporary GRUU is announced as a public one, too.
+constexpr XmlLogText kWritesTemp = {2, kSchemaCode, __LINE__,
+                                    "<XML Module>: GruuMarshaller :: Marshall: obj is pub-gruu"};
+constexpr XmlLogText kPubFailed = {2, kSchemaCode, __LINE__,
+                                   "<XML Module>: GruuMarshaller XML Failed at AddPubGruuElementToXml!"};
+constexpr XmlLogText kTempFailed = {2, kSchemaCode, __LINE__,
+                                    "<XML Module>: GruuMarshaller XML Failed at AddTempGruuElementToXml!"};
+constexpr XmlLogText kAddPub = {2, kSchemaCode, __LINE__, "<XML Module>: AddPubGruuElementToXml"};
+constexpr XmlLogText kAddTemp = {2, kSchemaCode, __LINE__, "<XML Module>: AddTempGruuElementToXml"};
+constexpr XmlLogText kPubWithoutUri = {3, kSchemaCode, __LINE__,
+                                       "<XML Module>: AddPubGruuElementToXml: Uri is a mandatory attribute"};
+constexpr XmlLogText kTempWithoutUri = {3, kSchemaCode, __LINE__,
+                                        "<XML Module>: AddTempGruuElementToXml: Uri is a mandatory attribute"};
+
+constexpr XmlField kPubGruuFields[] = {
+    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_pub_gruu::mUri)},
+};
+constexpr XmlFieldTable kPubGruuTable = {nullptr, kPubGruuFields, 1};
+
+constexpr XmlField kTempGruuFields[] = {
+    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_temp_gruu::mUri)},
+    {XmlFieldKind::Number64, IX_STR_FIRST_CSEQ, XmlInt64Member(&ix_temp_gruu::mFirstCseq), kXmlAlwaysSet},
+};
+constexpr XmlFieldTable kTempGruuTable = {nullptr, kTempGruuFields, 2};
+
+/// True when `text` is a leading part of `word`.
+bool Begins(const char* word, const char* text) {
+    return __strncmp(word, text, __strlen(text)) == 0;
+}
+
+}  // namespace
+
+ix_pub_gruu::~ix_pub_gruu() {
+    XmlFields::Release(this, kPubGruuTable);
+}
+
+const char* ix_pub_gruu::ClassName() const {
+    return kPubGruuClass;
+}
+
+const XmlFieldTable* ix_pub_gruu::FieldTable() const {
+    return &kPubGruuTable;
+}
+
+int ix_pub_gruu::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    if (ixNameIs(attribute, IX_STR_URI)) return pair == nullptr ? setUriValue(value) : 0;
+    LogRefusal();
+    return 0;
+}
+
+int ix_pub_gruu::setUriValue(const char* uri) {
+    return ixSetText(mUri, uri);
+}
+
+void ix_pub_gruu::LogRefusal() const {
+    ixLog(kSourceFile, kPubRefused);
+}
+
+ix_temp_gruu::~ix_temp_gruu() {
+    XmlFields::Release(this, kTempGruuTable);
+}
+
+const char* ix_temp_gruu::ClassName() const {
+    return kTempGruuClass;
+}
+
+const XmlFieldTable* ix_temp_gruu::FieldTable() const {
+    return &kTempGruuTable;
+}
+
+int ix_temp_gruu::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    if (ixNameIs(attribute, IX_STR_FIRST_CSEQ)) return pair == nullptr ? setFirstCseqValue(__atoi64(value)) : 0;
+    if (ixNameIs(attribute, IX_STR_URI)) return pair == nullptr ? setUriValue(value) : 0;
+    LogRefusal();
+    return 0;
+}
+
+int ix_temp_gruu::setUriValue(const char* uri) {
+    return ixSetText(mUri, uri);
+}
+
+int ix_temp_gruu::setFirstCseqValue(std::int64_t firstCseq) {
+    mFirstCseq = firstCseq;
+    return 1;
+}
+
+void ix_temp_gruu::LogRefusal() const {
+    ixLog(kSourceFile, kTempRefused);
+}
+
+void ix_ns_gruuinfo_pubGruu::LogRefusal() const {
+    ixLog(kSourceFile, kInnerPubRefused);
+}
+
+void ix_ns_gruuinfo_tempGruu::LogRefusal() const {
+    ixLog(kSourceFile, kInnerTempRefused);
+}
+
+GruuDataBinder::~GruuDataBinder() {
+    __free(m_pGruutype);
+}
+
+int GruuDataBinder::setGruutypeValue(const char* type) {
+    return ixSetText(m_pGruutype, type);
+}
+
+XMLElement* GruuDataBinder::CreateRootElement() {
+    if (m_pGruutype == nullptr) {
+        ixLog(kSourceFile, kNoType);
+        return nullptr;
+    }
+    ixLog(kSourceFile, kCreateRoot, m_pGruutype);
+    if (Begins(ix_xml_common_array_definition::getStringName(IX_STR_PUB_GRUU), m_pGruutype)) return CreatePubGruuElement();
+    if (Begins(ix_xml_common_array_definition::getStringName(IX_STR_TEMP_GRUU), m_pGruutype)) {
+        return CreateTempGruuElement();
+    }
+    return nullptr;
+}
+
+ix_pub_gruu* GruuDataBinder::CreatePubGruuElement() {
+    return IX_NEW(ix_pub_gruu);
+}
+
+ix_temp_gruu* GruuDataBinder::CreateTempGruuElement() {
+    return IX_NEW(ix_temp_gruu);
+}
+
+const XmlUnMarshallerInfo& GruuUnMarshaller::Info() const {
+    return kUnMarshallerInfo;
+}
+
+GruuMarshaller::GruuMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+
+int GruuMarshaller::AddRootElementToXml(XMLElement* root) {
+    // Required: a class name that is only the beginning of the expected one selects the writer as well. Such an object is
+    // none of ours, so the writer gets nothing to read from.
+    const char* const name = root->ClassName();
+    if (Begins(kPubGruuClass, name)) {
+        ixLog(kSourceFile, kWritesPub);
+        const bool exact = ixIsClass(root, kPubGruuClass);
+        if (AddPubGruuElementToXml(exact ? static_cast<ix_pub_gruu*>(root) : nullptr) != 0) return 1;
+        ixLog(kSourceFile, kPubFailed);
+        return 0;
+    }
+    if (Begins(kTempGruuClass, name)) {
+        ixLog(kSourceFile, kWritesTemp);
+        const bool exact = ixIsClass(root, kTempGruuClass);
+        if (AddTempGruuElementToXml(exact ? static_cast<ix_temp_gruu*>(root) : nullptr) != 0) return 1;
+        ixLog(kSourceFile, kTempFailed);
+        return 0;
+    }
+    return 1;
+}
+
+int GruuMarshaller::AddPubGruuElementToXml(ix_pub_gruu* element) {
+    ixLog(kSourceFile, kAddPub);
+    StartElementOpen(IX_STR_PUB_GRUU);
+    if (element == nullptr || element->mUri == nullptr) {
+        ixLog(kSourceFile, kPubWithoutUri);
+        return 0;
+    }
+    AddAttribute(IX_STR_URI, element->mUri, Attribute::SelfClosing);
+    return 1;
+}
+
+int GruuMarshaller::AddTempGruuElementToXml(ix_temp_gruu* element) {
+    ixLog(kSourceFile, kAddTemp);
+    StartElementOpen(IX_STR_TEMP_GRUU);
+    // The number is written as far as 32 bits hold it.
+    if (element != nullptr) {
+        AddDecimalAttribute(IX_STR_FIRST_CSEQ, static_cast<std::uint32_t>(element->mFirstCseq), Attribute::Open);
+    }
+    if (element == nullptr || element->mUri == nullptr) {
+        ixLog(kSourceFile, kTempWithoutUri);
+        return 0;
+    }
+    AddAttribute(IX_STR_URI, element->mUri, Attribute::SelfClosing);
+    return 1;
+}
+
+XmlFamilyMarshaller* GruuContext::NewMarshaller() {
+    return IX_NEW(GruuMarshaller);
+}
+
+XmlFamilyUnMarshaller* GruuContext::NewUnMarshaller() {
+    return IX_NEW(GruuUnMarshaller);
+}
+
+XMLObjectFactory* GruuContext::NewBinderFactory() {
+    return IX_NEW(GruuDataBinder);
+}

@@ -1,0 +1,554 @@
+#include "XmlDecoder.h"
+
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XmlDecoder";
+
+constexpr XmlLogText kNoMemoryForName = {2, kDecoderCode, 121, "XmlDecoder::PushElement"};
+constexpr XmlLogText kDecode = {2, kDecoderCode, 180, "XmlDecoder::n_count = %d"};
+constexpr XmlLogText kNoText = {2, kDecoderCode, 183, "XmlDecoder::Decode n_strXML is null"};
+constexpr XmlLogText kAlreadyComplete = {
+    2, kDecoderCode, 189, "XmlDecoder::Decode m_DecodeState = IX_XML_PARSE_COMPLETE ret IX_XML_SUCCESS"};
+constexpr XmlLogText kNoMemoryForEndName = {2, kDecoderCode, 323,
+                                            "<XML Decoder>XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"};
+constexpr XmlLogText kEndTagRejected = {
+    3, kDecoderCode, 331, "<XML Decoder>:ProcessElement(pStrEndElement, start) failed when pStrEndElement=\"%s\""};
+constexpr XmlLogText kMismatch = {
+    3, kDecoderCode, 342,
+    "<XML Decoder>:stack mismatch happened when stored value is \"%s\" and ret:IX_XML_ERROR"};
+constexpr XmlLogText kNothingOpen = {3, kDecoderCode, 360, "<XML Decoder>:stack is empty when decodeBegin is not"};
+constexpr XmlLogText kSelfClosingFailed = {
+    3, kDecoderCode, 374, "<XML Decoder>:Decoder Failed in DecodeAttributes and ret:IX_XML_PARSE_ERROR"};
+constexpr XmlLogText kStartTagFailed = {3, kDecoderCode, 401, "<XML Decoder>:Decoder Failed in DecodeAttributes"};
+constexpr XmlLogText kNothingBehindTag = {
+    3, kDecoderCode, 428, "<XML Decoder>:Decoder Failed as stack is not empty at end, reason: IX_XML_INCOMPLETE"};
+constexpr XmlLogText kPushFailed = {
+    3, kDecoderCode, 439, "<XML Decoder>:Decoder Failed as stack is not empty at end, reason: IX_XML_PARSE_ERROR"};
+constexpr XmlLogText kComplete = {3, kDecoderCode, 450, "<XML Decoder>:Decoder Success"};
+constexpr XmlLogText kTagCutOff = {3, kDecoderCode, 459, "<XML Decoder>:IX_XML_PARSE_CONTINUE ret:IX_XML_INCOMPLETE "};
+constexpr XmlLogText kBufferTooSmall = {4, kBufferCheckCode, 467,
+                                        "ixDplMemsmove - src1_size buffer size less than src2_size size"};
+constexpr XmlLogText kNoMoreTags = {3, kDecoderCode, 476, "<XML Decoder>:IX_XML_PARSE_CONTINUE ret:IX_XML_INCOMPLETE"};
+constexpr XmlLogText kNoTagContent = {2, kDecoderCode, 501, "XmlDecoder::DecodeAttributes n_strAttrList is null"};
+constexpr XmlLogText kNoMemoryForTag = {2, kDecoderCode, 510,
+                                        "XmlDecoder:: pStrAttrCheck: Malloc unable to allocate memory"};
+// Required: this one line has the event number of the schema families.
+constexpr XmlLogText kNoMemoryForList = {2, kSchemaCode, 540,
+                                         "XmlDecoder:: Malloc failed, Unable to validate attributeList"};
+constexpr XmlLogText kValidated = {2, kDecoderCode, 547, "XmlDecoder:: DecodeAttributes %d"};
+constexpr XmlLogText kListInvalid = {2, kDecoderCode, 552, "XmlDecoder:: DecodeAttributes - Attribute list invalid"};
+constexpr XmlLogText kNoMemoryForSelfEnd = {2, kDecoderCode, 627,
+                                            "XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"};
+constexpr XmlLogText kNoToken = {2, kDecoderCode, 844, "XmlDecoder::N_strtok incomming params are null"};
+constexpr XmlLogText kNoMemoryToUnescape = {2, kDecoderCode, 929, "XmlDecoder::DecodeAttributes  OUT OF MEMORY!!!! "};
+
+/// What a step of the scan says to `Decode`, beside IX_XML_ERROR and IX_XML_INCOMPLETE (return it, state kept).
+enum Step { kGoOn = 2, kTagDone = 3, kSyntaxError = 4 };
+
+/// A set of byte values.
+class ByteSet {
+  public:
+    constexpr ByteSet(const char* bytes, std::size_t most) : m_has() {
+        for (std::size_t i = 0; i < most && bytes[i] != '\0'; ++i) m_has[static_cast<unsigned char>(bytes[i])] = true;
+    }
+    bool Has(char byte) const { return m_has[static_cast<unsigned char>(byte)]; }
+
+  private:
+    bool m_has[256];
+};
+
+constexpr std::size_t kMostDelimiters = 32;
+constexpr ByteSet kSpaces(" \t\r\n", kMostDelimiters);
+constexpr ByteSet kEquals("=", kMostDelimiters);
+constexpr ByteSet kListStops("\"'=", kMostDelimiters);
+
+/// Smallest text kept for an open name, so that names of usual length never need a new one.
+constexpr std::size_t kLeastNameSize = 32;
+
+bool IsSpace(char byte) {
+    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
+}
+
+/// Cuts off the token in front of `end`: the end of the text, or a delimiter that becomes the NUL of the token.
+void EndToken(char* end, char** rest) {
+    if (*end != '\0') *end++ = '\0';
+    *rest = end;
+}
+
+char* CutToken(char* text, const ByteSet& delimiters, char** rest) {
+    while (*text != '\0' && delimiters.Has(*text)) ++text;
+    if (*text == '\0') {
+        *rest = text;
+        return nullptr;
+    }
+    char* end = text;
+    while (*end != '\0' && !delimiters.Has(*end)) ++end;
+    EndToken(end, rest);
+    return text;
+}
+
+/// `CutToken` with one delimiter, for texts long enough for a search to be faster than a loop. `end` is the NUL.
+char* CutAt(char* text, char delimiter, char* end, char** rest) {
+    while (*text == delimiter) ++text;
+    if (text == end) {
+        *rest = end;
+        return nullptr;
+    }
+    void* const found = std::memchr(text, delimiter, static_cast<std::size_t>(end - text));
+    EndToken(found != nullptr ? static_cast<char*>(found) : end, rest);
+    return text;
+}
+
+}  // namespace
+
+int XmlDecoderSchema::ReservedLast() {
+    return 0;
+}
+
+XmlDecoder::XmlDecoder() {
+    InitXmlDecoder();
+}
+
+XmlDecoder::~XmlDecoder() {
+    ResetXmlDecoder();
+}
+
+void XmlDecoder::InitXmlDecoder() {
+    if (m_pElementStack == nullptr) {
+        m_pElementStack = IX_TRACKED_NEW(kTokenizerModule, kSourceFile, 100, BuddyLinkList, (nullptr));
+    }
+    __free(m_pPending);
+    m_pPending = nullptr;
+    m_pendingLength = 0;
+    m_pendingSize = 0;
+    m_tagBegin = 0;
+    m_tagSearched = 0;
+    m_DecodeState = IX_XML_PARSE_INIT;
+}
+
+void XmlDecoder::ResetXmlDecoder() {
+    __free(m_pPending);
+    m_pPending = nullptr;
+    m_pendingLength = 0;
+    m_pendingSize = 0;
+    FreeOpenNames();
+    if (m_pElementStack == nullptr) return;
+    m_pElementStack->FreeList(FreeElement);
+    IX_TRACKED_DELETE(kTokenizerModule, m_pElementStack);
+    m_pElementStack = nullptr;
+}
+
+/// Joins `text` to what the last call left. The buffer of a document that comes in many pieces grows in steps, so that
+/// small pieces do not copy it again and again.
+bool XmlDecoder::AppendToPending(const char* text, std::size_t length) {
+    const std::size_t needed = m_pendingLength + length + 1;
+    if (needed > INT_MAX) return false;
+    if (needed > m_pendingSize) {
+        const std::size_t size = m_pendingLength == 0 || needed > 2 * m_pendingSize ? needed : 2 * m_pendingSize;
+        char* const joined = static_cast<char*>(__malloc(size));
+        if (joined == nullptr) return false;
+        if (m_pendingLength != 0) std::memcpy(joined, m_pPending, m_pendingLength);
+        __free(m_pPending);
+        m_pPending = joined;
+        m_pendingSize = size;
+    }
+    const void* const nul = std::memchr(text, '\0', length);
+    if (nul != nullptr) length = static_cast<std::size_t>(static_cast<const char*>(nul) - text);
+    std::memcpy(m_pPending + m_pendingLength, text, length);
+    m_pendingLength += length;
+    m_pPending[m_pendingLength] = '\0';
+    return true;
+}
+
+/// Keeps the pending text from `rest` on for the next call. The "<" at `begin` has no ">" behind it so far.
+int XmlDecoder::KeepFrom(char* rest, char* begin) {
+    ixLog(kSourceFile, kTagCutOff);
+    m_DecodeState = IX_XML_PARSE_CONTINUE;
+    const auto offset = static_cast<std::size_t>(rest - m_pPending);
+    m_tagBegin = static_cast<std::size_t>(begin - rest);
+    m_pendingLength -= offset;
+    m_tagSearched = m_pendingLength;
+    if (offset == 0) return IX_XML_INCOMPLETE;
+    // Required: cannot happen with a well-formed buffer; a buffer that is not must not be used any further.
+    if (m_pendingLength + 1 > m_pendingSize) {
+        ixLog(kSourceFile, kBufferTooSmall);
+        std::exit(EXIT_FAILURE);
+    }
+    __memmove(m_pPending, rest, m_pendingLength + 1);
+    return IX_XML_INCOMPLETE;
+}
+
+int XmlDecoder::Decode(const char* text, int length) {
+    ixLog(kSourceFile, kDecode, length);
+    if (text == nullptr || length <= 0) {
+        ixLog(kSourceFile, kNoText);
+        return IX_XML_ERROR;
+    }
+    if (m_DecodeState == IX_XML_PARSE_COMPLETE) {
+        ixLog(kSourceFile, kAlreadyComplete);
+        return IX_XML_SUCCESS;
+    }
+    if (m_DecodeState == IX_XML_PARSE_ERROR) return IX_XML_ERROR;
+    if (!AppendToPending(text, static_cast<std::size_t>(length))) return IX_XML_ERROR;
+
+    char* scan = m_pPending;
+    const char* const last = m_pPending + m_pendingLength;
+    // What the last call has searched in vain is not searched again.
+    char* begin = scan + m_tagBegin;
+    char* behind = scan + m_tagSearched;
+    m_tagBegin = 0;
+    m_tagSearched = 0;
+    for (;;) {
+        m_iSelfClosing = 0;
+        begin = static_cast<char*>(std::memchr(begin, '<', static_cast<std::size_t>(last - begin)));
+        if (begin == nullptr) {
+            m_DecodeState = IX_XML_PARSE_CONTINUE;
+            m_pPending[0] = '\0';
+            m_pendingLength = 0;
+            ixLog(kSourceFile, kNoMoreTags);
+            return IX_XML_INCOMPLETE;
+        }
+        if (behind <= begin) behind = begin + 1;
+        char* const end = static_cast<char*>(std::memchr(behind, '>', static_cast<std::size_t>(last - behind)));
+        if (end == nullptr) return KeepFrom(scan, begin);
+        *end = '\0';
+        const int step = DecodeTag(scan, begin, end);
+        if (step == kSyntaxError) {
+            m_DecodeState = IX_XML_PARSE_ERROR;
+            ResetXmlDecoder();
+            return IX_XML_ERROR;
+        }
+        scan = end + 1;
+        begin = scan;
+        behind = scan;
+        if (step == IX_XML_ERROR || step == IX_XML_INCOMPLETE) {
+            // The bad end tag is behind us; what follows it stays for a caller that goes on all the same.
+            m_pendingLength = static_cast<std::size_t>(last - scan);
+            __memmove(m_pPending, scan, m_pendingLength + 1);
+            return step;
+        }
+        if (step == kTagDone && !HasOpenElements()) {
+            m_DecodeState = IX_XML_PARSE_COMPLETE;
+            ixLog(kSourceFile, kComplete);
+            return IX_XML_SUCCESS;
+        }
+    }
+}
+
+/// One tag, from its "<" at `begin` to its ">" at `end`, which is a NUL by now. The text before it starts at `scan`.
+int XmlDecoder::DecodeTag(char* scan, char* begin, char* end) {
+    char* const content = begin + 1;
+    switch (*content) {
+        case '?':
+        case '!':
+            if (*content == '?' || std::strncmp(content, "!--", 3) == 0) return DecodeDeclaration(content, end);
+            break;
+        case '/':
+            return DecodeEndTag(scan, begin, end);
+        default:
+            break;
+    }
+    return end[-1] == '/' ? DecodeSelfClosingTag(content, end) : DecodeStartTag(content, end);
+}
+
+/// A declaration stands before the root element only. A comment ends at the first ">", so one that contains a ">" is not
+/// recognised as complete.
+int XmlDecoder::DecodeDeclaration(const char* content, const char* end) {
+    if (*content == '?') return end[-1] == '?' && !HasOpenElements() ? kGoOn : kSyntaxError;
+    return end - content > 4 && end[-1] == '-' && end[-2] == '-' ? kGoOn : kSyntaxError;
+}
+
+int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
+    const char* const name = begin + 2;
+    if (!HasOpenElements()) {
+        ixLog(kSourceFile, kNothingOpen);
+        return IX_XML_ERROR;
+    }
+    const char* const open = static_cast<const char*>(m_openNames[m_iOpenCount - 1].node->m_pData);
+    if (open == nullptr || std::strcmp(open, name) != 0) {
+        if (open != nullptr) ixLog(kSourceFile, kMismatch, open);
+        return IX_XML_ERROR;
+    }
+    *begin = '\0';
+    if (m_pSchemaDecoder != nullptr) {
+        int result = 0;
+        if (!ReportEnd(name, static_cast<std::size_t>(end - name), text, kNoMemoryForEndName, &result)) return IX_XML_ERROR;
+        if (result != 0) ixLog(kSourceFile, kEndTagRejected, m_endName.Text());
+    }
+    DropLastOpenName();
+    return kTagDone;
+}
+
+int XmlDecoder::DecodeSelfClosingTag(char* content, char* end) {
+    end[-1] = '\0';
+    m_iSelfClosing = 1;
+    char* name = nullptr;
+    if (SplitAttributes(content, static_cast<std::size_t>(end - 1 - content), &name) != IX_XML_ERROR) return kTagDone;
+    ixLog(kSourceFile, kSelfClosingFailed);
+    return kSyntaxError;
+}
+
+int XmlDecoder::DecodeStartTag(char* content, char* end) {
+    char* name = nullptr;
+    const int result = SplitAttributes(content, static_cast<std::size_t>(end - content), &name);
+    if (result == IX_XML_ERROR) {
+        ixLog(kSourceFile, kStartTagFailed);
+        return kSyntaxError;
+    }
+    if (m_pSchemaDecoder != nullptr) {
+        if (result == 1) m_pSchemaDecoder->ProcessElement(name, nullptr);
+        m_pSchemaDecoder->ProcessEndOfStartTag(name);
+    }
+    if (PushElement(name) == 0) {
+        ixLog(kSourceFile, kPushFailed);
+        return kSyntaxError;
+    }
+    // Required: kept although skipping white space never yields NULL here.
+    if (XmlCommon::SkipSpaces(end + 1) == nullptr) {
+        m_DecodeState = IX_XML_PARSE_CONTINUE;
+        ixLog(kSourceFile, kNothingBehindTag);
+        return IX_XML_INCOMPLETE;
+    }
+    return kTagDone;
+}
+
+int XmlDecoder::DecodeAttributes(char* tagContent) {
+    if (tagContent == nullptr) {
+        ixLog(kSourceFile, kNoTagContent);
+        return IX_XML_ERROR;
+    }
+    char* name = nullptr;
+    return SplitAttributes(tagContent, __strlen(tagContent), &name);
+}
+
+/// DecodeAttributes for a tag of known length; also yields the element's name.
+int XmlDecoder::SplitAttributes(char* content, std::size_t length, char** name) {
+    // Unescaping works on a copy of a value. Its memory is taken before the first event of the tag.
+    if (!m_unescapeCopy.Reserve(length + 1)) {
+        ixLog(kSourceFile, kNoMemoryForTag);
+        return IX_XML_ERROR;
+    }
+    char* rest = nullptr;
+    *name = CutToken(content, kSpaces, &rest);
+    if (*name == nullptr) {
+        m_DecodeState = IX_XML_PARSE_ERROR;
+        return IX_XML_ERROR;
+    }
+    char* const end = content + length;
+    const bool hasToken = rest[std::strspn(rest, "=")] != '\0';
+    if ((hasToken || m_iSelfClosing == 1) && m_pSchemaDecoder != nullptr) {
+        m_pSchemaDecoder->ProcessElement(*name, nullptr);
+    }
+    const auto restSize = static_cast<std::size_t>(end - rest) + 1;
+    if (!m_attributeList.Reserve(restSize)) {
+        ixLog(kSourceFile, kNoMemoryForList);
+        return IX_XML_ERROR;
+    }
+    std::memcpy(m_attributeList.Text(), rest, restSize);
+    const int valid = ValidateAttributeList(m_attributeList.Text());
+    ixLog(kSourceFile, kValidated, valid);
+    if (valid != 0) {
+        ixLog(kSourceFile, kListInvalid);
+        return IX_XML_ERROR;
+    }
+    return m_pSchemaDecoder != nullptr ? ReportAttributes(*name, rest, end) : 0;
+}
+
+int XmlDecoder::ReportAttributes(char* name, char* rest, char* end) {
+    int result = 0;
+    do {
+        char* attribute = CutToken(rest, kEquals, &rest);
+        if (attribute == nullptr) {
+            result = 1;
+            break;
+        }
+        attribute = XmlCommon::SkipSpaces(attribute);
+        rest = XmlCommon::SkipSpaces(rest);
+        char* value = nullptr;
+        const char quote = *rest == '\'' ? '\'' : '"';
+        if (rest[0] == quote && rest[1] == quote) {
+            // An empty value: its first quote becomes its NUL.
+            value = rest;
+            *value = '\0';
+            rest += 2;
+        } else {
+            value = CutAt(rest, quote, end, &rest);
+            if (value == nullptr) value = end;
+        }
+        UnescapeXml(value);
+        m_pSchemaDecoder->ProcessAttribute(name, attribute, value);
+    } while (*rest != '\0');
+    return m_iSelfClosing == 1 ? ReportSelfClosingEnd(name, rest) : result;
+}
+
+int XmlDecoder::ReportSelfClosingEnd(char* name, char* rest) {
+    m_pSchemaDecoder->ProcessEndOfStartTag(name);
+    int result = 0;
+    if (!ReportEnd(name, __strlen(name), rest, kNoMemoryForSelfEnd, &result)) return IX_XML_ERROR;
+    m_iSelfClosing = 0;
+    return 0;
+}
+
+/// Reports "/name" with `text`. @return false without memory.
+bool XmlDecoder::ReportEnd(const char* name, std::size_t length, char* text, const XmlLogText& noMemory, int* result) {
+    if (!m_endName.Reserve(length + 2)) {
+        ixLog(kSourceFile, noMemory);
+        return false;
+    }
+    char* const endName = m_endName.Text();
+    endName[0] = '/';
+    std::memcpy(endName + 1, name, length);
+    endName[length + 1] = '\0';
+    *result = m_pSchemaDecoder->ProcessElement(endName, text);
+    return true;
+}
+
+int XmlDecoder::ValidateAttributeList(char* list) {
+    if (list == nullptr) return -1;
+    char* text = list;
+    bool pending = false;
+    for (;;) {
+        char* stop = text;
+        while (*stop != '\0' && !kListStops.Has(*stop)) ++stop;
+        if (*stop == '\0') break;
+        const char kind = *stop;
+        *stop++ = '\0';
+        if (kind == '=') {
+            const char* name = TrimSpaces(text);
+            while (*name != '\0' && !IsSpace(*name)) ++name;
+            if (pending || *name != '\0') return -1;
+            pending = true;
+            text = stop;
+            continue;
+        }
+        // A value: the quote comes right after "=" and white space, and the next quote of its kind ends it.
+        char* const close = __strchr(stop, kind);
+        if (!pending || *XmlCommon::SkipSpaces(text) != '\0' || close == nullptr) return -1;
+        pending = false;
+        text = close + 1;
+    }
+    return pending || *XmlCommon::SkipSpaces(text) != '\0' ? -1 : 0;
+}
+
+unsigned int XmlDecoder::PushElement(const char* name) {
+    if (m_pElementStack == nullptr) return 0;
+    if (m_iOpenCount == m_openSize && !GrowOpenNames()) {
+        ixLog(kSourceFile, kNoMemoryForName);
+        return 0;
+    }
+    OpenName& slot = m_openNames[m_iOpenCount];
+    const std::size_t size = name != nullptr ? __strlen(name) + 1 : 0;
+    if (slot.node != nullptr && (slot.size < size || name == nullptr)) {
+        FreeElement(slot.node->m_pData);
+        IX_TRACKED_DELETE(kTokenizerModule, slot.node);
+        slot = {nullptr, 0};
+    }
+    BuddyLinkList* const last = m_iOpenCount == 0 ? m_pElementStack : m_openNames[m_iOpenCount - 1].node;
+    if (slot.node == nullptr) {
+        const std::size_t kept = size > kLeastNameSize ? size : kLeastNameSize;
+        void* const text = name != nullptr ? __malloc(kept) : nullptr;
+        slot.node = name == nullptr || text != nullptr ? last->Append(text) : nullptr;
+        if (slot.node == nullptr) {
+            FreeElement(text);
+            ixLog(kSourceFile, kNoMemoryForName);
+            return 0;
+        }
+        slot.size = name != nullptr ? kept : 0;
+    } else {
+        last->m_pNext = slot.node;
+    }
+    if (name != nullptr) std::memcpy(slot.node->m_pData, name, size);
+    ++m_iOpenCount;
+    return 1;
+}
+
+BuddyLinkList* XmlDecoder::PopElement() {
+    if (!HasOpenElements()) return nullptr;
+    DropLastOpenName();
+    OpenName& slot = m_openNames[m_iOpenCount];
+    BuddyLinkList* const node = slot.node;
+    slot = {nullptr, 0};
+    return node;
+}
+
+/// Unlinks the last open name, whose memory stays in its slot for the next name of that depth.
+void XmlDecoder::DropLastOpenName() {
+    --m_iOpenCount;
+    (m_iOpenCount == 0 ? m_pElementStack : m_openNames[m_iOpenCount - 1].node)->m_pNext = nullptr;
+}
+
+bool XmlDecoder::GrowOpenNames() {
+    const std::size_t size = m_openSize == 0 ? 16 : 2 * m_openSize;
+    auto* const names = static_cast<OpenName*>(__calloc(size, sizeof(OpenName)));
+    if (names == nullptr) return false;
+    if (m_openSize != 0) std::memcpy(names, m_openNames, m_openSize * sizeof(OpenName));
+    __free(m_openNames);
+    m_openNames = names;
+    m_openSize = size;
+    return true;
+}
+
+/// Frees the slots and what they keep for later. Linked names stay in the list.
+void XmlDecoder::FreeOpenNames() {
+    for (std::size_t i = m_iOpenCount; i < m_openSize; ++i) {
+        if (m_openNames[i].node == nullptr) continue;
+        FreeElement(m_openNames[i].node->m_pData);
+        IX_TRACKED_DELETE(kTokenizerModule, m_openNames[i].node);
+    }
+    __free(m_openNames);
+    m_openNames = nullptr;
+    m_iOpenCount = 0;
+    m_openSize = 0;
+}
+
+char* XmlDecoder::N_strtok(char* text, const char* delimiters, char** rest) {
+    if (text == nullptr || delimiters == nullptr) {
+        ixLog(kSourceFile, kNoToken);
+        return nullptr;
+    }
+    return CutToken(text, ByteSet(delimiters, kMostDelimiters), rest);
+}
+
+char* XmlDecoder::TrimSpaces(char* text) {
+    text = XmlCommon::SkipSpaces(text);
+    if (text == nullptr) return nullptr;
+    char* end = text + __strlen(text);
+    while (end > text && IsSpace(end[-1])) --end;
+    *end = '\0';
+    return text;
+}
+
+void XmlDecoder::UnescapeXml(char* text) {
+    if (text == nullptr || __strchr(text, '&') == nullptr) return;
+    UnescapeXmlString(text, "&quot;", '"');
+    UnescapeXmlString(text, "&gt;", '>');
+    UnescapeXmlString(text, "&lt;", '<');
+    UnescapeXmlString(text, "&apos;", '\'');
+    UnescapeXmlString(text, "&amp;", '&');
+}
+
+void XmlDecoder::UnescapeXmlString(char* text, const char* entity, char replacement) {
+    if (text == nullptr || entity == nullptr || *entity == '\0') return;
+    char* const first = __strstr(text, entity);
+    if (first == nullptr) return;
+    const std::size_t size = __strlen(text) + 1;
+    if (!m_unescapeCopy.Reserve(size)) {
+        ixLog(kSourceFile, kNoMemoryToUnescape);
+        return;
+    }
+    std::memcpy(m_unescapeCopy.Text(), text, size);
+    const std::size_t entityLength = __strlen(entity);
+    const char* from = m_unescapeCopy.Text() + (first - text);
+    char* to = first;
+    for (const char* next = from; next != nullptr; next = __strstr(from, entity)) {
+        std::memcpy(to, from, static_cast<std::size_t>(next - from));
+        to += next - from;
+        *to++ = replacement;
+        from = next + entityLength;
+    }
+    std::memcpy(to, from, __strlen(from) + 1);
+}

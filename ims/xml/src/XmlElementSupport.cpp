@@ -1,0 +1,45 @@
+#include "XmlElementSupport.h"
+
+#include <cstring>
+
+bool ixNameIs(const char* name, e_XmlStrRef entry) {
+    return name != nullptr && std::strcmp(name, ix_xml_common_array_definition::getStringName(entry)) == 0;
+}
+
+bool ixEndNameIs(const char* name, e_XmlStrRef entry) {
+    return name != nullptr && *name == '/' && ixNameIs(name + 1, entry);
+}
+
+bool ixIsClass(const XMLElement* element, const char* className) {
+    const char* const own = element != nullptr ? element->ClassName() : nullptr;
+    return own != nullptr && std::strcmp(own, className) == 0;
+}
+
+ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute) {
+    if (attribute == nullptr || std::strcmp(attribute->ClassName(), "ix_AttributeValuePair") != 0) return nullptr;
+    return static_cast<ix_AttributeValuePair*>(attribute);
+}
+
+int ixSetText(char*& field, const char* text) {
+    char* copy = nullptr;
+    if (text != nullptr) {
+        copy = __strdup(text);
+        if (copy == nullptr) return 0;
+    }
+    __free(field);
+    field = copy;
+    return 1;
+}
+
+int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line) {
+    if (list == nullptr) list = IX_TRACKED_NEW(kSchemaModule, source, line, IxSingleElementList, ());
+    return list != nullptr && list->Add(entry) != 0 ? 1 : 0;
+}
+
+ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line) {
+    ix_AttributeValuePair* const pair = IX_TRACKED_NEW(kSchemaModule, source, line, ix_AttributeValuePair, ());
+    if (pair == nullptr) return nullptr;
+    if (pair->setNameValue(name) != 0 && pair->setValueValue(value) != 0) return pair;
+    IX_DELETE(pair);
+    return nullptr;
+}

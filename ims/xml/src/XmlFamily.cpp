@@ -1,0 +1,434 @@
+#include "XmlFamily.h"
+
+#include <climits>
+#include <cstring>
+
+#include "XMLFile.h"
+#include "XMLSchemaNameSpaceRetrieval.h"
+#include "XmlElementSupport.h"
+#include "XmlFields.h"
+
+namespace {
+
+/// The declarations that a binder holds, or NULL.
+const IxSingleElementList* NamespacesOf(XMLObject* binder) {
+    if (!ixIsClass(binder, kSchemaNamespaceRetrievalClass)) return nullptr;
+    return static_cast<ix_schema_namespace_retrieval*>(binder)->getNameSpaceInfo();
+}
+
+/// Copies the rows of a schema and logs where the copy ended short.
+void BuildNamespaces(XmlNamespaceTable& table, const XmlNamespaceRow* rows, std::size_t count, const char* source,
+                     const XmlLogText& noFirst, const XmlLogText& noLater) {
+    const std::size_t built = table.Build(rows, count);
+    if (built < count) ixLog(source, built == 0 ? noFirst : noLater);
+}
+
+}  // namespace
+
+bool XmlKnownName::Matches(const char* name) const {
+    if (use != None) {
+        const char* const expected = ix_xml_common_array_definition::getStringName(prefix);
+        const std::size_t length = std::strlen(expected);
+        if (std::strncmp(name, expected, length) == 0 && name[length] == ':') return ixNameIs(name + length + 1, local);
+        if (use == Required) return false;
+    }
+    return ixNameIs(name, local);
+}
+
+XmlFamilyDecoder::XmlFamilyDecoder(const XmlDecoderInfo& info) : m_info(info) {
+    BuildNamespaces(m_namespaces, info.namespaces, info.namespaceCount, info.source, info.texts.noFirstNamespace,
+                    info.texts.noNamespace);
+}
+
+XmlFamilyDecoder::~XmlFamilyDecoder() {
+    for (std::size_t i = 0; i < m_orphanCount; ++i) IX_DELETE(m_orphans[i]);
+    __free(m_orphans);
+}
+
+int XmlFamilyDecoder::SetNameSpaceBinderInfo(XMLObject* binder) {
+    m_namespaces.Bind(NamespacesOf(binder));
+    return 1;
+}
+
+int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
+    m_pMappedTag = nullptr;
+    if (tag == nullptr) return 0;
+    const bool isEnd = *tag == '/';
+    const std::size_t length = std::strlen(tag);
+    if (!m_mappedText.Reserve(length + 2)) {
+        ixLog(m_info.source, isEnd ? m_info.texts.changeEndTagNoMemory : m_info.texts.changeTagNoMemory);
+        return 0;
+    }
+    const char* const name = isEnd ? tag + 1 : tag;
+    const char* const colon = std::strchr(name, ':');
+    const XmlNamespaceTable::Entry* const entry =
+        colon != nullptr ? m_namespaces.FindDocumentPrefix(name, static_cast<std::size_t>(colon - name)) : nullptr;
+    if (entry == nullptr || *entry->canonicalPrefix == '\0') {
+        std::memcpy(m_mappedText.Text(), tag, length + 1);
+        m_pMappedTag = m_mappedText.Text();
+        return 1;
+    }
+    const std::size_t prefixLength = std::strlen(entry->canonicalPrefix);
+    const std::size_t localSize = std::strlen(colon) + 1;
+    if (!m_mappedText.Reserve(prefixLength + localSize + 2)) {
+        ixLog(m_info.source, isEnd ? m_info.texts.mappedEndTagNoMemory : m_info.texts.mappedTagNoMemory);
+        return 0;
+    }
+    char* to = m_mappedText.Text();
+    if (isEnd) *to++ = '/';
+    std::memcpy(to, entry->canonicalPrefix, prefixLength);
+    std::memcpy(to + prefixLength, colon, localSize);
+    m_pMappedTag = m_mappedText.Text();
+    return 1;
+}
+
+int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
+    m_pPassName = nullptr;
+    if (tag == nullptr) return 0;
+    if (!m_passText.Reserve(std::strlen(tag) + 2)) {
+        ixLog(m_info.source, m_info.texts.removeTagNoMemory);
+        return 0;
+    }
+    char* to = m_passText.Text();
+    if (*tag == '/') *to++ = *tag++;
+    const char* const colon = std::strchr(tag, ':');
+    if (colon != nullptr) tag = colon + 1;
+    std::memcpy(to, tag, std::strlen(tag) + 1);
+    m_pPassName = m_passText.Text();
+    return 1;
+}
+
+/// The name as the tables of the schema have it; NULL without memory.
+char* XmlFamilyDecoder::ComparedName(char* element) {
+    switch (m_info.names) {
+        case XmlNamePolicy::Mapped:
+            XMLChangeNamespaceTag(element);
+            return m_pMappedTag;
+        case XmlNamePolicy::Stripped:
+            XMLRemoveNameSpaceTag(element);
+            return m_pPassName;
+        default:
+            return element;
+    }
+}
+
+int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
+    if (element == nullptr) {
+        ixLog(m_info.source, m_info.texts.noElement);
+        return -1;
+    }
+    // Where names are compared with their prefix, the local name is at hand as well.
+    const bool ready = m_info.names != XmlNamePolicy::Mapped || XMLRemoveNameSpaceTag(element) != 0;
+    char* const name = ready ? ComparedName(element) : nullptr;
+    if (name == nullptr) {
+        ixLog(m_info.source, m_info.texts.noElementName);
+        return -1;
+    }
+    return *name == '/' ? EndElement(name, text) : StartElement(name);
+}
+
+int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* value) {
+    if (element == nullptr || attribute == nullptr) {
+        ixLog(m_info.source, m_info.texts.noAttribute);
+        return -1;
+    }
+    // White space at the end of a tag arrives as an attribute without a name.
+    if (*attribute == '\0') return 0;
+    const char* const name = ComparedName(element);
+    if (name == nullptr) {
+        ixLog(m_info.source, m_info.texts.noAttributeName);
+        return -1;
+    }
+    if (m_stack.empty()) return 0;
+    if (!IsKnownAttribute(name, attribute)) return OtherAttribute(attribute, value);
+    if (value != nullptr) Top()->ProcessUnMarshallAttribute(attribute, value, nullptr);
+    return 0;
+}
+
+int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) {
+    return 0;
+}
+
+const XmlContainerRow* XmlFamilyDecoder::FindContainer(const char* name) const {
+    for (std::size_t i = 0; i < m_info.containerCount; ++i) {
+        if (m_info.containers[i].name.Matches(name)) return &m_info.containers[i];
+    }
+    return nullptr;
+}
+
+bool XmlFamilyDecoder::IsKnownAttribute(const char* element, const char* attribute) const {
+    for (std::size_t i = 0; i < m_info.attributeCount; ++i) {
+        const XmlAttributeRow& row = m_info.attributes[i];
+        if (ixNameIs(attribute, row.attribute) && row.element.Matches(element)) return true;
+    }
+    return false;
+}
+
+int XmlFamilyDecoder::StartElement(char* name) {
+    const XmlContainerRow* const row = FindContainer(name);
+    if (row == nullptr) return OtherElement(name, nullptr);
+    if (row->role != XmlContainerRow::Root && m_stack.empty()) return 0;
+    XMLElement* const object = row->create(name);
+    if (object == nullptr) {
+        ixLog(m_info.source, m_info.texts.noObject, name);
+        return 0;
+    }
+    if (row->role != XmlContainerRow::Root) {
+        OfferToTop(*row, object);
+        return 0;
+    }
+    if (SetSessionData(object)) m_stack.push(object);
+    return 0;
+}
+
+int XmlFamilyDecoder::EndElement(char* name, char* text) {
+    const XmlContainerRow* const row = FindContainer(name + 1);
+    if (row == nullptr) return OtherElement(name, text);
+    if (row->role == XmlContainerRow::Leaf) return 0;
+    if (row->className == nullptr || ixIsClass(Top(), row->className)) m_stack.pop();
+    return 0;
+}
+
+int XmlFamilyDecoder::OtherElement(char* name, char* text) {
+    XMLElement* const top = Top();
+    if (top != nullptr) top->ProcessUnMarshall(name, text, nullptr);
+    return 0;
+}
+
+int XmlFamilyDecoder::OtherAttribute(char* attribute, char* value) {
+    ix_AttributeValuePair* const pair = ixCreatePair(attribute, value, m_info.source, m_info.pairLine);
+    if (pair == nullptr) {
+        ixLog(m_info.source, m_info.texts.noPair, attribute);
+        return 0;
+    }
+    XMLElement* const top = Top();
+    const bool taken = top->ProcessUnMarshallAttribute(attribute, value, pair) != 0;
+    if (!taken) ixLog(m_info.source, m_info.texts.pairRefused, attribute);
+    if (!taken || !XmlFields::HoldsAttribute(*top, pair)) IX_DELETE(pair);
+    return 0;
+}
+
+bool XmlFamilyDecoder::SetSessionData(XMLElement* root) {
+    // An earlier root may still be on the stack, so it can go only with the decoder.
+    if (m_pSessionData != nullptr && !KeepOrphan(m_pSessionData)) {
+        IX_DELETE(root);
+        return false;
+    }
+    m_pSessionData = root;
+    return true;
+}
+
+void XmlFamilyDecoder::OfferToTop(const XmlContainerRow& row, XMLElement* object) {
+    char local[sizeof ix_xml_common_array_definition::arrXmlStrRef[0]];
+    std::memcpy(local, ix_xml_common_array_definition::getStringName(row.name.local), sizeof local);
+    XMLElement* const top = Top();
+    const bool taken = top->ProcessUnMarshall(local, nullptr, object) != 0;
+    if (!taken || (!XmlFields::HoldsChild(*top, object) && !KeepOrphan(object))) {
+        IX_DELETE(object);
+        return;
+    }
+    if (row.role == XmlContainerRow::Child) m_stack.push(object);
+}
+
+/// Remembers an object that no tree owns. @return false without memory.
+bool XmlFamilyDecoder::KeepOrphan(XMLElement* object) {
+    if (m_orphanCount == m_orphanSize) {
+        const std::size_t size = m_orphanSize == 0 ? 8 : 2 * m_orphanSize;
+        auto* const grown = static_cast<XMLElement**>(__malloc(size * sizeof(XMLElement*)));
+        if (grown == nullptr) return false;
+        if (m_orphanCount != 0) std::memcpy(grown, m_orphans, m_orphanCount * sizeof(XMLElement*));
+        __free(m_orphans);
+        m_orphans = grown;
+        m_orphanSize = size;
+    }
+    m_orphans[m_orphanCount++] = object;
+    return true;
+}
+
+XMLElement* XmlFamilyUnMarshaller::UnMarshall(const char* text) {
+    if (text == nullptr) return nullptr;
+    const XmlUnMarshallerInfo& info = Info();
+    ixLog(info.source, info.textEntered, text);
+    char* const copy = __strdup(text);
+    if (copy == nullptr) {
+        ixLog(info.source, info.noCopy);
+        return nullptr;
+    }
+    XMLElement* const root = Decode(copy, info.textTokenizerLine, info.textDecoderLine);
+    __free(copy);
+    return root;
+}
+
+XMLElement* XmlFamilyUnMarshaller::UnMarshall(XMLFile* file) {
+    const char* const text = file != nullptr ? file->Read() : nullptr;
+    if (text == nullptr) return nullptr;
+    const XmlUnMarshallerInfo& info = Info();
+    ixLog(info.source, info.fileEntered, text);
+    return Decode(text, info.fileTokenizerLine, info.fileDecoderLine);
+}
+
+XMLElement* XmlFamilyUnMarshaller::Decode(const char* text, int tokenizerLine, int decoderLine) {
+    const XmlUnMarshallerInfo& info = Info();
+    XmlDecoder* const tokenizer = IX_TRACKED_NEW(kSchemaModule, info.source, tokenizerLine, XmlDecoder, ());
+    XmlFamilyDecoder* const decoder = info.createDecoder(decoderLine);
+    XMLElement* root = nullptr;
+    if (tokenizer != nullptr && decoder != nullptr) {
+        if (m_pNamespaceBinder != nullptr) decoder->SetNameSpaceBinderInfo(m_pNamespaceBinder);
+        tokenizer->SetSchemaDecoder(decoder);
+        const std::size_t length = __strlen(text);
+        const int result =
+            length > INT_MAX ? IX_XML_ERROR : tokenizer->Decode(text, static_cast<int>(length));
+        ixLog(info.source, result == IX_XML_SUCCESS ? info.decoded : info.notDecoded);
+        // Required: the tree of a document that could not be decoded to its end is left to nobody. It is not freed here.
+        if (result == IX_XML_SUCCESS) root = decoder->GetSessionData();
+    }
+    IX_DELETE(decoder);
+    IX_DELETE(tokenizer);
+    return root;
+}
+
+XmlFamilyMarshaller::XmlFamilyMarshaller(const XmlMarshallerInfo& info) : m_info(info) {
+    BuildNamespaces(m_namespaces, info.namespaces, info.namespaceCount, info.source, info.noFirstNamespace,
+                    info.noNamespace);
+}
+
+XmlFamilyMarshaller::~XmlFamilyMarshaller() {
+    __free(m_pXml);
+}
+
+void XmlFamilyMarshaller::SetNameSpaceBinderInfo(XMLObject* binder) {
+    m_namespaces.Bind(NamespacesOf(binder));
+}
+
+char* XmlFamilyMarshaller::Marshall(XMLElement* root) {
+    if (m_info.entersFirst) ixLog(m_info.source, m_info.entered);
+    if (root == nullptr) {
+        ixLog(m_info.source, m_info.noRoot);
+        return nullptr;
+    }
+    if (root->ClassName() == nullptr) {
+        ixLog(m_info.source, m_info.noClassName);
+        return nullptr;
+    }
+    if (!m_info.entersFirst) ixLog(m_info.source, m_info.entered);
+    if (m_pXml != nullptr) {
+        ixLog(m_info.source, m_info.deleting);
+        __free(m_pXml);
+        m_pXml = nullptr;
+    }
+    m_bTruncated = false;
+    m_generator.ixInitXmlDoc();
+    if (m_info.writesDeclaration) {
+        m_generator.ixAddHeader(ix_xml_common_array_definition::getStringName(IX_STR_1_0),
+                                ix_xml_common_array_definition::getStringName(IX_STR_UTF_8));
+    }
+    const int result = AddRootElementToXml(root) != 0 ? KeepText() : 0;
+    m_generator.ixDeInitXmlDoc();
+    if (result == 0) {
+        ixLog(m_info.source, m_info.failed);
+        return nullptr;
+    }
+    ixLog(m_info.source, m_info.written, m_pXml);
+    return m_pXml;
+}
+
+/// Copies the generator's text. Without a declaration, the line feed in front of the root element is left out.
+int XmlFamilyMarshaller::KeepText() {
+    const char* text = m_generator.ixGetXmlDoc();
+    if (text == nullptr) return 0;
+    if (!m_info.writesDeclaration && *text != '\0') ++text;
+    m_pXml = __strdup(text);
+    m_bTruncated = m_generator.IsTruncated();
+    return m_pXml != nullptr ? 1 : 0;
+}
+
+void XmlFamilyMarshaller::StartElement(e_XmlStrRef name) {
+    m_generator.ixStartElement(ix_xml_common_array_definition::getStringName(name), 0);
+}
+
+void XmlFamilyMarshaller::StartElementOpen(e_XmlStrRef name) {
+    m_generator.ixStartElement(ix_xml_common_array_definition::getStringName(name), 1);
+}
+
+void XmlFamilyMarshaller::EndElement(e_XmlStrRef name) {
+    m_generator.ixEndXmlElement(ix_xml_common_array_definition::getStringName(name));
+}
+
+void XmlFamilyMarshaller::AddTextElement(e_XmlStrRef name, const char* text) {
+    if (text == nullptr) return;
+    StartElement(name);
+    m_generator.ixXmlSetData(text);
+    EndElement(name);
+}
+
+void XmlFamilyMarshaller::AddDecimalElement(e_XmlStrRef name, std::int64_t value) {
+    char digits[32];
+    AddTextElement(name, __itoaL(value, digits, sizeof digits, 10));
+}
+
+void XmlFamilyMarshaller::AddAttribute(e_XmlStrRef name, const char* value, Attribute end) {
+    m_generator.ixAddNameSpacePrefixToXml(ix_xml_common_array_definition::getStringName(name), value, nullptr,
+                                          end == Attribute::SelfClosing ? 1 : 0, end == Attribute::Closing ? 1 : 0);
+}
+
+void XmlFamilyMarshaller::AddDecimalAttribute(e_XmlStrRef name, std::int64_t value, Attribute end) {
+    char digits[32];
+    AddAttribute(name, __itoaL(value, digits, sizeof digits, 10), end);
+}
+
+void XmlFamilyMarshaller::AddAttributeList(const IxSingleElementList* list) {
+    if (list == nullptr) return;
+    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
+        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+        if (pair != nullptr) m_generator.ixAddNameSpacePrefixToXml(pair->mName, pair->mValue, nullptr, 0, 0);
+    }
+}
+
+int XmlFamilyMarshaller::AddChildList(const IxSingleElementList* list,
+                                      int (*add)(XmlFamilyMarshaller& self, XMLElement* child)) {
+    if (list == nullptr) return 1;
+    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
+        if (node->key != nullptr && add(*this, static_cast<XMLElement*>(node->key)) == 0) return 0;
+    }
+    return 1;
+}
+
+char* XmlFamilyMarshaller::AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const {
+    const XmlNamespaceTable::Entry* const entry =
+        m_namespaces.FindCanonicalPrefix(ix_xml_common_array_definition::getStringName(canonicalPrefix));
+    return entry != nullptr && entry->documentPrefix != nullptr ? __strdup(entry->documentPrefix) : nullptr;
+}
+
+XMLMarshaller* XmlFamilyContext::createMarshaller() {
+    m_pMarshaller = NewMarshaller();
+    return m_pMarshaller;
+}
+
+XMLUnMarshaller* XmlFamilyContext::createUnMarshaller() {
+    m_pUnMarshaller = NewUnMarshaller();
+    return m_pUnMarshaller;
+}
+
+XMLObjectFactory* XmlFamilyContext::createBinderFactory() {
+    m_pBinderFactory = NewBinderFactory();
+    return m_pBinderFactory;
+}
+
+XMLMarshaller* XmlBinderContext::createMarshaller() {
+    XmlFamilyMarshaller* const marshaller = NewMarshaller();
+    if (marshaller != nullptr && m_pNamespaceBinder != nullptr) marshaller->SetNameSpaceBinderInfo(m_pNamespaceBinder);
+    m_pMarshaller = marshaller;
+    return marshaller;
+}
+
+XMLUnMarshaller* XmlBinderContext::createUnMarshaller() {
+    XmlFamilyUnMarshaller* const unMarshaller = NewUnMarshaller();
+    if (unMarshaller != nullptr && m_pNamespaceBinder != nullptr) unMarshaller->SetNamespaceBinder(m_pNamespaceBinder);
+    m_pUnMarshaller = unMarshaller;
+    return unMarshaller;
+}
+
+int XmlBinderContext::SetNamespaceBinder(XMLObject* binder) {
+    if (binder != nullptr) m_pNamespaceBinder = binder;
+    return 1;
+}

@@ -1,0 +1,191 @@
+#include "XmlFields.h"
+
+#include <cstring>
+
+namespace {
+
+bool TextsEqual(const char* left, const char* right) {
+    if (left == nullptr || right == nullptr) return left == right;
+    return std::strcmp(left, right) == 0;
+}
+
+bool PairsEqual(const void* left, const void* right) {
+    if (left == nullptr || right == nullptr) return left == right;
+    const auto* one = static_cast<const ix_AttributeValuePair*>(left);
+    const auto* other = static_cast<const ix_AttributeValuePair*>(right);
+    return TextsEqual(one->mName, other->mName) && TextsEqual(one->mValue, other->mValue);
+}
+
+bool EntriesEqual(XmlFieldKind kind, const void* left, const void* right) {
+    switch (kind) {
+        case XmlFieldKind::TextList:
+            return TextsEqual(static_cast<const char*>(left), static_cast<const char*>(right));
+        case XmlFieldKind::AttributeList:
+            return PairsEqual(left, right);
+        default:
+            return XmlFields::Equal(static_cast<const XMLElement*>(left), static_cast<const XMLElement*>(right));
+    }
+}
+
+/// The nodes, without the log line that GetPtrToListHead writes for an empty list.
+const IxSingleElementNode* NodesOf(const IxSingleElementList* list) {
+    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+}
+
+bool ListsEqual(XmlFieldKind kind, const IxSingleElementList* left, const IxSingleElementList* right) {
+    const IxSingleElementNode* one = NodesOf(left);
+    const IxSingleElementNode* other = NodesOf(right);
+    while (one != nullptr && other != nullptr) {
+        if (!EntriesEqual(kind, one->key, other->key)) return false;
+        one = one->next;
+        other = other->next;
+    }
+    return one == other;
+}
+
+bool FieldsEqual(const XMLElement& left, const XMLElement& right, const XmlField& field) {
+    switch (field.kind) {
+        case XmlFieldKind::Text:
+            return TextsEqual(XmlFields::Text(left, field), XmlFields::Text(right, field));
+        case XmlFieldKind::Child:
+        case XmlFieldKind::Presence:
+            return XmlFields::Equal(XmlFields::Child(left, field), XmlFields::Child(right, field));
+        case XmlFieldKind::ChildList:
+        case XmlFieldKind::TextList:
+        case XmlFieldKind::AttributeList:
+            return ListsEqual(field.kind, XmlFields::List(left, field), XmlFields::List(right, field));
+        default:
+            return XmlFields::Number(left, field) == XmlFields::Number(right, field);
+    }
+}
+
+}  // namespace
+
+const char* XmlFields::Text(const XMLElement& element, const XmlField& field) {
+    return field.kind == XmlFieldKind::Text ? element.*field.member.text : nullptr;
+}
+
+long long XmlFields::Number(const XMLElement& element, const XmlField& field) {
+    switch (field.kind) {
+        case XmlFieldKind::Flag:
+        case XmlFieldKind::Number:
+        case XmlFieldKind::Enumeration:
+            return element.*field.member.number;
+        case XmlFieldKind::Unsigned:
+            return element.*field.member.unsignedNumber;
+        case XmlFieldKind::Number64:
+            return element.*field.member.number64;
+        default:
+            return 0;
+    }
+}
+
+XMLElement* XmlFields::Child(const XMLElement& element, const XmlField& field) {
+    const bool holds = field.kind == XmlFieldKind::Child || field.kind == XmlFieldKind::Presence;
+    return holds ? field.member.child(element) : nullptr;
+}
+
+IxSingleElementList* XmlFields::List(const XMLElement& element, const XmlField& field) {
+    switch (field.kind) {
+        case XmlFieldKind::ChildList:
+        case XmlFieldKind::TextList:
+        case XmlFieldKind::AttributeList:
+            return element.*field.member.list;
+        default:
+            return nullptr;
+    }
+}
+
+bool XmlFields::IsSet(const XMLElement& element, const XmlField& field) {
+    switch (field.kind) {
+        case XmlFieldKind::Text:
+            return Text(element, field) != nullptr;
+        case XmlFieldKind::Child:
+        case XmlFieldKind::Presence:
+            return Child(element, field) != nullptr;
+        case XmlFieldKind::ChildList:
+        case XmlFieldKind::TextList:
+        case XmlFieldKind::AttributeList:
+            return NodesOf(List(element, field)) != nullptr;
+        default:
+            return Number(element, field) != field.notSet;
+    }
+}
+
+void XmlFields::Release(XMLElement* element, const XmlFieldTable& table) {
+    for (std::size_t i = 0; i < table.count; ++i) {
+        const XmlField& field = table.fields[i];
+        switch (field.kind) {
+            case XmlFieldKind::Text:
+                __free(element->*field.member.text);
+                break;
+            case XmlFieldKind::Child:
+            case XmlFieldKind::Presence: {
+                XMLElement* const child = field.member.child(*element);
+                IX_DELETE(child);
+                break;
+            }
+            case XmlFieldKind::ChildList:
+                ix_xml_common_methods::DeleteElementList(element->*field.member.list);
+                break;
+            case XmlFieldKind::TextList:
+                ix_xml_common_methods::DeleteTextList(element->*field.member.list);
+                break;
+            case XmlFieldKind::AttributeList:
+                ix_xml_common_methods::DeleteAttributeList(element->*field.member.list);
+                break;
+            default:
+                break;
+        }
+    }
+}
+
+bool XmlFields::HoldsChild(const XMLElement& element, const XMLElement* child) {
+    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            const XmlField& field = table->fields[i];
+            if (Child(element, field) == child) return true;
+            const IxSingleElementList* const list =
+                field.kind == XmlFieldKind::ChildList ? List(element, field) : nullptr;
+            if (list != nullptr && list->LastNode() != nullptr && list->LastNode()->key == child) return true;
+        }
+    }
+    return false;
+}
+
+bool XmlFields::HoldsAttribute(const XMLElement& element, const XMLAttribute* pair) {
+    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            const XmlField& field = table->fields[i];
+            const IxSingleElementList* const list =
+                field.kind == XmlFieldKind::AttributeList ? List(element, field) : nullptr;
+            if (list != nullptr && list->LastNode() != nullptr && list->LastNode()->key == pair) return true;
+        }
+    }
+    return false;
+}
+
+void XmlFields::HandOverChildLists(XMLElement* element, IxSingleElementList& list) {
+    for (const XmlFieldTable* table = element->FieldTable(); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            const XmlField& field = table->fields[i];
+            if (field.kind == XmlFieldKind::Child) {
+                XMLElement* const child = field.member.child(*element);
+                if (child != nullptr) HandOverChildLists(child, list);
+            } else if (field.kind == XmlFieldKind::ChildList && element->*field.member.list != nullptr) {
+                list.TakeNodesOf(*(element->*field.member.list));
+            }
+        }
+    }
+}
+
+bool XmlFields::Equal(const XMLElement* left, const XMLElement* right) {
+    if (left == nullptr || right == nullptr) return left == right;
+    if (!TextsEqual(left->ClassName(), right->ClassName()) || left->FieldTable() != right->FieldTable()) return false;
+    for (const XmlFieldTable* table = left->FieldTable(); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            if (!FieldsEqual(*left, *right, table->fields[i])) return false;
+        }
+    }
+    return true;
+}

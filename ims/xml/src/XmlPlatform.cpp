@@ -1,0 +1,22 @@
+#include "XmlPlatform.h"
+
+void* XmlHeapObject::operator new(std::size_t size) noexcept {
+    return __malloc(size);
+}
+
+void* XmlHeapObject::operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return __malloc(size);
+}
+
+void XmlHeapObject::operator delete(void* object) noexcept {
+    __free(object);
+}
+
+void XmlHeapObject::operator delete(void* object, const std::nothrow_t&) noexcept {
+    __free(object);
+}
+
+void* ixTrack(int module, const char* source, int line, void* object, std::size_t size) {
+    if (object != nullptr) trmemlog_add(module, source, line, object, size);
+    return object;
+}
