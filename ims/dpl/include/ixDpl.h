@@ -23,16 +23,17 @@
 ///
 /// @param level   1 rare traces, 2 results and resource problems, 3 progress and rejected input, 4 failed duplications
 ///                and allocations.
-/// @param code    event number: 6070 schema families, containers and generator; 6053 tokenizer and namespace operations;
+/// @param code    event number: 6070 schema families, containers and generator; 6053 tokenizer and namespace
+/// operations;
 ///                6052 the tokenizer's buffer check.
 /// @param source  path of the source file without extension, for example "ims/xml/src/XmlDecoder".
 /// @param line    line in that file.
 /// @param format  printf-style text with at most three conversions. Never text of a document.
-/// @param argument1,argument2,argument3  one machine word each: a number, or a pointer to a NUL-terminated text. 0 where
+/// @param argument1,argument2,argument3  one machine word each: a number, or a pointer to a NUL-terminated text. 0
+/// where
 ///                the format has fewer conversions. A 0 for %s prints "(null)".
 IX_DPL_EXPORT void ixLogModuleEventSimple(int level, int code, const char* source, int line, const char* format,
-                                          std::uintptr_t argument1, std::uintptr_t argument2,
-                                          std::uintptr_t argument3);
+                                          std::uintptr_t argument1, std::uintptr_t argument2, std::uintptr_t argument3);
 /// @}
 
 /// @name Memory tracking
@@ -110,8 +111,8 @@ IX_DPL_EXPORT int __atoi(const char* text);
 /// As `__atoi`, for 64 bits.
 IX_DPL_EXPORT std::int64_t __atoi64(const char* text);
 
-/// Number to text in `radix` (2 to 36, letters in lower case) within `size` bytes, NUL included. Returns `buffer`, which
-/// holds an empty text when the digits do not fit or the radix is unknown; NULL for a NULL buffer or a size of 0.
+/// Number to text in `radix` (2 to 36, letters in lower case) within `size` bytes, NUL included. Returns `buffer`,
+/// which holds an empty text when the digits do not fit or the radix is unknown; NULL for a NULL buffer or a size of 0.
 IX_DPL_EXPORT char* __itoaL(std::int64_t value, char* buffer, std::size_t size, int radix);
 /// @}
 
@@ -154,8 +155,8 @@ IX_DPL_EXPORT int ixDplIODeviceOpen(ixDplIODevice* device, const char* name, int
 /// @return 0, or the system's error number.
 IX_DPL_EXPORT int ixDplIODeviceRead(ixDplIODevice* device, void* buffer, std::uint32_t size, std::int32_t* count);
 
-/// Writes `size` bytes at the device's position. @param written out: the bytes written. @param option 1: all of them, or
-/// an error. @return 0, or the system's error number.
+/// Writes `size` bytes at the device's position. @param written out: the bytes written. @param option 1: all of them,
+/// or an error. @return 0, or the system's error number.
 IX_DPL_EXPORT int ixDplIODeviceWrite(ixDplIODevice* device, const void* buffer, std::uint32_t size,
                                      std::int32_t* written, int option);
 

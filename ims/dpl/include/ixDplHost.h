@@ -1,6 +1,6 @@
 /// @file
-/// Controls of the host implementation of the device platform layer: where log lines go, what memory is alive, and which
-/// allocation is to fail. The XML library never includes this; tests, tools and applications on a POSIX host do.
+/// Controls of the host implementation of the device platform layer: where log lines go, what memory is alive, and
+/// which allocation is to fail. The XML library never includes this; tests, tools and applications on a POSIX host do.
 #ifndef IX_DPL_HOST_H
 #define IX_DPL_HOST_H
 
@@ -27,8 +27,8 @@ using ixDplHostLogSink = void (*)(const ixDplHostLogLine& line, void* context);
 constexpr std::size_t kIxDplHostLogLimit = 40000;
 constexpr unsigned kIxDplHostAllLevels = 0x1e;  ///< Levels 1 to 4.
 
-/// Sends the levels of `levelMask` (bit n stands for level n) to `sink`. NULL or a mask of 0: nothing is logged, which is
-/// the default. A sink that is replaced may still finish a call on another thread.
+/// Sends the levels of `levelMask` (bit n stands for level n) to `sink`. NULL or a mask of 0: nothing is logged, which
+/// is the default. A sink that is replaced may still finish a call on another thread.
 IX_DPL_EXPORT void ixDplHostSetLogSink(ixDplHostLogSink sink, void* context, unsigned levelMask);
 /// @}
 
@@ -71,8 +71,8 @@ IX_DPL_EXPORT void ixDplHostReleaseHeap();
 /// @name Allocation counting and failure
 /// @{
 
-/// Starts counting allocations at 0; from then on the `first`-th one and the `count - 1` that follow it fail. `first` 0:
-/// none fails.
+/// Starts counting allocations at 0; from then on the `first`-th one and the `count - 1` that follow it fail. `first`
+/// 0: none fails.
 IX_DPL_EXPORT void ixDplHostFailAllocation(unsigned long first, unsigned long count = 1);
 
 /// Allocations since `ixDplHostFailAllocation`, failed ones included.

@@ -70,8 +70,8 @@ int ixDplIODeviceRead(ixDplIODevice* device, void* buffer, std::uint32_t size, s
     *count = 0;
     if (size > INT_MAX) return EFBIG;
     while (static_cast<std::uint32_t>(*count) < size) {
-        const ssize_t got = read(Descriptor(device), static_cast<char*>(buffer) + *count,
-                                 size - static_cast<std::uint32_t>(*count));
+        const ssize_t got =
+            read(Descriptor(device), static_cast<char*>(buffer) + *count, size - static_cast<std::uint32_t>(*count));
         if (got < 0 && errno == EINTR) continue;
         if (got < 0) return errno;
         if (got == 0) break;

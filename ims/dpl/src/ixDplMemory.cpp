@@ -143,13 +143,13 @@ void ixDplHostVisitLedger(void (*visit)(const ixDplHostBlock& block, void* conte
 void ixDplHostDumpLedger(std::FILE* file) {
     ixDplHostVisitLedger(
         [](const ixDplHostBlock& block, void* context) {
-            std::fprintf(static_cast<std::FILE*>(context), "module %d %s:%d %zu bytes at %p\n", block.module, block.source,
-                         block.line, block.size, block.pointer);
+            std::fprintf(static_cast<std::FILE*>(context), "module %d %s:%d %zu bytes at %p\n", block.module,
+                         block.source, block.line, block.size, block.pointer);
         },
         file);
     const ixDplHostLedgerTotals totals = ixDplHostLedger();
-    std::fprintf(file, "%zu objects and %zu heap blocks alive, %zu double and %zu unknown removals\n", totals.liveObjects,
-                 totals.liveHeapBlocks, totals.doubleRemovals, totals.unknownRemovals);
+    std::fprintf(file, "%zu objects and %zu heap blocks alive, %zu double and %zu unknown removals\n",
+                 totals.liveObjects, totals.liveHeapBlocks, totals.doubleRemovals, totals.unknownRemovals);
 }
 
 void ixDplHostReleaseHeap() {

@@ -5,7 +5,8 @@
 
 #include "XmlFamily.h"
 
-/// Collects declarations and looks at nothing else. Its result is there from the start, even for a text without elements.
+/// Collects declarations and looks at nothing else. Its result is there from the start, even for a text without
+/// elements.
 class IX_XML_EXPORT XMLSchemaNamespaceRetrievalDecoder : public XmlFamilyDecoder {
   public:
     XMLSchemaNamespaceRetrievalDecoder();

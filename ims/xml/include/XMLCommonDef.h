@@ -28,13 +28,13 @@ class IX_XML_EXPORT XMLElement : public XmlHeapObject {
     /// Always 0; keeps its place in the table of virtual operations.
     virtual int Reserved() const = 0;
 
-    /// Offers content while a document is decoded: a start tag (`name`, no text), an end tag (`name` with a leading "/" and
-    /// the raw text before it), or a child object that this element is to own.
+    /// Offers content while a document is decoded: a start tag (`name`, no text), an end tag (`name` with a leading "/"
+    /// and the raw text before it), or a child object that this element is to own.
     /// @return 1 handled or ignored, 0 refused; a refused child stays with the caller.
     virtual int ProcessUnMarshall(char* name, char* text, XMLElement* child);
 
-    /// Offers an attribute while a document is decoded. `pair` is NULL for an attribute the decoder knows, else an object
-    /// with both texts that this element may take over.
+    /// Offers an attribute while a document is decoded. `pair` is NULL for an attribute the decoder knows, else an
+    /// object with both texts that this element may take over.
     /// @return 1 handled or ignored, 0 refused; a refused pair stays with the caller.
     virtual int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair);
 
@@ -401,8 +401,8 @@ class IX_XML_EXPORT ix_xml_common_array_definition : public XmlHeapObject {
     /// The text of an entry. No range check: pass enumerators only.
     static const char* getStringName(e_XmlStrRef entry) { return arrXmlStrRef[entry]; }
 
-    /// Creates the marker object on the first call and returns it on every call; NULL without memory. Not guarded against
-    /// first calls from two threads at once. The table does not need it.
+    /// Creates the marker object on the first call and returns it on every call; NULL without memory. Not guarded
+    /// against first calls from two threads at once. The table does not need it.
     static ix_xml_common_array_definition* CreateArrayInstance();
     /// Deletes the marker object.
     static void ReleaseArrayInstance();

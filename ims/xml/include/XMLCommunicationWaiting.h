@@ -3,7 +3,8 @@
 ///
 /// - Root element: `communication-waiting`, with the attribute `active`; no children.
 /// - Namespace: http://uri.etsi.org/ngn/params/xml/simservs/xcap.
-/// - Prefixes: mapped. The element is recognised without a prefix and as `ss:`, and with the prefix of a namespace binder.
+/// - Prefixes: mapped. The element is recognised without a prefix and as `ss:`, and with the prefix of a namespace
+/// binder.
 /// - Read and written.
 #ifndef IX_XML_COMMUNICATION_WAITING_H
 #define IX_XML_COMMUNICATION_WAITING_H
@@ -37,8 +38,8 @@ class IX_XML_EXPORT CommunicationWaitingUnMarshaller : public XmlFamilyUnMarshal
     const XmlUnMarshallerInfo& Info() const override;
 };
 
-/// Writes `<communication-waiting  active="true"/>`, with the attributes kept from the document it was decoded from before
-/// `active`, and with the prefix that a namespace binder gives to the namespace. No XML declaration.
+/// Writes `<communication-waiting  active="true"/>`, with the attributes kept from the document it was decoded from
+/// before `active`, and with the prefix that a namespace binder gives to the namespace. No XML declaration.
 class IX_XML_EXPORT Communication_waitingMarshaller : public XmlFamilyMarshaller {
   public:
     Communication_waitingMarshaller();

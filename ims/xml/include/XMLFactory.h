@@ -1,9 +1,9 @@
 /// @file
 /// The registry of document schemas, and the interfaces through which a caller works with one of them.
 ///
-/// A caller takes the context of a schema (`XMLFactory::newInstance`), has it create a binder factory and a marshaller to
-/// build and write a document, or an unmarshaller to read one, and gives back the tree (`XMLFactory::DeleteElement`) and
-/// the context (`XMLFactory::deleteContext`).
+/// A caller takes the context of a schema (`XMLFactory::newInstance`), has it create a binder factory and a marshaller
+/// to build and write a document, or an unmarshaller to read one, and gives back the tree (`XMLFactory::DeleteElement`)
+/// and the context (`XMLFactory::deleteContext`).
 #ifndef IX_XML_FACTORY_H
 #define IX_XML_FACTORY_H
 
@@ -55,7 +55,8 @@ class IX_XML_EXPORT XMLMarshaller : public XmlHeapObject {
     XMLMarshaller(const XMLMarshaller&) = delete;
     XMLMarshaller& operator=(const XMLMarshaller&) = delete;
 
-    /// @return the text, which belongs to the marshaller until its next `Marshall` or its end; NULL when the tree cannot be
+    /// @return the text, which belongs to the marshaller until its next `Marshall` or its end; NULL when the tree
+    /// cannot be
     ///         written. A text longer than the writer's capacity (32767 characters) is cut; see `IsTruncated`.
     virtual char* Marshall(XMLElement* root) = 0;
     /// Does nothing; keeps its place in the table of virtual operations.
@@ -72,7 +73,8 @@ class IX_XML_EXPORT XMLUnMarshaller : public XmlHeapObject {
     XMLUnMarshaller(const XMLUnMarshaller&) = delete;
     XMLUnMarshaller& operator=(const XMLUnMarshaller&) = delete;
 
-    /// @return the root, which the caller frees with `XMLFactory::DeleteElement`; NULL when `text` is NULL, is not complete
+    /// @return the root, which the caller frees with `XMLFactory::DeleteElement`; NULL when `text` is NULL, is not
+    /// complete
     ///         and balanced XML in the tokenizer's sense, has another root, or when memory ran out.
     virtual XMLElement* UnMarshall(const char* text) = 0;
     /// The same for the text of a file. The file stays with the caller, who closes it.
@@ -91,8 +93,8 @@ class IX_XML_EXPORT XMLObjectFactory : public XmlHeapObject {
     virtual XMLElement* CreateRootElement() = 0;
 };
 
-/// Entry to one schema. Owns the three objects that it creates. Call each create operation once: a second call makes a new
-/// object, and the earlier one is then the caller's.
+/// Entry to one schema. Owns the three objects that it creates. Call each create operation once: a second call makes a
+/// new object, and the earlier one is then the caller's.
 class IX_XML_EXPORT XMLContext : public XmlHeapObject {
   public:
     XMLContext() = default;
@@ -106,8 +108,8 @@ class IX_XML_EXPORT XMLContext : public XmlHeapObject {
     virtual XMLObjectFactory* createBinderFactory() = 0;
 
     /// Supplementary services: gives the context the namespace declarations of a document (the root that the schema
-    /// namespace retrieval decodes), so that its prefixes are understood and written. Call it before the create operations.
-    /// The binder stays with the caller and must live until they are done; NULL changes nothing.
+    /// namespace retrieval decodes), so that its prefixes are understood and written. Call it before the create
+    /// operations. The binder stays with the caller and must live until they are done; NULL changes nothing.
     /// @return 1 for the contexts of the supplementary services, 0 for all others, which do nothing.
     virtual int SetNamespaceBinder(XMLObject* binder);
 
@@ -130,7 +132,8 @@ struct XmlSchemaInfo {
 
 class IX_XML_EXPORT XMLFactory {
   public:
-    /// @return the context of a schema, freed with `deleteContext`; NULL for a number without a context, or without memory.
+    /// @return the context of a schema, freed with `deleteContext`; NULL for a number without a context, or without
+    /// memory.
     static XMLContext* newInstance(eXMLSchemaID id);
     /// Frees a context and what it created. NULL is ignored.
     static void deleteContext(XMLContext* context);

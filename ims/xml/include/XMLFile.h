@@ -23,8 +23,8 @@ class IX_XML_EXPORT XMLFile : public XmlHeapObject {
     /// @return 1, or 0. Required: a mode outside the enumeration opens nothing and answers 1.
     unsigned int OpenFile();
 
-    /// Reads the whole file. @return its text with a NUL behind it, valid until the next `Read`, `CloseFile` or the end of
-    /// the object; NULL on failure, when the file is closed. An empty file is a failure.
+    /// Reads the whole file. @return its text with a NUL behind it, valid until the next `Read`, `CloseFile` or the end
+    /// of the object; NULL on failure, when the file is closed. An empty file is a failure.
     char* Read();
 
     /// Writes `text` in the file's mode. @return 1, or 0.

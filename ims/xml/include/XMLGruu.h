@@ -50,7 +50,7 @@ class IX_XML_EXPORT ix_temp_gruu : public XMLObject {
     /// @return 1.
     int setFirstCseqValue(std::int64_t firstCseq);
 
-    char* mUri = nullptr;          ///< Owned; NULL: not set. Mandatory in a written document.
+    char* mUri = nullptr;         ///< Owned; NULL: not set. Mandatory in a written document.
     std::int64_t mFirstCseq = 0;  ///< The first CSeq for which the GRUU was valid. Always written, as its low 32 bits.
 
   protected:
@@ -84,8 +84,8 @@ class IX_XML_EXPORT GruuDataBinder : public XMLObjectFactory {
 
     /// Names the root to create: "pub-gruu" or "temp-gruu" (copied); NULL clears it. @return 1, or 0 without memory.
     int setGruutypeValue(const char* type);
-    /// The root that `setGruutypeValue` named; NULL when it named none, or without memory. Required: any leading part of
-    /// the two words selects, the empty text "pub-gruu".
+    /// The root that `setGruutypeValue` named; NULL when it named none, or without memory. Required: any leading part
+    /// of the two words selects, the empty text "pub-gruu".
     XMLElement* CreateRootElement() override;
     ix_pub_gruu* CreatePubGruuElement();
     ix_temp_gruu* CreateTempGruuElement();
@@ -99,8 +99,8 @@ class IX_XML_EXPORT GruuUnMarshaller : public XmlFamilyUnMarshaller {
     const XmlUnMarshallerInfo& Info() const override;
 };
 
-/// Writes the XML declaration and one empty element, as in `<temp-gruu  first-cseq="7"  uri="sip:..."/>`. An element of any
-/// other class is no error: the text is the declaration alone.
+/// Writes the XML declaration and one empty element, as in `<temp-gruu  first-cseq="7"  uri="sip:..."/>`. An element of
+/// any other class is no error: the text is the declaration alone.
 class IX_XML_EXPORT GruuMarshaller : public XmlFamilyMarshaller {
   public:
     GruuMarshaller();

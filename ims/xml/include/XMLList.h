@@ -7,15 +7,15 @@
 
 /// One entry of an `IxSingleElementList`.
 struct IxSingleElementNode {
-    void* key;  ///< The payload; not owned by the list.
+    void* key;                  ///< The payload; not owned by the list.
     IxSingleElementNode* next;  ///< NULL at the end.
 };
 
-/// Singly linked list of untyped pointers. It owns its nodes and never what the keys point to; the element that holds the
-/// list frees them (`ix_xml_common_methods`).
+/// Singly linked list of untyped pointers. It owns its nodes and never what the keys point to; the element that holds
+/// the list frees them (`ix_xml_common_methods`).
 ///
-/// The count has 16 bits: a list takes more than 65535 entries and keeps all of them, but the count then starts again at
-/// 0, so that entries past it are reached only by walking the nodes.
+/// The count has 16 bits: a list takes more than 65535 entries and keeps all of them, but the count then starts again
+/// at 0, so that entries past it are reached only by walking the nodes.
 class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
   public:
     IxSingleElementList();
@@ -23,7 +23,8 @@ class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
     IxSingleElementList(const IxSingleElementList&) = delete;
     IxSingleElementList& operator=(const IxSingleElementList&) = delete;
 
-    /// Appends `key`, which may be NULL or stand in the list already. @return 1, or 0 without memory, the list unchanged.
+    /// Appends `key`, which may be NULL or stand in the list already. @return 1, or 0 without memory, the list
+    /// unchanged.
     unsigned int Add(void* key);
 
     /// Unlinks the first node that holds `key`. A NULL key is never found. @return 1, or 0.

@@ -1,6 +1,6 @@
 /// @file
-/// Schema namespace retrieval: the namespace declarations of any XML text (Namespaces in XML 1.0), so that a caller learns
-/// which schemas a document uses before choosing one.
+/// Schema namespace retrieval: the namespace declarations of any XML text (Namespaces in XML 1.0), so that a caller
+/// learns which schemas a document uses before choosing one.
 ///
 /// - Root element: any. Every declaration counts, whatever element carries it.
 /// - Prefixes: not looked at.
@@ -25,14 +25,15 @@ class IX_XML_EXPORT ix_schema_namespace_retrieval : public XMLObject {
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
-    /// Takes over a list of `ix_AttributeValuePair`s, in place of an earlier one, which is deleted. NULL changes nothing.
+    /// Takes over a list of `ix_AttributeValuePair`s, in place of an earlier one, which is deleted. NULL changes
+    /// nothing.
     /// @return 1.
     int setNameSpaceInfo(IxSingleElementList* list);
     /// The list, which stays with the element; NULL when there are no declarations.
     IxSingleElementList* getNameSpaceInfo() const;
 
-    /// Owned `ix_AttributeValuePair`s in the order of the text: the name is the prefix, NULL for the default namespace, the
-    /// value is the URI. NULL: none.
+    /// Owned `ix_AttributeValuePair`s in the order of the text: the name is the prefix, NULL for the default namespace,
+    /// the value is the URI. NULL: none.
     IxSingleElementList* mNameSpaceInfo = nullptr;
 };
 

@@ -17,12 +17,13 @@ class IX_XML_EXPORT ix_ns_xcap_simservType : public XMLObject {
 
     /// @return 1.
     int setActiveValue(int active);
-    /// Appends a pair, which then belongs to the element. @return 1, or 0 without memory, when it stays with the caller.
+    /// Appends a pair, which then belongs to the element. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addExtension(ix_AttributeValuePair* pair);
 
     int mActive = 1;                                ///< 1 active, else inactive; a new service is active.
-    IxSingleElementList* mExtensionList = nullptr;  ///< Owned `ix_AttributeValuePair`s: every attribute but "active", such
-                                                    ///< as namespace declarations, to be written back. NULL: none.
+    IxSingleElementList* mExtensionList = nullptr;  ///< Owned `ix_AttributeValuePair`s: every attribute but "active",
+                                                    ///< such as namespace declarations, to be written back. NULL: none.
 
   protected:
     /// The source file of the service's own class, under which its list is registered.

@@ -5,8 +5,8 @@
 
 #include "XmlPlatform.h"
 
-/// Fixed stack of untyped pointers; it owns none of them. A document nested deeper than its capacity is not refused: the
-/// objects past it are dropped with a log line, and the end tags then pop what lies below.
+/// Fixed stack of untyped pointers; it owns none of them. A document nested deeper than its capacity is not refused:
+/// the objects past it are dropped with a log line, and the end tags then pop what lies below.
 class IX_XML_EXPORT XmlCodeGenStack {
   public:
     static constexpr int kCapacity = 100;

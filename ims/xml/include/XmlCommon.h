@@ -8,8 +8,14 @@
 /// String helpers. All work in place on NUL-terminated text.
 class IX_XML_EXPORT XmlCommon {
   public:
+    /// True for a blank, tab, line feed or carriage return.
+    static bool IsSpace(char byte) { return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r'; }
     /// The first character that is not a blank, tab, line feed or carriage return; NULL for NULL.
-    static char* SkipSpaces(char* text);
+    static char* SkipSpaces(char* text) {
+        if (text == nullptr) return nullptr;
+        while (IsSpace(*text)) ++text;
+        return text;
+    }
     /// The same: only leading white space is skipped.
     static char* TrimSpaces(char* text) { return SkipSpaces(text); }
     /// Removes the last character if it is a blank.
@@ -24,8 +30,8 @@ class IX_XML_EXPORT XmlCommon {
     static char* LocateEndElement(char* text);
 };
 
-/// A text buffer that is kept from use to use, so that a step repeated for every tag takes memory only when a tag is longer
-/// than all before it, and none at all while tags are short.
+/// A text buffer that is kept from use to use, so that a step repeated for every tag takes memory only when a tag is
+/// longer than all before it, and none at all while tags are short.
 class IX_XML_EXPORT XmlWorkText {
   public:
     XmlWorkText() = default;
@@ -33,8 +39,8 @@ class IX_XML_EXPORT XmlWorkText {
     XmlWorkText(const XmlWorkText&) = delete;
     XmlWorkText& operator=(const XmlWorkText&) = delete;
 
-    /// Makes room for `size` bytes. What the buffer held is lost when it grows. @return false without memory; the buffer
-    /// then keeps its old size.
+    /// Makes room for `size` bytes. What the buffer held is lost when it grows. @return false without memory; the
+    /// buffer then keeps its old size.
     bool Reserve(std::size_t size) { return size <= m_size || Grow(size); }
     char* Text() { return m_pText; }
 
@@ -54,15 +60,15 @@ class IX_XML_EXPORT BuddyLinkList : public XmlHeapObject {
     BuddyLinkList(const BuddyLinkList&) = delete;
     BuddyLinkList& operator=(const BuddyLinkList&) = delete;
 
-    /// Makes a new node with `data` the next of this one; a node that was next before is no longer linked. To append at the
-    /// end, call it on `SeekEnd()`. @return the node, or NULL without memory.
+    /// Makes a new node with `data` the next of this one; a node that was next before is no longer linked. To append at
+    /// the end, call it on `SeekEnd()`. @return the node, or NULL without memory.
     BuddyLinkList* Append(void* data);
     /// The last object of the chain, this one when it has no next.
     BuddyLinkList* SeekEnd();
     /// Unlinks and returns the last node, which then belongs to the caller; NULL when there is none.
     BuddyLinkList* RemoveLast();
-    /// Deletes every node after this object, handing its data to `callback` first when there is one. This object keeps its
-    /// next, which is then stale: delete it right after.
+    /// Deletes every node after this object, handing its data to `callback` first when there is one. This object keeps
+    /// its next, which is then stale: delete it right after.
     void FreeList(void (*callback)(void*));
 
     void* m_pData;                     ///< Not owned.

@@ -1,9 +1,9 @@
 /// @file
 /// The streaming tokenizer, and the interface through which it reports to the decoder of one schema.
 ///
-/// The tokenizer is small and lenient: no DTD, no CDATA, no processing instructions, no character references, no namespace
-/// processing, and therefore no entity expansion beyond the five predefined ones in attribute values. Text is reported
-/// only with the end tag that follows it.
+/// The tokenizer is small and lenient: no DTD, no CDATA, no processing instructions, no character references, no
+/// namespace processing, and therefore no entity expansion beyond the five predefined ones in attribute values. Text is
+/// reported only with the end tag that follows it.
 #ifndef IX_XML_DECODER_H
 #define IX_XML_DECODER_H
 
@@ -13,12 +13,12 @@
 
 /// Receives the events of one document.
 ///
-/// | Construct                | Calls, in order                                                                            |
+/// | Construct                | Calls, in order |
 /// |--------------------------|--------------------------------------------------------------------------------------------|
-/// | `<name a="x">`           | `ProcessElement(name, NULL)`, `ProcessAttribute(name, a, x)` for each, `ProcessEndOfStartTag(name)` |
-/// | `<name a="x"/>`          | the same, then `ProcessElement("/name", "")`                                               |
-/// | `</name>`                | `ProcessElement("/name", text)`, the raw text since the last tag                           |
-/// | declaration, comment     | none                                                                                       |
+/// | `<name a="x">`           | `ProcessElement(name, NULL)`, `ProcessAttribute(name, a, x)` for each,
+/// `ProcessEndOfStartTag(name)` | | `<name a="x"/>`          | the same, then `ProcessElement("/name", "")` | |
+/// `</name>`                | `ProcessElement("/name", text)`, the raw text since the last tag | | declaration, comment
+/// | none                                                                                       |
 ///
 /// Names are as written, prefix included. All texts are valid during the call only.
 class IX_XML_EXPORT XmlDecoderSchema : public XmlHeapObject {
@@ -31,9 +31,9 @@ class IX_XML_EXPORT XmlDecoderSchema : public XmlHeapObject {
     /// Always 0; never called.
     virtual int Reserved() = 0;
 
-    /// An attribute of the element just started, its value with the predefined entities replaced. White space between the
-    /// name and "=" stays part of the name. White space between the last value and the end of the tag yields one more
-    /// call with an empty name and value.
+    /// An attribute of the element just started, its value with the predefined entities replaced. White space between
+    /// the name and "=" stays part of the name. White space between the last value and the end of the tag yields one
+    /// more call with an empty name and value.
     /// @return 0 handled, -1 rejected; the tokenizer goes on either way.
     virtual int ProcessAttribute(char* element, char* attribute, char* value) = 0;
 
@@ -83,8 +83,8 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
 
     /// Decodes up to `length` characters of `text`, or fewer if a NUL comes first. The text is copied and not changed.
     ///
-    /// A piece may end anywhere. What follows its last ">" is kept if it holds a "<", and dropped otherwise, even if it is
-    /// the beginning of a text that the next piece would complete.
+    /// A piece may end anywhere. What follows its last ">" is kept if it holds a "<", and dropped otherwise, even if it
+    /// is the beginning of a text that the next piece would complete.
     /// @return one of `eXmlDecodeResult`. Text behind the root element is not looked at.
     int Decode(const char* text, int length);
 
@@ -104,7 +104,8 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
 
     /// Cuts the next token out of `text`. `delimiters` counts up to 32 characters.
     /// @param rest out: behind the delimiter that ended the token, or the end of the text.
-    /// @return the token, never empty; NULL when there is none, or when `text` or `delimiters` is NULL, which also leaves
+    /// @return the token, never empty; NULL when there is none, or when `text` or `delimiters` is NULL, which also
+    /// leaves
     ///         `rest` alone.
     char* N_strtok(char* text, const char* delimiters, char** rest);
     /// Skips leading white space and cuts off trailing white space.
@@ -120,7 +121,8 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     /// The memory of an open name. Slots past the open ones keep theirs for the next names.
     struct OpenName {
         BuddyLinkList* node;
-        std::size_t size;
+        std::size_t size;    ///< Bytes that the node's text has room for.
+        std::size_t length;  ///< Length of the text.
     };
 
     bool AppendToPending(const char* text, std::size_t length);
@@ -131,10 +133,14 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     int DecodeSelfClosingTag(char* content, char* end);
     int DecodeStartTag(char* content, char* end);
     int SplitAttributes(char* content, std::size_t length, char** name);
+    static int ValidateList(char* text, const char* end);
     int ReportAttributes(char* name, char* rest, char* end);
     int ReportSelfClosingEnd(char* name, char* rest);
     bool ReportEnd(const char* name, std::size_t length, char* text, const XmlLogText& noMemory, int* result);
+    bool PushName(const char* name, std::size_t length);
+    BuddyLinkList* LastOpenNode() const;
     bool GrowOpenNames();
+    void FreeSlot(OpenName& slot);
     void FreeOpenNames();
     void DropLastOpenName();
 

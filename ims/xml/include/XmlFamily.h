@@ -1,9 +1,9 @@
 /// @file
 /// The family template: what the classes of every schema have in common, once.
 ///
-/// A schema is served by a context, a binder factory, an unmarshaller, a decoder, a marshaller and its element classes. Each
-/// takes what is particular to it from a plain struct of constants: source path, log texts, namespaces, element tables. The
-/// first families to read are communication waiting (XMLCommunicationWaiting.h) and GRUU (XMLGruu.h);
+/// A schema is served by a context, a binder factory, an unmarshaller, a decoder, a marshaller and its element classes.
+/// Each takes what is particular to it from a plain struct of constants: source path, log texts, namespaces, element
+/// tables. The first families to read are communication waiting (XMLCommunicationWaiting.h) and GRUU (XMLGruu.h);
 /// docs/adding-a-schema.md builds one from nothing.
 #ifndef IX_XML_FAMILY_H
 #define IX_XML_FAMILY_H
@@ -48,7 +48,7 @@ struct XmlContainerRow {
 
     XmlKnownName name;
     Role role;
-    const char* className;                     ///< The end tag pops an object of this class only; NULL: whatever is on top.
+    const char* className;  ///< The end tag pops an object of this class only; NULL: whatever is on top.
     XMLElement* (*create)(const char* name);  ///< NULL result: no memory.
 };
 
@@ -95,8 +95,8 @@ struct XmlDecoderInfo {
 /// Start tags of known elements create an object; end tags take it off the stack again. Any other element goes to the
 /// object on top of the stack, and so does every attribute: one that the decoder knows as it is, any other as a pair.
 ///
-/// Of the objects that no tree owns (an accepted child that its parent did not keep, a root inside a root) the decoder frees
-/// those that it replaced or that nobody took, when it ends; the result itself is never its own.
+/// Of the objects that no tree owns (an accepted child that its parent did not keep, a root inside a root) the decoder
+/// frees those that it replaced or that nobody took, when it ends; the result itself is never its own.
 class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
   public:
     ~XmlFamilyDecoder() override;
@@ -107,11 +107,11 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     int ProcessEndOfStartTag(char* element) override;
     XMLElement* GetSessionData() override { return m_pSessionData; }
 
-    /// Takes over the prefixes of a binder (see `XMLContext::SetNamespaceBinder`). NULL, or a binder without namespaces,
-    /// changes nothing. @return 1.
+    /// Takes over the prefixes of a binder (see `XMLContext::SetNamespaceBinder`). NULL, or a binder without
+    /// namespaces, changes nothing. @return 1.
     int SetNameSpaceBinderInfo(XMLObject* binder);
-    /// Maps the prefix of `tag` (with or without a leading "/") to the canonical one. @return 1, the result in `MappedTag`;
-    /// 0 for NULL or without memory.
+    /// Maps the prefix of `tag` (with or without a leading "/") to the canonical one. @return 1, the result in
+    /// `MappedTag`; 0 for NULL or without memory.
     int XMLChangeNamespaceTag(const char* tag);
     /// Removes the prefix. @return 1, the result in `PassName`; 0 for NULL or without memory.
     int XMLRemoveNameSpaceTag(const char* tag);
@@ -134,8 +134,8 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
 
     /// The object on top of the stack, or NULL.
     XMLElement* Top() const { return m_stack.empty() ? nullptr : static_cast<XMLElement*>(m_stack.top()); }
-    /// Makes `root` the result in place of an earlier one, which the decoder then frees when it ends. @return false without
-    /// memory, when the earlier one stays and `root` is deleted.
+    /// Makes `root` the result in place of an earlier one, which the decoder then frees when it ends. @return false
+    /// without memory, when the earlier one stays and `root` is deleted.
     bool SetSessionData(XMLElement* root);
 
   private:
@@ -203,8 +203,9 @@ class IX_XML_EXPORT XmlFamilyUnMarshaller : public XMLUnMarshaller {
 /// What is particular to the marshaller of a schema. Log lines left out are not logged.
 struct XmlMarshallerInfo {
     const char* source = nullptr;
-    bool writesDeclaration = false;  ///< Version "1.0", encoding "UTF-8". Without one, the text starts at the root element.
-    bool entersFirst = false;        ///< `entered` is logged before the root is looked at.
+    bool writesDeclaration =
+        false;                 ///< Version "1.0", encoding "UTF-8". Without one, the text starts at the root element.
+    bool entersFirst = false;  ///< `entered` is logged before the root is looked at.
     const XmlNamespaceRow* namespaces = nullptr;
     std::size_t namespaceCount = 0;
     XmlLogText noFirstNamespace{};  ///< No memory for the first row of the namespace table ...

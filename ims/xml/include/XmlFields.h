@@ -1,10 +1,10 @@
 /// @file
-/// Field tables: each element class describes its data members once, as constants, and clean-up, comparison and printing
-/// work from the description.
+/// Field tables: each element class describes its data members once, as constants, and clean-up, comparison and
+/// printing work from the description.
 ///
 /// A row holds a pointer to a data member, converted to one of the base class, so that one piece of code can reach the
-/// members of every class without templates. A table must only be used with objects of the class that it belongs to, which
-/// `XMLElement::FieldTable` guarantees.
+/// members of every class without templates. A table must only be used with objects of the class that it belongs to,
+/// which `XMLElement::FieldTable` guarantees.
 #ifndef IX_XML_FIELDS_H
 #define IX_XML_FIELDS_H
 
@@ -68,11 +68,11 @@ struct IX_XML_EXPORT XmlField {
     };
 
     XmlFieldKind kind;
-    e_XmlStrRef name;                            ///< Element or attribute name; `IX_STR_IX_NULL`: see `key`.
+    e_XmlStrRef name;  ///< Element or attribute name; `IX_STR_IX_NULL`: see `key`.
     Member member;
-    long long notSet = 0;                        ///< Flags, numbers, enumerations: the value that means 'not set'.
+    long long notSet = 0;                         ///< Flags, numbers, enumerations: the value that means 'not set'.
     const XmlEnumeration* enumeration = nullptr;  ///< Enumerations only.
-    const char* key = nullptr;                   ///< Name of a field that no XML name stands for: "text", "attributes".
+    const char* key = nullptr;  ///< Name of a field that no XML name stands for: "text", "attributes".
 
     const char* Name() const { return key != nullptr ? key : ix_xml_common_array_definition::getStringName(name); }
 };
@@ -99,8 +99,8 @@ class IX_XML_EXPORT XmlFields {
     static bool IsSet(const XMLElement& element, const XmlField& field);
     /// @}
 
-    /// Frees what the fields of `table` own, not those of its base. Every destructor of an element class calls it with the
-    /// class's own table.
+    /// Frees what the fields of `table` own, not those of its base. Every destructor of an element class calls it with
+    /// the class's own table.
     static void Release(XMLElement* element, const XmlFieldTable& table);
 
     /// True when `child` is the value of a child field, or the last entry of a child list.

@@ -1,5 +1,6 @@
 /// @file
-/// What every class of the library takes from the device platform layer (ixDpl.h): memory, the memory tracker, log lines.
+/// What every class of the library takes from the device platform layer (ixDpl.h): memory, the memory tracker, log
+/// lines.
 #ifndef IX_XML_PLATFORM_H
 #define IX_XML_PLATFORM_H
 
@@ -11,14 +12,16 @@
 
 #define IX_XML_EXPORT __attribute__((visibility("default")))
 
-/// Base of every class whose objects are created with `new`: their memory comes from the platform layer, like that of all
-/// texts and lists. Where there is none, a `new` expression of such a class yields NULL; it never throws.
+/// Base of every class whose objects are created with `new`: their memory comes from the platform layer, like that of
+/// all texts and lists. Where there is none, a `new` expression of such a class yields NULL; it never throws.
 class IX_XML_EXPORT XmlHeapObject {
   public:
     static void* operator new(std::size_t size) noexcept;
     static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
+    static void* operator new(std::size_t /*size*/, void* place) noexcept { return place; }
     static void operator delete(void* object) noexcept;
     static void operator delete(void* object, const std::nothrow_t&) noexcept;
+    static void operator delete(void* /*object*/, void* /*place*/) noexcept {}
 
   protected:
     XmlHeapObject() = default;
@@ -26,8 +29,8 @@ class IX_XML_EXPORT XmlHeapObject {
 };
 
 /// @name Tracked objects
-/// Every object made with `new` is registered with the memory tracker at once and unregistered right before its deletion.
-/// The macros expect the constant `kSourceFile` of the including source file, its path without extension.
+/// Every object made with `new` is registered with the memory tracker at once and unregistered right before its
+/// deletion. The macros expect the constant `kSourceFile` of the including source file, its path without extension.
 /// @{
 
 /// Module numbers of the memory tracker.
@@ -48,12 +51,12 @@ IX_XML_EXPORT void* ixTrack(int module, const char* source, int line, void* obje
 /// A new object registered with the line of this very call.
 #define IX_NEW(type) IX_NEW_AT(__LINE__, type)
 
-#define IX_TRACKED_DELETE(module, object)   \
-    do {                                    \
-        if ((object) != nullptr) {          \
+#define IX_TRACKED_DELETE(module, object)    \
+    do {                                     \
+        if ((object) != nullptr) {           \
             trmemlog_remove(module, object); \
-            delete (object);                \
-        }                                   \
+            delete (object);                 \
+        }                                    \
     } while (false)
 
 #define IX_DELETE(object) IX_TRACKED_DELETE(kSchemaModule, object)
@@ -88,8 +91,8 @@ struct XmlLogArgument {
 };
 
 /// Logs `text` as a line of the file `source`.
-inline void ixLog(const char* source, const XmlLogText& text, XmlLogArgument argument1 = 0, XmlLogArgument argument2 = 0,
-                  XmlLogArgument argument3 = 0) {
+inline void ixLog(const char* source, const XmlLogText& text, XmlLogArgument argument1 = 0,
+                  XmlLogArgument argument2 = 0, XmlLogArgument argument3 = 0) {
     if (text.format == nullptr) return;
     ixLogModuleEventSimple(text.level, text.code, source, text.line, text.format, argument1.word, argument2.word,
                            argument3.word);

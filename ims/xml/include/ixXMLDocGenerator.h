@@ -9,13 +9,13 @@
 /// Writes XML text into one buffer of fixed size, piece by piece. It keeps no track of nesting and checks nothing: the
 /// caller writes in document order and is responsible for balance.
 ///
-/// Without a buffer (before `ixInitXmlDoc`, after `ixDeInitXmlDoc`, or when there was no memory for it) every operation does
-/// nothing; so do those that take a name when it is NULL. No operation reports failure.
+/// Without a buffer (before `ixInitXmlDoc`, after `ixDeInitXmlDoc`, or when there was no memory for it) every operation
+/// does nothing; so do those that take a name when it is NULL. No operation reports failure.
 ///
-/// Attribute values have their double quotes written as "&quot;"; nothing else is escaped, in values or in text content.
-/// The attribute writers differ in their blanks: `ixStartAttribute` writes none around an unprefixed attribute and relies
-/// on the one that an open start tag ends with, so that it can write only one attribute a tag; the other two write one
-/// before the attribute and, unless they close the tag, one behind it.
+/// Attribute values have their double quotes written as "&quot;"; nothing else is escaped, in values or in text
+/// content. The attribute writers differ in their blanks: `ixStartAttribute` writes none around an unprefixed attribute
+/// and relies on the one that an open start tag ends with, so that it can write only one attribute a tag; the other two
+/// write one before the attribute and, unless they close the tag, one behind it.
 class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
   public:
     /// Size of the buffer, its NUL included. What does not fit is cut off; see `IsTruncated`.
@@ -44,8 +44,8 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
     void ixStartElementWithoutNL(const char* name, int open);
     /// Line feed and an element without attributes and content.
     void ixStartElementSelfEnding(const char* name);
-    /// Closes an open start tag, then line feed and a start tag with a prefix and its declaration. Without prefix or URI as
-    /// `ixStartElement`.
+    /// Closes an open start tag, then line feed and a start tag with a prefix and its declaration. Without prefix or
+    /// URI as `ixStartElement`.
     void ixStartElementNs(const char* name, const char* prefix, const char* uri, int open);
 
     /// The tag's only attribute. Does nothing unless a start tag is open. `usePrefix` 1: with the default prefix.

@@ -31,13 +31,14 @@ constexpr XmlDecoderInfo Info() {
     info.namespaceCount = kCommunicationWaitingNamespaceCount;
     info.pairLine = 372;
     info.texts.noElement = {3, kSchemaCode, 285,
-                       "<XML Module>XMLCommunicationWaitingDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noElementName = {3, kSchemaCode, 303,
-                           "<XML Module>XMLCommunicationWaitingDecoder :: ProcessElement: m_strDup or m_PassName is NULL"};
+                            "<XML Module>XMLCommunicationWaitingDecoder :: ProcessElement: n_strElement is NULL"};
+    info.texts.noElementName = {
+        3, kSchemaCode, 303,
+        "<XML Module>XMLCommunicationWaitingDecoder :: ProcessElement: m_strDup or m_PassName is NULL"};
     info.texts.noAttribute = {3, kSchemaCode, 342,
-                         "<XML Module>XMLCommunicationWaitingDecoder :: ProcessAttribute: n_strElement is NULL"};
+                              "<XML Module>XMLCommunicationWaitingDecoder :: ProcessAttribute: n_strElement is NULL"};
     info.texts.noAttributeName = {3, kSchemaCode, 349,
-                             "<XML Module>XMLCommunicationWaitingDecoder :: ProcessAttribute: m_strDup is NULL"};
+                                  "<XML Module>XMLCommunicationWaitingDecoder :: ProcessAttribute: m_strDup is NULL"};
     info.texts.noFirstNamespace = {
         2, kSchemaCode, 43,
         "XMLCommunicationWaitingDecoder :: XMLCommunicationWaitingDecoder: Malloc cannot allocate memory"};

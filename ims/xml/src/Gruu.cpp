@@ -33,7 +33,8 @@ constexpr XmlDecoderInfo Info() {
     info.attributeCount = std::size(kAttributes);
     info.pairLine = __LINE__;
     info.texts.noElement = {3, kSchemaCode, __LINE__, "<XML Module>: XMLGruuDecoder: n_strElement is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__, "<XML Module>: XMLGruuDecoder: n_strElement or n_strAttr is NULL"};
+    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
+                              "<XML Module>: XMLGruuDecoder: n_strElement or n_strAttr is NULL"};
     info.texts.noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};
     info.texts.noPair = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at any attribute = \"%s\""};
     info.texts.pairRefused = {3, kSchemaCode, __LINE__,

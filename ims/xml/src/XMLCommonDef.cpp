@@ -18,8 +18,8 @@ constexpr XmlField kEmptyElementFields[] = {
 };
 constexpr XmlFieldTable kEmptyElementTable = {nullptr, kEmptyElementFields, 2};
 
-/// The lists below an entry are emptied into `list` before the entry goes, so that the depth of a tree is not the depth of
-/// the calls.
+/// The lists below an entry are emptied into `list` before the entry goes, so that the depth of a tree is not the depth
+/// of the calls.
 void DeleteElement(void* entry, IxSingleElementList& list) {
     XMLElement* const element = static_cast<XMLElement*>(entry);
     XmlFields::HandOverChildLists(element, list);
@@ -38,7 +38,9 @@ void DeleteText(void* entry, IxSingleElementList& /*list*/) {
 /// Hands every entry to `end`, which may append to the list, then deletes the list.
 void DeleteList(IxSingleElementList* list, void (*end)(void* entry, IxSingleElementList& list)) {
     if (list == nullptr) return;
-    for (IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
+    // A list that was emptied into another one is no news for the log.
+    IxSingleElementNode* node = list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+    for (; node != nullptr; node = node->next) {
         if (node->key != nullptr) end(node->key, *list);
     }
     IX_DELETE(list);

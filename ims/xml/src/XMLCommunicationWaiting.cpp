@@ -34,9 +34,8 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
         2, kSchemaCode, 120,
         "Communication_waitingMarshaller :: Communication_waitingMarshaller: Malloc cannot allocate memory"};
     info.entered = {3, kSchemaCode, 283, "<XML Module>: Communication_waitingMarshaller :: Marshall"};
-    info.deleting = {
-        3, kSchemaCode, 288,
-        "<XML Module>: Communication_waitingMarshaller :: Marshall: Deleting mCommunicationWaitingXml"};
+    info.deleting = {3, kSchemaCode, 288,
+                     "<XML Module>: Communication_waitingMarshaller :: Marshall: Deleting mCommunicationWaitingXml"};
     info.written = {2, kSchemaCode, 313, "<XML Module>: Communication_waitingMarshaller XML %s"};
     info.failed = {2, kSchemaCode, 301, "<XML Module>: Communication_waitingMarshaller XML Failed!"};
     return info;

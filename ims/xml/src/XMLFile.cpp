@@ -27,9 +27,9 @@ constexpr std::int32_t kCountBeforeRead = 1025;
 }  // namespace
 
 XMLFile::XMLFile(const char* fileName, eXMLFileAccessMode mode)
-    : m_pFileName(fileName != nullptr ? __strdup(fileName) : nullptr),
-      m_eMode(mode),
-      m_device{0, IX_DPL_IO_FILE, 0, nullptr, 0, 0} {}
+    : m_pFileName(fileName != nullptr ? __strdup(fileName) : nullptr), m_eMode(mode), m_device{0, IX_DPL_IO_FILE,
+                                                                                               0, nullptr,
+                                                                                               0, 0} {}
 
 XMLFile::~XMLFile() {
     __free(m_pFileName);

@@ -33,8 +33,7 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
     info.entersFirst = true;
     info.entered = {1, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller :: Marshall"};
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller :: Incoming obj is NULL"};
-    info.noClassName = {3, kSchemaCode, __LINE__,
-                        "<XML Module>: GruuMarshaller :: Incoming pObj->ClassName() is NULL"};
+    info.noClassName = {3, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller :: Incoming pObj->ClassName() is NULL"};
     info.deleting = {1, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller :: Marshall: Deleting mGruuXml"};
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller XML %s"};
     return info;
@@ -45,8 +44,8 @@ constexpr XmlLogText kPubRefused = {3, kSchemaCode, __LINE__,
                                     "<XML Module>: Any attribute is not allowed in class ix_pub_gruu"};
 constexpr XmlLogText kTempRefused = {3, kSchemaCode, __LINE__,
                                      "<XML Module>: Any attribute is not allowed in class ix_temp_gruu"};
-constexpr XmlLogText kInnerPubRefused = {
-    3, kSchemaCode, __LINE__, "<XML Module>: Any attribute is not allowed in class ix_ns_gruuinfo_pubGruu"};
+constexpr XmlLogText kInnerPubRefused = {3, kSchemaCode, __LINE__,
+                                         "<XML Module>: Any attribute is not allowed in class ix_ns_gruuinfo_pubGruu"};
 constexpr XmlLogText kInnerTempRefused = {
     3, kSchemaCode, __LINE__, "<XML Module>: Any attribute is not allowed in class ix_ns_gruuinfo_tempGruu"};
 constexpr XmlLogText kNoType = {3, kSchemaCode, __LINE__, "<XML Module>: GruuDataBinder :: Gruutype is NULL"};
@@ -166,7 +165,8 @@ XMLElement* GruuDataBinder::CreateRootElement() {
         return nullptr;
     }
     ixLog(kSourceFile, kCreateRoot, m_pGruutype);
-    if (Begins(ix_xml_common_array_definition::getStringName(IX_STR_PUB_GRUU), m_pGruutype)) return CreatePubGruuElement();
+    if (Begins(ix_xml_common_array_definition::getStringName(IX_STR_PUB_GRUU), m_pGruutype))
+        return CreatePubGruuElement();
     if (Begins(ix_xml_common_array_definition::getStringName(IX_STR_TEMP_GRUU), m_pGruutype)) {
         return CreateTempGruuElement();
     }
@@ -188,8 +188,8 @@ const XmlUnMarshallerInfo& GruuUnMarshaller::Info() const {
 GruuMarshaller::GruuMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int GruuMarshaller::AddRootElementToXml(XMLElement* root) {
-    // Required: a class name that is only the beginning of the expected one selects the writer as well. Such an object is
-    // none of ours, so the writer gets nothing to read from.
+    // Required: a class name that is only the beginning of the expected one selects the writer as well. Such an object
+    // is none of ours, so the writer gets nothing to read from.
     const char* const name = root->ClassName();
     if (Begins(kPubGruuClass, name)) {
         ixLog(kSourceFile, kWritesPub);

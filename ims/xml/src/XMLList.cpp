@@ -11,7 +11,8 @@ constexpr XmlLogText kAdd = {3, kSchemaCode, 82, "<XML Module>: IxSingleElementL
 constexpr XmlLogText kCount = {3, kSchemaCode, 100, "<XML Module>: m_iListCount: %d"};
 constexpr XmlLogText kCountOfFirst = {3, kSchemaCode, 117, "<XML Module>: m_iListCount: %d"};
 constexpr XmlLogText kNoNode = {4, kSchemaCode, 105, "<XML Module>: IxSingleElementList:Add pTravNode Buffer is NULL"};
-constexpr XmlLogText kNoFirstNode = {4, kSchemaCode, 122, "<XML Module>: IxSingleElementList:Add m_pHead Buffer is NULL"};
+constexpr XmlLogText kNoFirstNode = {4, kSchemaCode, 122,
+                                     "<XML Module>: IxSingleElementList:Add m_pHead Buffer is NULL"};
 constexpr XmlLogText kRemove = {3, kSchemaCode, 142, "<XML Module>: IxSingleElementList::Remove"};
 constexpr XmlLogText kRemoveFromEmpty = {4, kSchemaCode, 146,
                                          "<XML Module> IxSingleElementList::Remove: Head itself is null"};

@@ -6,12 +6,6 @@ const char kSourceFile[] = "ims/xml/src/XmlCommon";
 
 }  // namespace
 
-char* XmlCommon::SkipSpaces(char* text) {
-    if (text == nullptr) return nullptr;
-    while (*text == ' ' || *text == '\t' || *text == '\n' || *text == '\r') ++text;
-    return text;
-}
-
 void XmlCommon::TrimRightSingle(char* text) {
     const std::size_t length = __strlen(text);
     if (length > 0 && text[length - 1] == ' ') text[length - 1] = '\0';

@@ -11,15 +11,14 @@ const char kSourceFile[] = "ims/xml/src/XmlDecoder";
 constexpr XmlLogText kNoMemoryForName = {2, kDecoderCode, 121, "XmlDecoder::PushElement"};
 constexpr XmlLogText kDecode = {2, kDecoderCode, 180, "XmlDecoder::n_count = %d"};
 constexpr XmlLogText kNoText = {2, kDecoderCode, 183, "XmlDecoder::Decode n_strXML is null"};
-constexpr XmlLogText kAlreadyComplete = {
-    2, kDecoderCode, 189, "XmlDecoder::Decode m_DecodeState = IX_XML_PARSE_COMPLETE ret IX_XML_SUCCESS"};
-constexpr XmlLogText kNoMemoryForEndName = {2, kDecoderCode, 323,
-                                            "<XML Decoder>XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"};
+constexpr XmlLogText kAlreadyComplete = {2, kDecoderCode, 189,
+                                         "XmlDecoder::Decode m_DecodeState = IX_XML_PARSE_COMPLETE ret IX_XML_SUCCESS"};
+constexpr XmlLogText kNoMemoryForEndName = {
+    2, kDecoderCode, 323, "<XML Decoder>XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"};
 constexpr XmlLogText kEndTagRejected = {
     3, kDecoderCode, 331, "<XML Decoder>:ProcessElement(pStrEndElement, start) failed when pStrEndElement=\"%s\""};
 constexpr XmlLogText kMismatch = {
-    3, kDecoderCode, 342,
-    "<XML Decoder>:stack mismatch happened when stored value is \"%s\" and ret:IX_XML_ERROR"};
+    3, kDecoderCode, 342, "<XML Decoder>:stack mismatch happened when stored value is \"%s\" and ret:IX_XML_ERROR"};
 constexpr XmlLogText kNothingOpen = {3, kDecoderCode, 360, "<XML Decoder>:stack is empty when decodeBegin is not"};
 constexpr XmlLogText kSelfClosingFailed = {
     3, kDecoderCode, 374, "<XML Decoder>:Decoder Failed in DecodeAttributes and ret:IX_XML_PARSE_ERROR"};
@@ -69,8 +68,25 @@ constexpr ByteSet kListStops("\"'=", kMostDelimiters);
 /// Smallest text kept for an open name, so that names of usual length never need a new one.
 constexpr std::size_t kLeastNameSize = 32;
 
-bool IsSpace(char byte) {
-    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
+/// memchr for a byte that is usually near: the first words are looked at here, without a call.
+char* FindByte(char* from, const char* last, char byte) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101U;
+    constexpr std::uint64_t kHighs = 0x8080808080808080U;
+    constexpr int kNearWords = 4;
+    const std::uint64_t pattern = kOnes * static_cast<unsigned char>(byte);
+    for (int i = 0; i < kNearWords && last - from >= 8; ++i, from += 8) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, from, sizeof word);
+        word ^= pattern;
+        const std::uint64_t found = (word - kOnes) & ~word & kHighs;
+        if (found == 0) continue;
+#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+        return from + (__builtin_ctzll(found) >> 3);
+#else
+        break;
+#endif
+    }
+    return static_cast<char*>(std::memchr(from, byte, static_cast<std::size_t>(last - from)));
 }
 
 /// Cuts off the token in front of `end`: the end of the text, or a delimiter that becomes the NUL of the token.
@@ -98,8 +114,8 @@ char* CutAt(char* text, char delimiter, char* end, char** rest) {
         *rest = end;
         return nullptr;
     }
-    void* const found = std::memchr(text, delimiter, static_cast<std::size_t>(end - text));
-    EndToken(found != nullptr ? static_cast<char*>(found) : end, rest);
+    char* const found = FindByte(text, end, delimiter);
+    EndToken(found != nullptr ? found : end, rest);
     return text;
 }
 
@@ -204,7 +220,7 @@ int XmlDecoder::Decode(const char* text, int length) {
     m_tagSearched = 0;
     for (;;) {
         m_iSelfClosing = 0;
-        begin = static_cast<char*>(std::memchr(begin, '<', static_cast<std::size_t>(last - begin)));
+        begin = FindByte(begin, last, '<');
         if (begin == nullptr) {
             m_DecodeState = IX_XML_PARSE_CONTINUE;
             m_pPending[0] = '\0';
@@ -213,7 +229,7 @@ int XmlDecoder::Decode(const char* text, int length) {
             return IX_XML_INCOMPLETE;
         }
         if (behind <= begin) behind = begin + 1;
-        char* const end = static_cast<char*>(std::memchr(behind, '>', static_cast<std::size_t>(last - behind)));
+        char* const end = FindByte(behind, last, '>');
         if (end == nullptr) return KeepFrom(scan, begin);
         *end = '\0';
         const int step = DecodeTag(scan, begin, end);
@@ -255,8 +271,8 @@ int XmlDecoder::DecodeTag(char* scan, char* begin, char* end) {
     return end[-1] == '/' ? DecodeSelfClosingTag(content, end) : DecodeStartTag(content, end);
 }
 
-/// A declaration stands before the root element only. A comment ends at the first ">", so one that contains a ">" is not
-/// recognised as complete.
+/// A declaration stands before the root element only. A comment ends at the first ">", so one that contains a ">" is
+/// not recognised as complete.
 int XmlDecoder::DecodeDeclaration(const char* content, const char* end) {
     if (*content == '?') return end[-1] == '?' && !HasOpenElements() ? kGoOn : kSyntaxError;
     return end - content > 4 && end[-1] == '-' && end[-2] == '-' ? kGoOn : kSyntaxError;
@@ -268,15 +284,17 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
         ixLog(kSourceFile, kNothingOpen);
         return IX_XML_ERROR;
     }
-    const char* const open = static_cast<const char*>(m_openNames[m_iOpenCount - 1].node->m_pData);
-    if (open == nullptr || std::strcmp(open, name) != 0) {
+    const OpenName& last = m_openNames[m_iOpenCount - 1];
+    const char* const open = static_cast<const char*>(last.node->m_pData);
+    const auto length = static_cast<std::size_t>(end - name);
+    if (open == nullptr || last.length != length || std::memcmp(open, name, length) != 0) {
         if (open != nullptr) ixLog(kSourceFile, kMismatch, open);
         return IX_XML_ERROR;
     }
     *begin = '\0';
     if (m_pSchemaDecoder != nullptr) {
         int result = 0;
-        if (!ReportEnd(name, static_cast<std::size_t>(end - name), text, kNoMemoryForEndName, &result)) return IX_XML_ERROR;
+        if (!ReportEnd(name, length, text, kNoMemoryForEndName, &result)) return IX_XML_ERROR;
         if (result != 0) ixLog(kSourceFile, kEndTagRejected, m_endName.Text());
     }
     DropLastOpenName();
@@ -303,7 +321,7 @@ int XmlDecoder::DecodeStartTag(char* content, char* end) {
         if (result == 1) m_pSchemaDecoder->ProcessElement(name, nullptr);
         m_pSchemaDecoder->ProcessEndOfStartTag(name);
     }
-    if (PushElement(name) == 0) {
+    if (!PushName(name, __strlen(name))) {
         ixLog(kSourceFile, kPushFailed);
         return kSyntaxError;
     }
@@ -339,8 +357,9 @@ int XmlDecoder::SplitAttributes(char* content, std::size_t length, char** name) 
         return IX_XML_ERROR;
     }
     char* const end = content + length;
-    const bool hasToken = rest[std::strspn(rest, "=")] != '\0';
-    if ((hasToken || m_iSelfClosing == 1) && m_pSchemaDecoder != nullptr) {
+    const char* token = rest;
+    while (*token == '=') ++token;
+    if ((*token != '\0' || m_iSelfClosing == 1) && m_pSchemaDecoder != nullptr) {
         m_pSchemaDecoder->ProcessElement(*name, nullptr);
     }
     const auto restSize = static_cast<std::size_t>(end - rest) + 1;
@@ -349,7 +368,7 @@ int XmlDecoder::SplitAttributes(char* content, std::size_t length, char** name) 
         return IX_XML_ERROR;
     }
     std::memcpy(m_attributeList.Text(), rest, restSize);
-    const int valid = ValidateAttributeList(m_attributeList.Text());
+    const int valid = ValidateList(m_attributeList.Text(), m_attributeList.Text() + restSize - 1);
     ixLog(kSourceFile, kValidated, valid);
     if (valid != 0) {
         ixLog(kSourceFile, kListInvalid);
@@ -360,6 +379,7 @@ int XmlDecoder::SplitAttributes(char* content, std::size_t length, char** name) 
 
 int XmlDecoder::ReportAttributes(char* name, char* rest, char* end) {
     int result = 0;
+    const bool hasEntities = std::memchr(rest, '&', static_cast<std::size_t>(end - rest)) != nullptr;
     do {
         char* attribute = CutToken(rest, kEquals, &rest);
         if (attribute == nullptr) {
@@ -379,7 +399,7 @@ int XmlDecoder::ReportAttributes(char* name, char* rest, char* end) {
             value = CutAt(rest, quote, end, &rest);
             if (value == nullptr) value = end;
         }
-        UnescapeXml(value);
+        if (hasEntities) UnescapeXml(value);
         m_pSchemaDecoder->ProcessAttribute(name, attribute, value);
     } while (*rest != '\0');
     return m_iSelfClosing == 1 ? ReportSelfClosingEnd(name, rest) : result;
@@ -408,8 +428,11 @@ bool XmlDecoder::ReportEnd(const char* name, std::size_t length, char* text, con
 }
 
 int XmlDecoder::ValidateAttributeList(char* list) {
-    if (list == nullptr) return -1;
-    char* text = list;
+    return list != nullptr ? ValidateList(list, list + __strlen(list)) : -1;
+}
+
+/// ValidateAttributeList for a list whose NUL stands at `end`.
+int XmlDecoder::ValidateList(char* text, const char* end) {
     bool pending = false;
     for (;;) {
         char* stop = text;
@@ -418,15 +441,16 @@ int XmlDecoder::ValidateAttributeList(char* list) {
         const char kind = *stop;
         *stop++ = '\0';
         if (kind == '=') {
-            const char* name = TrimSpaces(text);
-            while (*name != '\0' && !IsSpace(*name)) ++name;
-            if (pending || *name != '\0') return -1;
+            // A name: no white space within.
+            char* name = XmlCommon::SkipSpaces(text);
+            while (*name != '\0' && !XmlCommon::IsSpace(*name)) ++name;
+            if (pending || *XmlCommon::SkipSpaces(name) != '\0') return -1;
             pending = true;
             text = stop;
             continue;
         }
         // A value: the quote comes right after "=" and white space, and the next quote of its kind ends it.
-        char* const close = __strchr(stop, kind);
+        char* const close = FindByte(stop, end, kind);
         if (!pending || *XmlCommon::SkipSpaces(text) != '\0' || close == nullptr) return -1;
         pending = false;
         text = close + 1;
@@ -435,35 +459,48 @@ int XmlDecoder::ValidateAttributeList(char* list) {
 }
 
 unsigned int XmlDecoder::PushElement(const char* name) {
-    if (m_pElementStack == nullptr) return 0;
-    if (m_iOpenCount == m_openSize && !GrowOpenNames()) {
-        ixLog(kSourceFile, kNoMemoryForName);
-        return 0;
+    return PushName(name, __strlen(name)) ? 1 : 0;
+}
+
+bool XmlDecoder::PushName(const char* name, std::size_t length) {
+    if (m_pElementStack == nullptr) return false;
+    if (m_iOpenCount < m_openSize && name != nullptr && length < m_openNames[m_iOpenCount].size) {
+        // The slot's last name left enough room.
+        OpenName& slot = m_openNames[m_iOpenCount];
+        std::memcpy(slot.node->m_pData, name, length + 1);
+        slot.length = length;
+        LastOpenNode()->m_pNext = slot.node;
+        ++m_iOpenCount;
+        return true;
     }
-    OpenName& slot = m_openNames[m_iOpenCount];
-    const std::size_t size = name != nullptr ? __strlen(name) + 1 : 0;
-    if (slot.node != nullptr && (slot.size < size || name == nullptr)) {
-        FreeElement(slot.node->m_pData);
-        IX_TRACKED_DELETE(kTokenizerModule, slot.node);
-        slot = {nullptr, 0};
-    }
-    BuddyLinkList* const last = m_iOpenCount == 0 ? m_pElementStack : m_openNames[m_iOpenCount - 1].node;
-    if (slot.node == nullptr) {
-        const std::size_t kept = size > kLeastNameSize ? size : kLeastNameSize;
-        void* const text = name != nullptr ? __malloc(kept) : nullptr;
-        slot.node = name == nullptr || text != nullptr ? last->Append(text) : nullptr;
-        if (slot.node == nullptr) {
-            FreeElement(text);
-            ixLog(kSourceFile, kNoMemoryForName);
-            return 0;
+    if (m_iOpenCount < m_openSize || GrowOpenNames()) {
+        OpenName& slot = m_openNames[m_iOpenCount];
+        FreeSlot(slot);
+        const std::size_t size = length < kLeastNameSize ? kLeastNameSize : length + 1;
+        char* const copy = name != nullptr ? static_cast<char*>(__malloc(size)) : nullptr;
+        BuddyLinkList* const node = name == nullptr || copy != nullptr ? LastOpenNode()->Append(copy) : nullptr;
+        if (node != nullptr) {
+            if (copy != nullptr) std::memcpy(copy, name, length + 1);
+            slot = {node, copy != nullptr ? size : 0, length};
+            ++m_iOpenCount;
+            return true;
         }
-        slot.size = name != nullptr ? kept : 0;
-    } else {
-        last->m_pNext = slot.node;
+        FreeElement(copy);
     }
-    if (name != nullptr) std::memcpy(slot.node->m_pData, name, size);
-    ++m_iOpenCount;
-    return 1;
+    ixLog(kSourceFile, kNoMemoryForName);
+    return false;
+}
+
+/// Where the next open name is linked: the last one, or the sentinel.
+BuddyLinkList* XmlDecoder::LastOpenNode() const {
+    return m_iOpenCount == 0 ? m_pElementStack : m_openNames[m_iOpenCount - 1].node;
+}
+
+void XmlDecoder::FreeSlot(OpenName& slot) {
+    if (slot.node == nullptr) return;
+    FreeElement(slot.node->m_pData);
+    IX_TRACKED_DELETE(kTokenizerModule, slot.node);
+    slot = {nullptr, 0, 0};
 }
 
 BuddyLinkList* XmlDecoder::PopElement() {
@@ -471,14 +508,14 @@ BuddyLinkList* XmlDecoder::PopElement() {
     DropLastOpenName();
     OpenName& slot = m_openNames[m_iOpenCount];
     BuddyLinkList* const node = slot.node;
-    slot = {nullptr, 0};
+    slot = {nullptr, 0, 0};
     return node;
 }
 
 /// Unlinks the last open name, whose memory stays in its slot for the next name of that depth.
 void XmlDecoder::DropLastOpenName() {
     --m_iOpenCount;
-    (m_iOpenCount == 0 ? m_pElementStack : m_openNames[m_iOpenCount - 1].node)->m_pNext = nullptr;
+    LastOpenNode()->m_pNext = nullptr;
 }
 
 bool XmlDecoder::GrowOpenNames() {
@@ -494,11 +531,7 @@ bool XmlDecoder::GrowOpenNames() {
 
 /// Frees the slots and what they keep for later. Linked names stay in the list.
 void XmlDecoder::FreeOpenNames() {
-    for (std::size_t i = m_iOpenCount; i < m_openSize; ++i) {
-        if (m_openNames[i].node == nullptr) continue;
-        FreeElement(m_openNames[i].node->m_pData);
-        IX_TRACKED_DELETE(kTokenizerModule, m_openNames[i].node);
-    }
+    for (std::size_t i = m_iOpenCount; i < m_openSize; ++i) FreeSlot(m_openNames[i]);
     __free(m_openNames);
     m_openNames = nullptr;
     m_iOpenCount = 0;
@@ -517,7 +550,7 @@ char* XmlDecoder::TrimSpaces(char* text) {
     text = XmlCommon::SkipSpaces(text);
     if (text == nullptr) return nullptr;
     char* end = text + __strlen(text);
-    while (end > text && IsSpace(end[-1])) --end;
+    while (end > text && XmlCommon::IsSpace(end[-1])) --end;
     *end = '\0';
     return text;
 }

@@ -276,10 +276,10 @@ XMLElement* XmlFamilyUnMarshaller::Decode(const char* text, int tokenizerLine, i
         if (m_pNamespaceBinder != nullptr) decoder->SetNameSpaceBinderInfo(m_pNamespaceBinder);
         tokenizer->SetSchemaDecoder(decoder);
         const std::size_t length = __strlen(text);
-        const int result =
-            length > INT_MAX ? IX_XML_ERROR : tokenizer->Decode(text, static_cast<int>(length));
+        const int result = length > INT_MAX ? IX_XML_ERROR : tokenizer->Decode(text, static_cast<int>(length));
         ixLog(info.source, result == IX_XML_SUCCESS ? info.decoded : info.notDecoded);
-        // Required: the tree of a document that could not be decoded to its end is left to nobody. It is not freed here.
+        // Required: the tree of a document that could not be decoded to its end is left to nobody. It is not freed
+        // here.
         if (result == IX_XML_SUCCESS) root = decoder->GetSessionData();
     }
     IX_DELETE(decoder);

@@ -65,7 +65,8 @@ void XmlNamespaceTable::SetDocumentPrefix(Entry& entry, const char* prefix) {
 const XmlNamespaceTable::Entry* XmlNamespaceTable::FindDocumentPrefix(const char* prefix, std::size_t length) const {
     for (const Entry* entry = m_pFirst; entry != nullptr; entry = entry->next) {
         if (entry->documentPrefix == nullptr) continue;
-        if (std::strncmp(entry->documentPrefix, prefix, length) == 0 && entry->documentPrefix[length] == '\0') return entry;
+        if (std::strncmp(entry->documentPrefix, prefix, length) == 0 && entry->documentPrefix[length] == '\0')
+            return entry;
     }
     return nullptr;
 }
