@@ -1,0 +1,94 @@
+// The fixture of all tests: captured log lines, and a memory ledger that must be empty at the end.
+#ifndef XML_TEST_H
+#define XML_TEST_H
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "XMLFactory.h"
+#include "ixDplHost.h"
+
+/// A captured log line.
+struct LogLine {
+    int level;
+    int code;
+    std::string source;
+    int line;
+    std::string text;
+};
+
+inline bool operator==(const LogLine& left, const LogLine& right) {
+    return left.level == right.level && left.code == right.code && left.source == right.source && left.line == right.line &&
+           left.text == right.text;
+}
+
+std::ostream& operator<<(std::ostream& stream, const LogLine& line);
+
+class XmlTest : public testing::Test {
+  public:
+    XmlTest();
+    ~XmlTest() override;
+
+  protected:
+    void TearDown() override;
+
+    /// The lines logged since the start or the last `ClearLog`.
+    std::vector<LogLine> Log();
+    /// The lines of one source file, "XMLList" for example.
+    std::vector<LogLine> LogOf(const std::string& file);
+    /// The texts of all lines.
+    std::vector<std::string> Texts();
+    /// True when a line with exactly this text was logged.
+    bool Logged(const std::string& text);
+    void ClearLog();
+
+    /// For an operation that leaves memory to nobody: checks that this many objects are alive, and frees everything.
+    void ExpectLeftBehind(std::size_t objects);
+
+  private:
+    std::mutex m_mutex;
+    std::vector<LogLine> m_log;
+};
+
+/// The whole file; fails the test when it cannot be read.
+std::string ReadFile(const std::string& path);
+
+/// The files of a folder and its sub-folders, sorted; empty when there is no such folder.
+std::vector<std::string> FilesBelow(const std::string& folder);
+
+/// A context that deletes itself.
+class OwnedContext {
+  public:
+    explicit OwnedContext(eXMLSchemaID id) : m_context(XMLFactory::newInstance(id)) {}
+    ~OwnedContext() { XMLFactory::deleteContext(m_context); }
+    OwnedContext(const OwnedContext&) = delete;
+    OwnedContext& operator=(const OwnedContext&) = delete;
+    XMLContext* operator->() const { return m_context; }
+    XMLContext* get() const { return m_context; }
+
+  private:
+    XMLContext* m_context;
+};
+
+/// A tree that deletes itself.
+class OwnedElement {
+  public:
+    explicit OwnedElement(XMLElement* element) : m_element(element) {}
+    ~OwnedElement() { XMLFactory::DeleteElement(m_element); }
+    OwnedElement(const OwnedElement&) = delete;
+    OwnedElement& operator=(const OwnedElement&) = delete;
+    XMLElement* get() const { return m_element; }
+    template <class Element>
+    Element* as() const {
+        return static_cast<Element*>(m_element);
+    }
+
+  private:
+    XMLElement* m_element;
+};
+
+#endif
