@@ -1,0 +1,139 @@
+#include "Commands.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+
+#include "Diagnosis.h"
+#include "Json.h"
+#include "Library.h"
+#include "Outline.h"
+#include "Schema.h"
+#include "XMLSchemaNameSpaceRetrieval.h"
+
+namespace {
+
+void Warn(const Document& document, const char* message) {
+    std::fprintf(stderr, "%s: warning: %s\n", document.name.c_str(), message);
+}
+
+/// A document and what decoded it. The members go in reverse order: the context uses the binder.
+struct Decoded {
+    const XmlSchemaInfo* schema = nullptr;
+    OwnElement binder;
+    OwnContext context;
+    OwnElement root;
+};
+
+OwnContext NewContext(const XmlSchemaInfo& schema) {
+    OwnContext context(XMLFactory::newInstance(schema.id));
+    if (context == nullptr) throw DocumentError{kNotDecoded, "no memory for the context"};
+    return context;
+}
+
+OwnElement UnMarshall(XMLContext& context, const Document& document, bool log) {
+    std::optional<LogWatch> watch;
+    if (log) watch.emplace(true);
+    XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
+    return OwnElement(unMarshaller != nullptr ? unMarshaller->UnMarshall(document.text.c_str()) : nullptr);
+}
+
+/// The declarations of a document; not decoded: NULL.
+OwnElement DecodeNamespaces(const Document& document, bool log) {
+    const OwnContext context = NewContext(*XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL));
+    return UnMarshall(*context, document, log);
+}
+
+Decoded Decode(const Document& document, const Options& options) {
+    Decoded result;
+    result.schema = options.schema != nullptr ? options.schema : &SchemaOfRoot(document);
+    result.context = NewContext(*result.schema);
+    if (options.binder && result.schema->takesBinder) {
+        result.binder = DecodeNamespaces(document, options.log);
+        if (result.binder == nullptr) throw Diagnose(document);
+        result.context->SetNamespaceBinder(static_cast<XMLObject*>(result.binder.get()));
+    }
+    result.root = UnMarshall(*result.context, document, options.log);
+    if (result.root == nullptr) throw Diagnose(document, *result.schema, result.binder != nullptr);
+    return result;
+}
+
+std::string MarshallText(const Decoded& decoded, const Document& document, bool log) {
+    const std::string name = decoded.schema->name;
+    LogWatch watch(log);
+    XMLMarshaller* const marshaller = decoded.context->createMarshaller();
+    if (marshaller == nullptr) throw DocumentError{kNotMarshalled, "documents of schema " + name + " are only read"};
+    const char* const text = marshaller->Marshall(decoded.root.get());
+    if (text == nullptr) {
+        const std::string reason = watch.Reason().empty() ? "" : ": " + watch.Reason();
+        throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document" + reason};
+    }
+    if (marshaller->IsTruncated() != 0) Warn(document, "the text was cut at 32767 characters");
+    return text;
+}
+
+const char* TextOrEmpty(const char* text) {
+    return text != nullptr ? text : "";
+}
+
+}  // namespace
+
+std::string DecodeDocument(const Document& document, const Options& options) {
+    const Decoded decoded = Decode(document, options);
+    const Json root = ToJson(*decoded.root);
+    bool replaced = false;
+    std::string text;
+    if (options.tree) {
+        Outline outline(isatty(STDOUT_FILENO) == 1 && std::getenv("NO_COLOR") == nullptr);
+        if (options.HasManyFiles()) outline.AddTitle(document.name, decoded.schema->name);
+        outline.AddTree(root);
+        text = outline.Text();
+        replaced = outline.HasReplaced();
+    } else {
+        const Json whole = {{"schema", decoded.schema->name}, {"file", document.name}, {"root", root}};
+        text = ToText(whole, options.HasManyFiles() ? -1 : 2, replaced) + '\n';
+    }
+    if (replaced) Warn(document, "bytes that are not UTF-8 were replaced");
+    return text;
+}
+
+std::string ConvertDocument(const Document& document, const Options& options) {
+    return MarshallText(Decode(document, options), document, options.log);
+}
+
+std::string ListNamespaces(const Document& document, const Options& options) {
+    const OwnElement root = DecodeNamespaces(document, options.log);
+    if (root == nullptr) throw Diagnose(document);
+    const IxSingleElementList* const list = static_cast<ix_schema_namespace_retrieval&>(*root).getNameSpaceInfo();
+    std::string text;
+    for (auto* node = list != nullptr ? list->GetPtrToListHead() : nullptr; node != nullptr; node = node->next) {
+        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+        if (options.HasManyFiles()) text += document.name + '\t';
+        text += pair->mName != nullptr ? pair->mName : "(default)";
+        text += std::string("\t") + TextOrEmpty(pair->mValue) + '\n';
+    }
+    return text;
+}
+
+std::string ListSchemas() {
+    std::vector<std::vector<std::string>> rows = {{"NUMBER", "NAME", "ACCESS", "BUILD", "NAMESPACE", "ROOT ELEMENTS"}};
+    for (const XmlSchemaInfo* schema : AllSchemas()) {
+        rows.push_back({std::to_string(schema->id), schema->name, schema->writes ? "read/write" : "read",
+                        schema->create != nullptr ? "yes" : "no",
+                        *schema->namespaceUri != '\0' ? schema->namespaceUri : "-", schema->rootElements});
+    }
+    std::vector<std::size_t> widths(rows[0].size());
+    for (const auto& row : rows) {
+        for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+    }
+    std::string text;
+    for (const auto& row : rows) {
+        for (std::size_t i = 0; i + 1 < row.size(); ++i)
+            text += row[i] + std::string(widths[i] - row[i].size() + 2, ' ');
+        text += row.back() + '\n';
+    }
+    return text;
+}

@@ -1,0 +1,22 @@
+/// @file
+/// The commands, each for one document. They print to the standard error only what goes with a success; a failure is
+/// thrown as `DocumentError`.
+#ifndef IMSXML_TOOL_COMMANDS_H
+#define IMSXML_TOOL_COMMANDS_H
+
+#include <string>
+
+#include "Document.h"
+#include "Options.h"
+
+/// @return what goes to the standard output.
+using Command = std::string (*)(const Document& document, const Options& options);
+
+std::string DecodeDocument(const Document& document, const Options& options);
+std::string ConvertDocument(const Document& document, const Options& options);
+std::string ListNamespaces(const Document& document, const Options& options);
+
+/// A table of all schemas; needs no document.
+std::string ListSchemas();
+
+#endif

@@ -1,0 +1,142 @@
+#include "Diagnosis.h"
+
+#include <algorithm>
+
+#include "Scanner.h"
+#include "Schema.h"
+
+namespace {
+
+constexpr char kSpaces[] = " \t\r\n";
+
+bool Begins(std::string_view text, std::string_view beginning) {
+    return text.substr(0, beginning.size()) == beginning;
+}
+
+bool Ends(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+std::string Quoted(std::string_view name) {
+    const std::string tag = TagText(name);
+    return '"' + tag.substr(1, tag.size() - 2) + '"';
+}
+
+void SkipSpaces(std::string_view& text) {
+    text.remove_prefix(std::min(text.size(), text.find_first_not_of(kSpaces)));
+}
+
+std::string_view CutWord(std::string_view& text, const char* delimiters) {
+    const std::string_view word = text.substr(0, text.find_first_of(delimiters));
+    text.remove_prefix(word.size());
+    return word;
+}
+
+/// The first fault in the attributes `rest` of a start tag.
+std::string AttributeFault(std::string_view rest, const std::string& tag) {
+    for (SkipSpaces(rest); !rest.empty(); SkipSpaces(rest)) {
+        const std::string_view name = CutWord(rest, " \t\r\n=\"'");
+        if (Begins(name, "<")) return "start tag " + tag + " has no \">\" before the next \"<\"";
+        if (name.empty()) return "attribute without a name in " + tag;
+        SkipSpaces(rest);
+        const std::string attribute = "attribute " + Quoted(name) + " of " + tag;
+        if (!Begins(rest, "=")) return attribute + " has no \"=\"";
+        rest.remove_prefix(1);
+        SkipSpaces(rest);
+        if (!Begins(rest, "\"") && !Begins(rest, "'")) return attribute + " has a value without quotes";
+        const std::size_t close = rest.find(rest[0], 1);
+        if (close == std::string_view::npos) return attribute + " has no closing quote before the next \">\"";
+        rest.remove_prefix(close + 1);
+    }
+    return "start tag " + tag + " cannot be decoded";
+}
+
+std::string StartTagFault(std::string_view tag) {
+    if (Ends(tag, "/")) tag.remove_suffix(1);
+    SkipSpaces(tag);
+    const std::string_view name = CutWord(tag, kSpaces);
+    return name.empty() ? "tag without a name" : AttributeFault(tag, TagText(name));
+}
+
+std::string SectionFault(const Document& document, const Scanner& scanner) {
+    const std::string_view tag = scanner.Tag();
+    if (Begins(tag, "!--")) {
+        const bool closed = document.text.find("-->", scanner.TagOffset() + 4) != std::string::npos;
+        return closed ? "comment contains \">\", which the decoder takes for its end" : "comment is never closed";
+    }
+    if (Begins(tag, "![CDATA[")) return "CDATA section <![CDATA[, which is not supported";
+    if (Begins(tag, "!DOCTYPE")) return "document type <!DOCTYPE, which is not supported";
+    return TagText(tag) + ", which is not supported";
+}
+
+std::string DeclarationFault(const Scanner& scanner) {
+    if (!Ends(scanner.Tag(), "?")) return "declaration is not closed by \"?>\"";
+    return "declaration " + TagText(scanner.Tag()) + " after the root element has started";
+}
+
+std::string EndTagFault(const Document& document, const Scanner& scanner) {
+    const std::string tag = "end tag " + TagText(scanner.Tag());
+    if (scanner.Open().empty()) return tag + ", but no element is open";
+    const OpenElement& open = scanner.Open().back();
+    return tag + " does not match " + TagText(open.name) + " opened at " + document.PlaceOf(open.offset);
+}
+
+std::string RefusedTag(const Document& document, const Scanner& scanner) {
+    const std::string_view tag = scanner.Tag();
+    if (Begins(tag, "!")) return SectionFault(document, scanner);
+    if (Begins(tag, "?")) return DeclarationFault(scanner);
+    return Begins(tag, "/") ? EndTagFault(document, scanner) : StartTagFault(tag);
+}
+
+/// What is missing from a text that ran out.
+DocumentError Shortage(const Document& document, const Scanner& scanner) {
+    const std::size_t tag = scanner.TagOffset();
+    if (tag != kNoOffset && tag + 1 + scanner.Tag().size() == document.text.size()) {
+        const bool isComment = Begins(scanner.Tag(), "!--");
+        return {kNotDecoded, isComment ? "comment is never closed" : "the text ends inside this tag", tag};
+    }
+    if (scanner.Open().empty()) return {kNotDecoded, "no element found; this is no XML document"};
+    const OpenElement& open = scanner.Open().back();
+    return {kNotDecoded, TagText(open.name) + " opened at " + document.PlaceOf(open.offset) + " is never closed",
+            document.text.size()};
+}
+
+}  // namespace
+
+std::string TagText(std::string_view name) {
+    constexpr std::size_t kMost = 80;
+    std::string text(name.substr(0, kMost));
+    std::replace_if(
+        text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
+    return '<' + text + (name.size() > kMost ? "...>" : ">");
+}
+
+DocumentError Diagnose(const Document& document) {
+    Scanner scanner(document.text);
+    if (scanner.FindEnd()) return {kNotDecoded, "the decoder could not go on; there may be no memory left"};
+    if (!scanner.Refused()) return Shortage(document, scanner);
+    return {kNotDecoded, RefusedTag(document, scanner), scanner.TagOffset()};
+}
+
+DocumentError Diagnose(const Document& document, const XmlSchemaInfo& schema, bool hasBinder) {
+    Scanner scanner(document.text);
+    if (!scanner.FindRoot()) return Diagnose(document);
+    const RootElement root = *scanner.Root();
+    if (!scanner.FindEnd()) return Diagnose(document);
+
+    std::string expected;
+    bool matches = false;
+    for (const std::string_view name : RootsOf(schema)) {
+        expected += (expected.empty() ? "" : " or ") + TagText(name);
+        matches = matches || name == root.Local();
+    }
+    std::string message = "root element " + TagText(root.name) + " at " + document.PlaceOf(root.offset);
+    if (!matches) {
+        message += " is not " + expected + " of schema " + schema.name;
+    } else {
+        message += std::string(" is not understood by schema ") + schema.name;
+        if (!root.Prefix().empty()) message += ": it does not know the prefix " + Quoted(root.Prefix());
+        if (schema.takesBinder && !hasBinder) message += "; --binder gives it the document's own declarations";
+    }
+    return {kNotDecoded, message, root.offset};
+}

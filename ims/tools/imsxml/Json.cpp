@@ -1,0 +1,81 @@
+#include "Json.h"
+
+#include "XmlFields.h"
+
+namespace {
+
+Json TextOrNull(const char* text) {
+    return text != nullptr ? Json(text) : Json();
+}
+
+Json EntryToJson(XmlFieldKind kind, const void* entry) {
+    if (entry == nullptr) return {};
+    switch (kind) {
+        case XmlFieldKind::TextList:
+            return static_cast<const char*>(entry);
+        case XmlFieldKind::AttributeList: {
+            const auto& pair = *static_cast<const ix_AttributeValuePair*>(entry);
+            return {{"name", TextOrNull(pair.mName)}, {"value", TextOrNull(pair.mValue)}};
+        }
+        default:
+            return ToJson(*static_cast<const XMLElement*>(entry));
+    }
+}
+
+Json ListToJson(XmlFieldKind kind, const IxSingleElementList& list) {
+    Json array = Json::array();
+    for (const IxSingleElementNode* node = list.GetPtrToListHead(); node != nullptr; node = node->next) {
+        array.push_back(EntryToJson(kind, node->key));
+    }
+    return array;
+}
+
+Json FieldToJson(const XMLElement& element, const XmlField& field) {
+    switch (field.kind) {
+        case XmlFieldKind::Text:
+            return XmlFields::Text(element, field);
+        case XmlFieldKind::Flag:
+            return XmlFields::Number(element, field) != 0;
+        case XmlFieldKind::Enumeration: {
+            const long long value = XmlFields::Number(element, field);
+            const char* const text = field.enumeration != nullptr ? field.enumeration->TextOf(value) : nullptr;
+            return text != nullptr ? Json(text) : Json(value);
+        }
+        case XmlFieldKind::Child:
+            return ToJson(*XmlFields::Child(element, field));
+        case XmlFieldKind::Presence:
+            return true;
+        case XmlFieldKind::ChildList:
+        case XmlFieldKind::TextList:
+        case XmlFieldKind::AttributeList:
+            return ListToJson(field.kind, *XmlFields::List(element, field));
+        default:
+            return XmlFields::Number(element, field);
+    }
+}
+
+void AddFields(Json& object, const XMLElement& element, const XmlFieldTable& table) {
+    if (table.base != nullptr) AddFields(object, element, *table.base);
+    for (std::size_t i = 0; i < table.count; ++i) {
+        const XmlField& field = table.fields[i];
+        if (XmlFields::IsSet(element, field)) object[field.Name()] = FieldToJson(element, field);
+    }
+}
+
+}  // namespace
+
+Json ToJson(const XMLElement& element) {
+    Json object = {{"class", TextOrNull(element.ClassName())}};
+    const XmlFieldTable* const table = element.FieldTable();
+    if (table != nullptr) AddFields(object, element, *table);
+    return object;
+}
+
+std::string ToText(const Json& json, int indent, bool& replaced) {
+    try {
+        return json.dump(indent);
+    } catch (const Json::type_error&) {
+        replaced = true;
+        return json.dump(indent, ' ', false, Json::error_handler_t::replace);
+    }
+}

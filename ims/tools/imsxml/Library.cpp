@@ -1,0 +1,46 @@
+#include "Library.h"
+
+#include <cstdio>
+#include <string_view>
+
+namespace {
+
+bool Ends(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+/// Some lines hold a whole document; in the output each is one line all the same.
+std::string OnOneLine(std::string_view text) {
+    std::string line;
+    line.reserve(text.size());
+    for (const char byte : text) {
+        if (byte == '\n') {
+            line += "\\n";
+        } else if (byte == '\r') {
+            line += "\\r";
+        } else {
+            line += byte;
+        }
+    }
+    return line;
+}
+
+}  // namespace
+
+LogWatch::LogWatch(bool print) : m_print(print) {
+    ixDplHostSetLogSink(
+        [](const ixDplHostLogLine& line, void* context) { static_cast<LogWatch*>(context)->Take(line); }, this,
+        kIxDplHostAllLevels);
+}
+
+LogWatch::~LogWatch() {
+    ixDplHostSetLogSink(nullptr, nullptr, 0);
+}
+
+void LogWatch::Take(const ixDplHostLogLine& line) {
+    const std::string text = OnOneLine(line.text);
+    if (m_print) std::fprintf(stderr, "%d %d %s:%d %s\n", line.level, line.code, line.source, line.line, text.c_str());
+    // Progress has the level of refusals, too, but only the entry of a marshaller is logged where one fails.
+    if (line.level >= 3 && !Ends(text, "Marshall")) m_refusal = text;
+    if (text.find("ailed") != std::string::npos) m_failure = text;
+}

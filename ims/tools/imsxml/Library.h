@@ -1,0 +1,42 @@
+/// @file
+/// The library's objects and log lines, as the commands hold them.
+#ifndef IMSXML_TOOL_LIBRARY_H
+#define IMSXML_TOOL_LIBRARY_H
+
+#include <memory>
+#include <string>
+
+#include "XMLFactory.h"
+#include "ixDplHost.h"
+
+struct ContextDeleter {
+    void operator()(XMLContext* context) const { XMLFactory::deleteContext(context); }
+};
+using OwnContext = std::unique_ptr<XMLContext, ContextDeleter>;
+
+struct ElementDeleter {
+    void operator()(XMLElement* element) const { XMLFactory::DeleteElement(element); }
+};
+using OwnElement = std::unique_ptr<XMLElement, ElementDeleter>;
+
+/// Follows the library's log lines for as long as it lives.
+class LogWatch {
+  public:
+    /// @param print whether each line goes to the standard error.
+    explicit LogWatch(bool print);
+    ~LogWatch();
+    LogWatch(const LogWatch&) = delete;
+    LogWatch& operator=(const LogWatch&) = delete;
+
+    /// The last line that tells of a failure; "" when there was none.
+    const std::string& Reason() const { return m_refusal.empty() ? m_failure : m_refusal; }
+
+  private:
+    void Take(const ixDplHostLogLine& line);
+
+    bool m_print;
+    std::string m_refusal;
+    std::string m_failure;
+};
+
+#endif

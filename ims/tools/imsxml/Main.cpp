@@ -1,0 +1,142 @@
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "Runner.h"
+#include "Schema.h"
+
+namespace {
+
+constexpr char kAbout[] = R"(Reads and writes the XML documents of the IP Multimedia Subsystem.
+
+Every command takes any number of files; "-" is the standard input. Each file is tried, also after one that failed.)";
+
+constexpr char kFooter[] = R"(
+Exit status, the highest of all files:
+  0  done
+  1  a document could not be decoded; the message says where and why
+  2  wrong usage, or a file that cannot be read
+  3  decoded, but the document cannot be written
+  4  the time limit of --timeout ran out
+
+Examples:
+  imsxml decode --format tree reginfo.xml
+  imsxml decode *.xml | jq .root.class
+  imsxml convert --binder simservs.xml
+  imsxml namespaces presence.xml
+
+"imsxml COMMAND --help" tells more of a command.)";
+
+constexpr char kDecodeFooter[] = R"(
+Prints an object a file: its schema, its name and the root element. An element has its class and the fields that are
+set. One file is spread over lines; of several files each has one line. The schema follows from the root element and
+its namespace, unless --schema names one.
+
+Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time limit.
+
+Examples:
+  imsxml decode gruu.xml
+  imsxml decode --format tree --schema communication-waiting --binder waiting.xml
+  curl -s http://xcap.example/waiting.xml | imsxml decode --log -)";
+
+constexpr char kConvertFooter[] = R"(
+Decodes each document and prints the text that the library writes for it, without a line feed behind it. A text of more
+than 32767 characters is cut, with a warning.
+
+Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 3 cannot be written, 4 time limit.
+
+Examples:
+  imsxml convert gruu.xml
+  imsxml convert --binder waiting.xml > written.xml)";
+
+constexpr char kNamespacesFooter[] = R"(
+Prints a line a declaration, in the order of the text: the prefix, a tab and the URI. The default namespace has the
+prefix "(default)". With several files, each line starts with the file's name and a tab.
+
+Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time limit.
+
+Example:
+  imsxml namespaces simservs.xml)";
+
+constexpr char kSchemasFooter[] = R"(
+Prints a line a schema: its number, the name that --schema takes, whether documents are only read, whether this build
+has it, its namespace ("-": none), and its root elements ("*": any).
+
+Example:
+  imsxml schemas | grep simservs)";
+
+class CommandLine {
+  public:
+    CommandLine();
+    int Run(int argc, char** argv);
+
+  private:
+    CLI::App* AddFileCommand(const char* name, const char* about, const char* footer);
+    void AddDecoding(CLI::App* command);
+
+    Options m_options;
+    std::string m_schema;
+    std::string m_format = "json";
+    CLI::App m_app{kAbout, "imsxml"};
+    CLI::App* m_decode;
+    CLI::App* m_convert;
+    CLI::App* m_schemas;
+};
+
+CommandLine::CommandLine() {
+    m_app.set_version_flag("--version", "imsxml " IMSXML_VERSION, "Print the version and exit");
+    m_app.footer(kFooter);
+    m_app.require_subcommand(1);
+    m_app.failure_message([](const CLI::App*, const CLI::Error& error) {
+        return std::string("imsxml: ") + error.what() + "; see imsxml --help\n";
+    });
+    m_decode = AddFileCommand("decode", "Print documents as typed trees", kDecodeFooter);
+    AddDecoding(m_decode);
+    m_decode->add_option("--format", m_format, "json, or tree, an outline for people")
+        ->check(CLI::IsMember({"json", "tree"}))
+        ->capture_default_str();
+    m_convert = AddFileCommand("convert", "Decode documents and write them again", kConvertFooter);
+    AddDecoding(m_convert);
+    AddFileCommand("namespaces", "Print the namespace declarations of documents", kNamespacesFooter);
+    m_schemas = m_app.add_subcommand("schemas", "Print the schemas that documents can have");
+    m_schemas->footer(kSchemasFooter);
+}
+
+CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const char* footer) {
+    CLI::App* const command = m_app.add_subcommand(name, about);
+    command->footer(footer);
+    command->add_option("FILE", m_options.files, "Documents; \"-\" is the standard input")->required();
+    command->add_flag("--log", m_options.log, "Print the library's log lines to the standard error");
+    command->add_flag("--leaks", m_options.leaks, "Print to the standard error what memory is alive after each file");
+    command->add_option("--timeout", m_options.timeout, "Seconds that a file may take; 0: no limit")
+        ->check(CLI::NonNegativeNumber)
+        ->capture_default_str();
+    return command;
+}
+
+void CommandLine::AddDecoding(CLI::App* command) {
+    command->add_option("--schema", m_schema, "Name of the schema; see \"imsxml schemas\"")->type_name("NAME");
+    command->add_flag("--binder", m_options.binder,
+                      "Let the prefixes that the document declares count (supplementary services only)");
+}
+
+int CommandLine::Run(int argc, char** argv) {
+    try {
+        m_app.parse(argc, argv);
+        if (!m_schema.empty()) m_options.schema = &SchemaByName(m_schema);
+    } catch (const CLI::ParseError& error) {
+        return m_app.exit(error) == 0 ? kDone : kWrongUsage;
+    } catch (const DocumentError& error) {
+        std::fprintf(stderr, "imsxml: %s\n", error.message.c_str());
+        return error.status;
+    }
+    if (m_schemas->parsed()) return Print(ListSchemas());
+    m_options.tree = m_format == "tree";
+    if (m_decode->parsed()) return RunOnFiles(DecodeDocument, m_options);
+    return RunOnFiles(m_convert->parsed() ? ConvertDocument : ListNamespaces, m_options);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return CommandLine().Run(argc, argv);
+}

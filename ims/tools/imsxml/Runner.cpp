@@ -1,0 +1,165 @@
+#include "Runner.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <climits>
+#include <cmath>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+
+#include "Library.h"
+
+namespace {
+
+/// Added to what a child reports, so that an `exit` deep in the library is not taken for a report.
+constexpr int kReported = 64;
+
+void PrintError(const std::string& line) {
+    std::fprintf(stderr, "%s\n", line.c_str());
+}
+
+/// Trees of thousands of levels are printed by calls of that depth. The kernel keeps more than this free below the
+/// stack, so that it can grow.
+void AllowDeepTrees() {
+    constexpr rlim_t kStackSize = rlim_t{100} * 1024 * 1024;
+    rlimit limit{};
+    if (getrlimit(RLIMIT_STACK, &limit) != 0 || limit.rlim_cur >= kStackSize) return;
+    limit.rlim_cur = std::min(kStackSize, limit.rlim_max);
+    setrlimit(RLIMIT_STACK, &limit);
+}
+
+void PrintLedger(const std::string& name) {
+    char* text = nullptr;
+    std::size_t size = 0;
+    std::FILE* const file = open_memstream(&text, &size);
+    if (file == nullptr) return;
+    ixDplHostDumpLedger(file);
+    std::fclose(file);
+    for (const char* line = text; *line != '\0';) {
+        const auto length = static_cast<int>(std::strcspn(line, "\n"));
+        std::fprintf(stderr, "%s: %.*s\n", name.c_str(), length, line);
+        line += length + (line[length] == '\n' ? 1 : 0);
+    }
+    std::free(text);
+}
+
+/// @param input the text of the standard input, when that is the document.
+int RunCommand(Command command, const Options& options, const std::string& name, const std::string* input,
+               std::string& output) {
+    Document document{name, {}};
+    int status = kDone;
+    if (options.leaks) ixDplHostEnableLedger(true);
+    try {
+        document.text = input != nullptr ? *input : ReadText(name);
+        RequireText(document.text);
+        output = command(document, options);
+    } catch (const DocumentError& error) {
+        PrintError(document.Describe(error));
+        status = error.status;
+    } catch (const std::exception& error) {
+        PrintError(name + ": " + error.what());
+        status = kNotDecoded;
+    }
+    if (options.leaks) PrintLedger(name);
+    return status;
+}
+
+/// Waits until the other end of a pipe is closed. @return false when the time was up before.
+bool WaitForClose(int pipeEnd, double seconds) {
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    for (;;) {
+        const double left = seconds - std::chrono::duration<double>(Clock::now() - start).count();
+        const double wait = std::min(std::ceil(std::max(left, 0.0) * 1000), static_cast<double>(INT_MAX));
+        pollfd end = {pipeEnd, POLLIN, 0};
+        const int count = poll(&end, 1, seconds > 0 ? static_cast<int>(wait) : -1);
+        if (count > 0) return true;
+        if (count < 0 && errno != EINTR) return true;
+        if (seconds > 0 && left <= 0) return false;
+    }
+}
+
+int StatusOf(int childStatus, const std::string& name) {
+    if (WIFEXITED(childStatus) && WEXITSTATUS(childStatus) >= kReported) return WEXITSTATUS(childStatus) - kReported;
+    if (WIFSIGNALED(childStatus)) {
+        const int number = WTERMSIG(childStatus);
+        PrintError(name + ": the decoder crashed (signal " + std::to_string(number) + ", " + strsignal(number) + ')');
+    } else {
+        PrintError(name + ": the decoder ended the process (status " + std::to_string(WEXITSTATUS(childStatus)) + ')');
+    }
+    return kNotDecoded;
+}
+
+std::string TimeMessage(const std::string& name, double seconds) {
+    char number[32];
+    std::snprintf(number, sizeof number, "%g", seconds);
+    return name + ": no result after " + number +
+           " s: the document makes the decoder run without end, or it needs a longer --timeout";
+}
+
+int RunInChild(Command command, const Options& options, const std::string& name, const std::string* input) {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0) throw DocumentError{kWrongUsage, std::strerror(errno)};
+    const pid_t child = fork();
+    if (child < 0) throw DocumentError{kWrongUsage, std::strerror(errno)};
+    if (child == 0) {
+        close(ends[0]);
+        std::string output;
+        int status = RunCommand(command, options, name, input, output);
+        // The clock stops here: a reader of the output may take its time.
+        close(ends[1]);
+        status = std::max(status, Print(output));
+        _exit(kReported + status);
+    }
+    close(ends[1]);
+    const bool inTime = WaitForClose(ends[0], options.timeout);
+    close(ends[0]);
+    if (!inTime) kill(child, SIGKILL);
+    int childStatus = 0;
+    while (waitpid(child, &childStatus, 0) < 0 && errno == EINTR) {
+    }
+    if (inTime) return StatusOf(childStatus, name);
+    PrintError(TimeMessage(name, options.timeout));
+    return kTimeLimit;
+}
+
+}  // namespace
+
+int Print(const std::string& text) {
+    // A reader that has gone is an error to report, not a death.
+    std::signal(SIGPIPE, SIG_IGN);
+    const std::size_t written = std::fwrite(text.data(), 1, text.size(), stdout);
+    if (written == text.size() && std::fflush(stdout) == 0) return kDone;
+    PrintError(std::string("imsxml: standard output: ") + std::strerror(errno));
+    return kWrongUsage;
+}
+
+int RunOnFiles(Command command, const Options& options) {
+    AllowDeepTrees();
+    int worst = kDone;
+    std::string input;
+    bool hasInput = false;
+    for (const std::string& name : options.files) {
+        try {
+            const bool isInput = name == "-";
+            // Read here, so that it can be given more than once.
+            if (isInput && !hasInput) input = ReadText(name);
+            hasInput = hasInput || isInput;
+            worst = std::max(worst, RunInChild(command, options, name, isInput ? &input : nullptr));
+        } catch (const DocumentError& error) {
+            PrintError(name + ": " + error.message);
+            worst = std::max<int>(worst, error.status);
+        }
+    }
+    return worst;
+}

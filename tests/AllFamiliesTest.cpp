@@ -1,0 +1,239 @@
+// What every family has to stand, written once. A family joins by a row of `kFamilies`.
+#include <map>
+#include <set>
+#include <thread>
+
+#include "XMLFactory.h"
+#include "XmlFields.h"
+#include "XmlTest.h"
+
+namespace {
+
+struct Family {
+    eXMLSchemaID id;
+    const char* folder;           ///< Below samples/, and in the folder of real documents.
+    std::vector<const char*> sources;  ///< Binding and decoder, each with a header of the same name.
+};
+
+const Family kFamilies[] = {
+    {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting", {"XMLCommunicationWaiting", "CommunicationWaiting"}},
+    {IX_XML_SCHEMA_GRUU, "gruu", {"XMLGruu", "Gruu"}},
+    {IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL,
+     "namespaces",
+     {"XMLSchemaNameSpaceRetrieval", "SchemaNameSpaceRetrieval"}},
+};
+
+/// One caller's whole work on a document: decode it with its own namespaces as binder, write it, decode what was written.
+/// Says how far it came; never leaves anything of its own behind.
+struct Work {
+    bool decoded = false;
+    std::string written;
+    bool sameAgain = false;
+
+    Work(eXMLSchemaID id, const char* text) {
+        XMLContext* const namespaces = XMLFactory::newInstance(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL);
+        XMLContext* const context = XMLFactory::newInstance(id);
+        if (namespaces != nullptr && context != nullptr) Run(*namespaces, *context, text);
+        XMLFactory::deleteContext(context);
+        XMLFactory::deleteContext(namespaces);
+    }
+
+  private:
+    void Run(XMLContext& namespaces, XMLContext& context, const char* text) {
+        XMLUnMarshaller* const namespaceReader = namespaces.createUnMarshaller();
+        XMLElement* const binder = namespaceReader != nullptr ? namespaceReader->UnMarshall(text) : nullptr;
+        context.SetNamespaceBinder(static_cast<XMLObject*>(binder));
+        XMLUnMarshaller* const reader = context.createUnMarshaller();
+        XMLMarshaller* const writer = context.createMarshaller();
+        XMLElement* const root = reader != nullptr ? reader->UnMarshall(text) : nullptr;
+        decoded = root != nullptr;
+        const char* const result = decoded && writer != nullptr ? writer->Marshall(root) : nullptr;
+        if (result != nullptr) {
+            written = result;
+            XMLElement* const again = reader->UnMarshall(result);
+            sameAgain = XmlFields::Equal(root, again);
+            XMLFactory::DeleteElement(again);
+        }
+        XMLFactory::DeleteElement(root);
+        XMLFactory::DeleteElement(binder);
+    }
+};
+
+class AllFamiliesTest : public XmlTest, public testing::WithParamInterface<Family> {
+  protected:
+    static std::vector<std::string> Samples() {
+        return FilesBelow(PROJECT_DIR "/samples/" + std::string(GetParam().folder));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Families, AllFamiliesTest, testing::ValuesIn(kFamilies), [](const auto& row) {
+    std::string name = row.param.folder;
+    for (char& c : name) c = c == '-' ? '_' : c;
+    return name;
+});
+
+TEST_P(AllFamiliesTest, HasHeadersSourcesAndThreeSamples) {
+    EXPECT_GE(Samples().size(), 3U);
+    for (const char* const source : GetParam().sources) {
+        EXPECT_FALSE(ReadFile(PROJECT_DIR "/ims/xml/include/" + std::string(source) + ".h").empty());
+        EXPECT_FALSE(ReadFile(PROJECT_DIR "/ims/xml/src/" + std::string(source) + ".cpp").empty());
+    }
+}
+
+// Each allocation of the whole work fails once. Whatever happens then, nothing that was complete is lost, nothing but the
+// tree of a document that was cut short is left behind, and the work succeeds once no allocation fails.
+TEST_P(AllFamiliesTest, StandsEveryAllocationFailing) {
+    for (const std::string& sample : Samples()) {
+        SCOPED_TRACE(sample);
+        const std::string text = ReadFile(sample);
+        const Work plain(GetParam().id, text.c_str());
+        ASSERT_TRUE(plain.decoded);
+        unsigned long failing = 1;
+        for (bool reached = true; reached; ++failing) {
+            ixDplHostFailAllocation(failing);
+            const Work work(GetParam().id, text.c_str());
+            reached = ixDplHostAllocations() >= failing;
+            ixDplHostStopCounting();
+            EXPECT_TRUE(reached || work.written == plain.written);
+            EXPECT_EQ(ixDplHostLedger().unknownRemovals, 0U);
+            EXPECT_EQ(ixDplHostLedger().doubleRemovals, 0U);
+            ixDplHostReleaseHeap();
+        }
+        EXPECT_GT(failing, 10U);
+    }
+}
+
+// A body that was cut somewhere decodes only if the cut lies behind the root element.
+TEST_P(AllFamiliesTest, StandsEveryPrefixOfADocument) {
+    for (const std::string& sample : Samples()) {
+        SCOPED_TRACE(sample);
+        const std::string text = ReadFile(sample);
+        const std::size_t end = text.rfind('>') + 1;
+        for (std::size_t length = 0; length < text.size(); ++length) {
+            const Work work(GetParam().id, text.substr(0, length).c_str());
+            EXPECT_EQ(work.decoded, length >= end) << length;
+            ixDplHostReleaseHeap();
+        }
+    }
+}
+
+// Each element and each attribute in turn loses its first character, which mostly makes another name of it.
+TEST_P(AllFamiliesTest, StandsEveryCharacterMissing) {
+    for (const std::string& sample : Samples()) {
+        std::string text = ReadFile(sample);
+        for (std::size_t at = 0; at < text.size(); ++at) {
+            std::string damaged = text;
+            damaged.erase(at, 1);
+            const Work work(GetParam().id, damaged.c_str());
+            ixDplHostReleaseHeap();
+        }
+    }
+}
+
+TEST_P(AllFamiliesTest, TwoThreadsDoNotDisturbEachOther) {
+    std::vector<std::string> texts;
+    for (const std::string& sample : Samples()) texts.push_back(ReadFile(sample));
+    std::vector<std::string> expected;
+    for (const std::string& text : texts) expected.push_back(Work(GetParam().id, text.c_str()).written);
+    const auto run = [&] {
+        for (int round = 0; round < 20; ++round) {
+            for (std::size_t i = 0; i < texts.size(); ++i) {
+                EXPECT_EQ(Work(GetParam().id, texts[i].c_str()).written, expected[i]);
+            }
+        }
+    };
+    std::thread first(run);
+    std::thread second(run);
+    first.join();
+    second.join();
+}
+
+class RegistryTest : public XmlTest {};
+
+TEST_F(RegistryTest, KnowsEverySchemaAndAnswersNullForTheRest) {
+    std::set<int> present;
+    for (const Family& family : kFamilies) present.insert(family.id);
+    std::set<std::string> names;
+    for (int id = -1; id <= kXmlSchemaCount; ++id) {
+        const OwnedContext context(static_cast<eXMLSchemaID>(id));
+        EXPECT_EQ(context.get() != nullptr, present.count(id) != 0) << id;
+        const XmlSchemaInfo* const info = XMLFactory::SchemaInfo(id);
+        const bool reserved = id < 0 || id == 6 || id == 8 || id >= kXmlSchemaCount;
+        ASSERT_EQ(info == nullptr, reserved) << id;
+        EXPECT_TRUE(info == nullptr || names.insert(info->name).second) << id;
+    }
+    EXPECT_EQ(names.size(), 26U);
+    XMLFactory::deleteContext(nullptr);
+    XMLFactory::DeleteElement(nullptr);
+}
+
+TEST_F(RegistryTest, AContextDeletesWhatItCreatedButNoTree) {
+    XMLContext* const context = XMLFactory::newInstance(IX_XML_SCHEMA_COMMUNICATION_WAITING);
+    const OwnedElement root(context->createBinderFactory()->CreateRootElement());
+    context->createMarshaller();
+    context->createUnMarshaller();
+    XMLFactory::deleteContext(context);
+    EXPECT_EQ(ixDplHostLedger().liveObjects, 1U);
+    EXPECT_STREQ(root.get()->ClassName(), "communication-waiting");
+}
+
+/// What is expected of the real documents, by name: the text they are written back as, or "" where they yield none.
+class RealDocumentsTest : public XmlTest {};
+
+TEST_F(RealDocumentsTest, DecodeAsExpected) {
+    const std::string folder = PROJECT_DIR "/../shared/samples/";
+    if (FilesBelow(folder).empty()) GTEST_SKIP() << "no folder of real documents";
+    const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+    const struct {
+        eXMLSchemaID id;
+        const char* file;
+        std::string written;
+    } cases[] = {
+        {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting/default-namespace-handwritten.xml",
+         "<communication-waiting  xmlns=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\"  active=\"false\"/>"},
+        {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting/prefixed-self-closing-no-declaration.xml",
+         "<communication-waiting  active=\"true\"/>"},
+        {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting/unprefixed-crlf-end-tag.xml",
+         "<communication-waiting  active=\"true\"/>"},
+        {IX_XML_SCHEMA_GRUU, "gruu/pub-gruu-default-namespace-handwritten.xml",
+         declaration + "<pub-gruu  uri=\"sip:user@example.com;gr=urn:uuid:f81d4fae-7dec-11d0-a765-00a0c91e6bf6\"/>"},
+        {IX_XML_SCHEMA_GRUU, "gruu/pub-gruu-prefixed.xml",
+         declaration + "<pub-gruu  uri=\"sip:user1_public1@home1.net;gr=urn:uuid:f81d4fae-7dec-11d0-a765-00a0c91e6bf6\"/>"},
+        {IX_XML_SCHEMA_GRUU, "gruu/temp-gruu-fragment.xml",
+         declaration +
+             "<temp-gruu  first-cseq=\"54301\"  uri=\"sip:tgruu.7hs==jd7vnzga5w7fajsc7-ajd6fabz0f8g5@example.com;gr\"/>"},
+    };
+    for (const auto& c : cases) {
+        const Work work(c.id, ReadFile(folder + c.file).c_str());
+        EXPECT_EQ(work.written, c.written) << c.file;
+        EXPECT_TRUE(work.sameAgain) << c.file;
+    }
+}
+
+TEST_F(RealDocumentsTest, DeclareTheirNamespaces) {
+    // Every real document goes through the namespace retrieval. These are the ones that the tokenizer does not take.
+    const std::set<std::string> notTaken = {"doctype-small-handwritten.xml", "cdata-and-charref-handwritten.xml"};
+    const std::map<std::string, std::size_t> declarations = {{"geolocation-nine-declarations.xml", 7},
+                                                             {"presence-schema-location.xml", 5},
+                                                             {"simservs-three-declarations.xml", 3},
+                                                             {"long-all-services-namespaces.xml", 14}};
+    for (const std::string& file : FilesBelow(PROJECT_DIR "/../shared/samples")) {
+        const std::string name = file.substr(file.rfind('/') + 1);
+        if (name == "README.md") continue;
+        {
+            const OwnedContext context(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL);
+            const OwnedElement root(context->createUnMarshaller()->UnMarshall(ReadFile(file).c_str()));
+            EXPECT_EQ(root.get() == nullptr, notTaken.count(name) != 0) << file;
+            const auto expected = declarations.find(name);
+            if (root.get() != nullptr && expected != declarations.end()) {
+                const XmlField& field = root.get()->FieldTable()->fields[0];
+                EXPECT_EQ(XmlFields::List(*root.get(), field)->GetCount(), expected->second) << file;
+            }
+        }
+        // A document that is not taken leaves its root behind, with or without declarations.
+        EXPECT_EQ(ixDplHostLedger().liveObjects != 0, notTaken.count(name) != 0) << file;
+        ixDplHostReleaseHeap();
+    }
+}
+
+}  // namespace

@@ -1,0 +1,234 @@
+// A schema built from nothing on the family template, as docs/adding-a-schema.md tells: one root, two attributes, one list.
+// Its names are borrowed from the string table. It also stands for the parts of the template that the first families leave
+// to later ones.
+#include <iterator>
+
+#include "XmlElementSupport.h"
+#include "XmlFamily.h"
+#include "XmlFields.h"
+#include "XmlTest.h"
+
+namespace {
+
+// [schema]
+const char kSourceFile[] = "ims/xml/src/XMLCatalogue";
+
+/// <term><title>text</title></term>, nested to any depth.
+class ix_term : public XMLElement {
+  public:
+    ~ix_term() override;
+    const char* ClassName() const override { return "ix_term"; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "Term"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    char* mTitle = nullptr;
+    ix_empty_element_type* mBusy = nullptr;
+    IxSingleElementList* mTermList = nullptr;
+};
+
+/// <folder auid="..." size="...">, with terms.
+class ix_catalogue : public XMLObject {
+  public:
+    ~ix_catalogue() override;
+    const char* ClassName() const override { return "ix_catalogue"; }
+    const char* BaseClassName() const override { return "XMLObject"; }
+    const char* TypeName() const override { return "Catalogue"; }
+    int Reserved() const override { return 0; }
+    int IsRootElement() const override { return 1; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    char* mAuid = nullptr;
+    int mSize = 0;
+    IxSingleElementList* mTermList = nullptr;
+};
+
+constexpr XmlField kTermFields[] = {
+    {XmlFieldKind::Text, IX_STR_TITLE, XmlTextMember(&ix_term::mTitle)},
+    {XmlFieldKind::Presence, IX_STR_BUSY,
+     XmlChildReader([](const XMLElement& e) -> XMLElement* { return static_cast<const ix_term&>(e).mBusy; })},
+    {XmlFieldKind::ChildList, IX_STR_TERM, XmlListMember(&ix_term::mTermList)},
+};
+constexpr XmlFieldTable kTermTable = {nullptr, kTermFields, std::size(kTermFields)};
+
+constexpr XmlField kCatalogueFields[] = {
+    {XmlFieldKind::Text, IX_STR_AUID, XmlTextMember(&ix_catalogue::mAuid)},
+    {XmlFieldKind::Number, IX_STR_SIZE, XmlIntMember(&ix_catalogue::mSize)},
+    {XmlFieldKind::ChildList, IX_STR_TERM, XmlListMember(&ix_catalogue::mTermList)},
+};
+constexpr XmlFieldTable kCatalogueTable = {nullptr, kCatalogueFields, std::size(kCatalogueFields)};
+
+ix_term::~ix_term() {
+    XmlFields::Release(this, kTermTable);
+}
+
+const XmlFieldTable* ix_term::FieldTable() const {
+    return &kTermTable;
+}
+
+int ix_term::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    if (ixEndNameIs(name, IX_STR_TITLE)) return ixSetText(mTitle, text);
+    if (ixNameIs(name, IX_STR_TERM)) return ixIsClass(child, "ix_term") ? ixAppend(mTermList, child, kSourceFile, __LINE__) : 0;
+    if (!ixNameIs(name, IX_STR_BUSY)) return 1;
+    if (mBusy != nullptr || !ixIsClass(child, "ix_empty_element_type")) return 0;
+    mBusy = static_cast<ix_empty_element_type*>(child);
+    return 1;
+}
+
+ix_catalogue::~ix_catalogue() {
+    XmlFields::Release(this, kCatalogueTable);
+}
+
+const XmlFieldTable* ix_catalogue::FieldTable() const {
+    return &kCatalogueTable;
+}
+
+int ix_catalogue::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
+    // A lenient answer for any other child: taken, but kept by nobody.
+    return ixNameIs(name, IX_STR_TERM) ? ixAppend(mTermList, child, kSourceFile, __LINE__) : 1;
+}
+
+int ix_catalogue::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* /*pair*/) {
+    if (ixNameIs(attribute, IX_STR_AUID)) return ixSetText(mAuid, value);
+    if (ixNameIs(attribute, IX_STR_SIZE)) mSize = __atoi(value);
+    return 1;
+}
+
+constexpr XmlKnownName kFolder = {IX_STR_FOLDER};
+constexpr XmlContainerRow kContainers[] = {
+    {kFolder, XmlContainerRow::Root, nullptr, [](const char*) -> XMLElement* { return IX_NEW(ix_catalogue); }},
+    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP}, XmlContainerRow::Child, "ix_term",
+     [](const char*) -> XMLElement* { return IX_NEW(ix_term); }},
+    {{IX_STR_NOTE}, XmlContainerRow::Child, "ix_term", [](const char*) -> XMLElement* { return IX_NEW(ix_term); }},
+    {{IX_STR_BUSY}, XmlContainerRow::Leaf, nullptr,
+     [](const char*) -> XMLElement* { return IX_NEW(ix_empty_element_type); }},
+};
+constexpr XmlAttributeRow kAttributes[] = {{kFolder, IX_STR_AUID}, {kFolder, IX_STR_SIZE}};
+
+constexpr XmlDecoderInfo DecoderInfo() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    return info;
+}
+constexpr XmlDecoderInfo kDecoderInfo = DecoderInfo();
+
+class XMLCatalogueDecoder : public XmlFamilyDecoder {
+  public:
+    XMLCatalogueDecoder() : XmlFamilyDecoder(kDecoderInfo) {}
+};
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCatalogueDecoder); };
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+class CatalogueUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override { return kUnMarshallerInfo; }
+};
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.writesDeclaration = true;
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+class CatalogueMarshaller : public XmlFamilyMarshaller {
+  public:
+    CatalogueMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+
+  protected:
+    int AddRootElementToXml(XMLElement* root) override {
+        const auto* const catalogue = static_cast<ix_catalogue*>(root);
+        StartElementOpen(IX_STR_FOLDER);
+        AddAttribute(IX_STR_AUID, catalogue->mAuid, Attribute::Open);
+        AddDecimalAttribute(IX_STR_SIZE, catalogue->mSize, Attribute::Closing);
+        AddDecimalElement(IX_STR_VERSION, -9223372036854775807 - 1);
+        const int result = AddChildList(catalogue->mTermList, AddTerm);
+        EndElement(IX_STR_FOLDER);
+        return result;
+    }
+
+  private:
+    static int AddTerm(XmlFamilyMarshaller& self, XMLElement* child) {
+        auto& writer = static_cast<CatalogueMarshaller&>(self);
+        const auto* const term = static_cast<ix_term*>(child);
+        if (term->mTitle == nullptr) return 0;
+        writer.AddTextElement(IX_STR_TITLE, term->mTitle);
+        return writer.AddChildList(term->mTermList, AddTerm);
+    }
+};
+// [schema]
+
+class CatalogueTest : public XmlTest {
+  protected:
+    XMLElement* Decode(const std::string& text) { return m_reader.UnMarshall(text.c_str()); }
+
+    CatalogueUnMarshaller m_reader;
+};
+
+TEST_F(CatalogueTest, ContainersAreFiledPushedAndPopped) {
+    const OwnedElement root(
+        Decode("<folder auid=\"a\" size=\"12kB\" other=\"dropped\">"
+               "<op:term><title>one</title><op:term><title>two</title></op:term><busy/><busy/><title>uno</title></op:term>"
+               "<op:term><title>three</title></op:term></folder>"));
+    ASSERT_NE(root.get(), nullptr);
+    EXPECT_EQ(root.as<ix_catalogue>()->mSize, 12);
+    const auto* const first = static_cast<ix_term*>(root.as<ix_catalogue>()->mTermList->GetKeyAtIndex(0));
+    EXPECT_STREQ(first->mTitle, "uno");
+    EXPECT_NE(first->mBusy, nullptr);
+    CatalogueMarshaller writer;
+    EXPECT_STREQ(writer.Marshall(root.get()),
+                 "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<folder  auid=\"a\"  size=\"12\">\n"
+                 "<version>-9223372036854775808</version>\n<title>uno</title>\n<title>two</title>\n<title>three</title>"
+                 "</folder>");
+    EXPECT_EQ(writer.IsTruncated(), 0);
+}
+
+TEST_F(CatalogueTest, WhatNobodyKeepsIsFreedWithTheDecoder) {
+    // `term` without its prefix is none of the containers; `note` is one that the root takes and does not keep.
+    const OwnedElement root(Decode("<folder><term><title>x</title></term><note><op:term/><title>y</title></note>"
+                                   "<note/><busy/><folder><note/></folder></folder>"));
+    ASSERT_NE(root.get(), nullptr);
+    EXPECT_EQ(root.as<ix_catalogue>()->mTermList, nullptr);
+    EXPECT_EQ(ixDplHostLedger().liveObjects, 1U);
+    EXPECT_EQ(Decode("<op:term/>"), nullptr);
+}
+
+TEST_F(CatalogueTest, DocumentsDeeperThanTheStackAreReadAsFarAsItGoes) {
+    std::string text = "<folder>";
+    for (int i = 0; i < 150; ++i) text += "<op:term>";
+    for (int i = 0; i < 150; ++i) text += "</op:term>";
+    const OwnedElement root(Decode(text + "</folder>"));
+    ASSERT_NE(root.get(), nullptr);
+    EXPECT_TRUE(Logged("stack overflow\n"));
+}
+
+TEST_F(CatalogueTest, ATextPastTheCapacityIsCutAndSaysSo) {
+    CatalogueMarshaller writer;
+    const std::string frame = "<folder auid=\"\" size=\"0\"><op:term><title></title></op:term></folder>";
+    const std::size_t at = frame.find("</title>");
+    for (const std::size_t length : {30000U, 40000U}) {
+        const OwnedElement root(Decode(std::string(frame).insert(at, std::string(length, 'x'))));
+        const char* const text = writer.Marshall(root.get());
+        EXPECT_EQ(writer.IsTruncated(), length > 32767 ? 1 : 0);
+        EXPECT_EQ(std::string(text).size() == 32767, length > 32767);
+    }
+    const OwnedElement untitled(Decode("<folder><op:term/></folder>"));
+    EXPECT_EQ(writer.Marshall(untitled.get()), nullptr);
+}
+
+}  // namespace
