@@ -134,15 +134,15 @@ void EncodeWithPugixml(benchmark::State& state, const Family& family) {
     CountBytes(state, std::string(size, ' '));
 }
 
-BENCHMARK_CAPTURE(Decode, waiting - decode / imsxml, kWaiting);
-BENCHMARK_CAPTURE(DecodePeer, waiting - decode / expat, kWaiting, kWaiting.expat);
-BENCHMARK_CAPTURE(DecodePeer, waiting - decode / pugixml, kWaiting, kWaiting.pugixml);
-BENCHMARK_CAPTURE(Encode, waiting - encode / imsxml, kWaiting);
-BENCHMARK_CAPTURE(EncodeWithPugixml, waiting - encode / pugixml, kWaiting);
-BENCHMARK_CAPTURE(Decode, gruu - decode / imsxml, kGruu);
-BENCHMARK_CAPTURE(DecodePeer, gruu - decode / expat, kGruu, kGruu.expat);
-BENCHMARK_CAPTURE(DecodePeer, gruu - decode / pugixml, kGruu, kGruu.pugixml);
-BENCHMARK_CAPTURE(Encode, gruu - encode / imsxml, kGruu);
-BENCHMARK_CAPTURE(EncodeWithPugixml, gruu - encode / pugixml, kGruu);
+BENCHMARK_CAPTURE(Decode, waiting_decode_imsxml, kWaiting)->Name("waiting-decode/imsxml");
+BENCHMARK_CAPTURE(DecodePeer, waiting_decode_expat, kWaiting, kWaiting.expat)->Name("waiting-decode/expat");
+BENCHMARK_CAPTURE(DecodePeer, waiting_decode_pugixml, kWaiting, kWaiting.pugixml)->Name("waiting-decode/pugixml");
+BENCHMARK_CAPTURE(Encode, waiting_encode_imsxml, kWaiting)->Name("waiting-encode/imsxml");
+BENCHMARK_CAPTURE(EncodeWithPugixml, waiting_encode_pugixml, kWaiting)->Name("waiting-encode/pugixml");
+BENCHMARK_CAPTURE(Decode, gruu_decode_imsxml, kGruu)->Name("gruu-decode/imsxml");
+BENCHMARK_CAPTURE(DecodePeer, gruu_decode_expat, kGruu, kGruu.expat)->Name("gruu-decode/expat");
+BENCHMARK_CAPTURE(DecodePeer, gruu_decode_pugixml, kGruu, kGruu.pugixml)->Name("gruu-decode/pugixml");
+BENCHMARK_CAPTURE(Encode, gruu_encode_imsxml, kGruu)->Name("gruu-encode/imsxml");
+BENCHMARK_CAPTURE(EncodeWithPugixml, gruu_encode_pugixml, kGruu)->Name("gruu-encode/pugixml");
 
 }  // namespace

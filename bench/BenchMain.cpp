@@ -8,14 +8,13 @@
 
 namespace {
 
-/// Splits "Run/tokenizer/imsxml/1024" into the document "tokenizer/1024" and the library "imsxml".
+/// Splits "tokenizer/imsxml/1024" into the document "tokenizer/1024" and the library "imsxml".
 bool SplitName(const std::string& name, std::string* document, std::string* library) {
     for (const char* const candidate : {"imsxml", "expat", "pugixml"}) {
         const std::string part = std::string("/") + candidate;
         const std::size_t at = name.find(part);
         if (at == std::string::npos) continue;
-        const std::size_t begin = name.find('/') < at ? name.find('/') + 1 : 0;
-        *document = name.substr(begin, at - begin) + name.substr(at + part.size());
+        *document = name.substr(0, at) + name.substr(at + part.size());
         *library = candidate;
         return true;
     }

@@ -41,14 +41,19 @@ void Run(benchmark::State& state, std::string (*make)(std::size_t), void (*token
     if (tokenize == Tokenize) CountAllocations(state, [&] { tokenize(text); });
 }
 
-BENCHMARK_CAPTURE(Run, tokenizer / imsxml, FlatDocument, Tokenize)->RangeMultiplier(16)->Range(1 << 10, 1 << 24);
-BENCHMARK_CAPTURE(Run, tokenizer / expat, FlatDocument, TokenizeWithExpat)
+BENCHMARK_CAPTURE(Run, tokenizer_imsxml, FlatDocument, Tokenize)
+    ->Name("tokenizer/imsxml")
     ->RangeMultiplier(16)
     ->Range(1 << 10, 1 << 24);
-BENCHMARK_CAPTURE(Run, tokenizer / pugixml, FlatDocument, TokenizeWithPugixml)
+BENCHMARK_CAPTURE(Run, tokenizer_expat, FlatDocument, TokenizeWithExpat)
+    ->Name("tokenizer/expat")
     ->RangeMultiplier(16)
     ->Range(1 << 10, 1 << 24);
-BENCHMARK_CAPTURE(Run, nested / imsxml, NestedDocument, Tokenize)->Arg(100)->Arg(100000);
-BENCHMARK_CAPTURE(Run, nested / expat, NestedDocument, TokenizeWithExpat)->Arg(100)->Arg(100000);
+BENCHMARK_CAPTURE(Run, tokenizer_pugixml, FlatDocument, TokenizeWithPugixml)
+    ->Name("tokenizer/pugixml")
+    ->RangeMultiplier(16)
+    ->Range(1 << 10, 1 << 24);
+BENCHMARK_CAPTURE(Run, nested_imsxml, NestedDocument, Tokenize)->Name("nested/imsxml")->Arg(100)->Arg(100000);
+BENCHMARK_CAPTURE(Run, nested_expat, NestedDocument, TokenizeWithExpat)->Name("nested/expat")->Arg(100)->Arg(100000);
 
 }  // namespace

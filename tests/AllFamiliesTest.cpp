@@ -11,7 +11,7 @@ namespace {
 
 struct Family {
     eXMLSchemaID id;
-    const char* folder;           ///< Below samples/, and in the folder of real documents.
+    const char* folder;                ///< Below samples/, and in the folder of real documents.
     std::vector<const char*> sources;  ///< Binding and decoder, each with a header of the same name.
 };
 
@@ -23,8 +23,8 @@ const Family kFamilies[] = {
      {"XMLSchemaNameSpaceRetrieval", "SchemaNameSpaceRetrieval"}},
 };
 
-/// One caller's whole work on a document: decode it with its own namespaces as binder, write it, decode what was written.
-/// Says how far it came; never leaves anything of its own behind.
+/// One caller's whole work on a document: decode it with its own namespaces as binder, write it, decode what was
+/// written. Says how far it came; never leaves anything of its own behind.
 struct Work {
     bool decoded = false;
     std::string written;
@@ -80,8 +80,8 @@ TEST_P(AllFamiliesTest, HasHeadersSourcesAndThreeSamples) {
     }
 }
 
-// Each allocation of the whole work fails once. Whatever happens then, nothing that was complete is lost, nothing but the
-// tree of a document that was cut short is left behind, and the work succeeds once no allocation fails.
+// Each allocation of the whole work fails once. Whatever happens then, nothing that was complete is lost, nothing but
+// the tree of a document that was cut short is left behind, and the work succeeds once no allocation fails.
 TEST_P(AllFamiliesTest, StandsEveryAllocationFailing) {
     for (const std::string& sample : Samples()) {
         SCOPED_TRACE(sample);
@@ -150,6 +150,11 @@ TEST_P(AllFamiliesTest, TwoThreadsDoNotDisturbEachOther) {
 
 class RegistryTest : public XmlTest {};
 
+TEST_F(RegistryTest, TheReadmeShowsTheExampleThatIsBuilt) {
+    const std::string readme = ReadFile(PROJECT_DIR "/README.md");
+    EXPECT_NE(readme.find("```cpp\n" + ReadFile(PROJECT_DIR "/docs/example.cpp") + "```\n"), std::string::npos);
+}
+
 TEST_F(RegistryTest, KnowsEverySchemaAndAnswersNullForTheRest) {
     std::set<int> present;
     for (const Family& family : kFamilies) present.insert(family.id);
@@ -198,10 +203,11 @@ TEST_F(RealDocumentsTest, DecodeAsExpected) {
         {IX_XML_SCHEMA_GRUU, "gruu/pub-gruu-default-namespace-handwritten.xml",
          declaration + "<pub-gruu  uri=\"sip:user@example.com;gr=urn:uuid:f81d4fae-7dec-11d0-a765-00a0c91e6bf6\"/>"},
         {IX_XML_SCHEMA_GRUU, "gruu/pub-gruu-prefixed.xml",
-         declaration + "<pub-gruu  uri=\"sip:user1_public1@home1.net;gr=urn:uuid:f81d4fae-7dec-11d0-a765-00a0c91e6bf6\"/>"},
-        {IX_XML_SCHEMA_GRUU, "gruu/temp-gruu-fragment.xml",
          declaration +
-             "<temp-gruu  first-cseq=\"54301\"  uri=\"sip:tgruu.7hs==jd7vnzga5w7fajsc7-ajd6fabz0f8g5@example.com;gr\"/>"},
+             "<pub-gruu  uri=\"sip:user1_public1@home1.net;gr=urn:uuid:f81d4fae-7dec-11d0-a765-00a0c91e6bf6\"/>"},
+        {IX_XML_SCHEMA_GRUU, "gruu/temp-gruu-fragment.xml",
+         declaration + "<temp-gruu  first-cseq=\"54301\"  "
+                       "uri=\"sip:tgruu.7hs==jd7vnzga5w7fajsc7-ajd6fabz0f8g5@example.com;gr\"/>"},
     };
     for (const auto& c : cases) {
         const Work work(c.id, ReadFile(folder + c.file).c_str());

@@ -1,6 +1,6 @@
-// A schema built from nothing on the family template, as docs/adding-a-schema.md tells: one root, two attributes, one list.
-// Its names are borrowed from the string table. It also stands for the parts of the template that the first families leave
-// to later ones.
+// A schema built from nothing on the family template, as docs/adding-a-schema.md tells: one root, two attributes, one
+// list. Its names are borrowed from the string table. It also stands for the parts of the template that the first
+// families leave to later ones.
 #include <iterator>
 
 #include "XmlElementSupport.h"
@@ -72,7 +72,8 @@ const XmlFieldTable* ix_term::FieldTable() const {
 
 int ix_term::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_TITLE)) return ixSetText(mTitle, text);
-    if (ixNameIs(name, IX_STR_TERM)) return ixIsClass(child, "ix_term") ? ixAppend(mTermList, child, kSourceFile, __LINE__) : 0;
+    if (ixNameIs(name, IX_STR_TERM))
+        return ixIsClass(child, "ix_term") ? ixAppend(mTermList, child, kSourceFile, __LINE__) : 0;
     if (!ixNameIs(name, IX_STR_BUSY)) return 1;
     if (mBusy != nullptr || !ixIsClass(child, "ix_empty_element_type")) return 0;
     mBusy = static_cast<ix_empty_element_type*>(child);
@@ -101,10 +102,14 @@ int ix_catalogue::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAt
 constexpr XmlKnownName kFolder = {IX_STR_FOLDER};
 constexpr XmlContainerRow kContainers[] = {
     {kFolder, XmlContainerRow::Root, nullptr, [](const char*) -> XMLElement* { return IX_NEW(ix_catalogue); }},
-    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP}, XmlContainerRow::Child, "ix_term",
+    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP},
+     XmlContainerRow::Child,
+     "ix_term",
      [](const char*) -> XMLElement* { return IX_NEW(ix_term); }},
     {{IX_STR_NOTE}, XmlContainerRow::Child, "ix_term", [](const char*) -> XMLElement* { return IX_NEW(ix_term); }},
-    {{IX_STR_BUSY}, XmlContainerRow::Leaf, nullptr,
+    {{IX_STR_BUSY},
+     XmlContainerRow::Leaf,
+     nullptr,
      [](const char*) -> XMLElement* { return IX_NEW(ix_empty_element_type); }},
 };
 constexpr XmlAttributeRow kAttributes[] = {{kFolder, IX_STR_AUID}, {kFolder, IX_STR_SIZE}};
@@ -181,10 +186,10 @@ class CatalogueTest : public XmlTest {
 };
 
 TEST_F(CatalogueTest, ContainersAreFiledPushedAndPopped) {
-    const OwnedElement root(
-        Decode("<folder auid=\"a\" size=\"12kB\" other=\"dropped\">"
-               "<op:term><title>one</title><op:term><title>two</title></op:term><busy/><busy/><title>uno</title></op:term>"
-               "<op:term><title>three</title></op:term></folder>"));
+    const OwnedElement root(Decode(
+        "<folder auid=\"a\" size=\"12kB\" other=\"dropped\">"
+        "<op:term><title>one</title><op:term><title>two</title></op:term><busy/><busy/><title>uno</title></op:term>"
+        "<op:term><title>three</title></op:term></folder>"));
     ASSERT_NE(root.get(), nullptr);
     EXPECT_EQ(root.as<ix_catalogue>()->mSize, 12);
     const auto* const first = static_cast<ix_term*>(root.as<ix_catalogue>()->mTermList->GetKeyAtIndex(0));
@@ -200,8 +205,9 @@ TEST_F(CatalogueTest, ContainersAreFiledPushedAndPopped) {
 
 TEST_F(CatalogueTest, WhatNobodyKeepsIsFreedWithTheDecoder) {
     // `term` without its prefix is none of the containers; `note` is one that the root takes and does not keep.
-    const OwnedElement root(Decode("<folder><term><title>x</title></term><note><op:term/><title>y</title></note>"
-                                   "<note/><busy/><folder><note/></folder></folder>"));
+    const OwnedElement root(
+        Decode("<folder><term><title>x</title></term><note><op:term/><title>y</title></note>"
+               "<note/><busy/><folder><note/></folder></folder>"));
     ASSERT_NE(root.get(), nullptr);
     EXPECT_EQ(root.as<ix_catalogue>()->mTermList, nullptr);
     EXPECT_EQ(ixDplHostLedger().liveObjects, 1U);

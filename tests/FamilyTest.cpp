@@ -63,18 +63,29 @@ TEST_F(WaitingTest, ReadsAndWritesBackEverySample) {
         Strings attributes;
         std::string written;
     } cases[] = {
-        {"typical", false, 1, {"xmlns:ss=" + std::string(kSimservs)},
+        {"typical",
+         false,
+         1,
+         {"xmlns:ss=" + std::string(kSimservs)},
          "<communication-waiting  xmlns:ss=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\"  active=\"true\"/>"},
-        {"typical", true, 1, {"xmlns:ss=" + std::string(kSimservs)},
+        {"typical",
+         true,
+         1,
+         {"xmlns:ss=" + std::string(kSimservs)},
          "<ss:communication-waiting  xmlns:ss=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\"  active=\"true\"/>"},
-        {"rich", true, 0,
+        {"rich",
+         true,
+         0,
          {"xmlns:mmtel=" + std::string(kSimservs), "xmlns:cp=urn:ietf:params:xml:ns:common-policy",
           "xmlns:xsi=http://www.w3.org/2001/XMLSchema-instance"},
          "<mmtel:communication-waiting  xmlns:mmtel=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\" "
          " xmlns:cp=\"urn:ietf:params:xml:ns:common-policy\"  xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
          " active=\"false\"/>"},
         // The attribute of the unknown child lands on the root; the child itself is lost.
-        {"odd", false, 1, {"vendor=say \"ring\" &amp; wait", "lang=en"},
+        {"odd",
+         false,
+         1,
+         {"vendor=say \"ring\" &amp; wait", "lang=en"},
          "<communication-waiting  vendor=\"say &quot;ring&quot; &amp; wait\"  lang=\"en\"  active=\"true\"/>"},
     };
     for (const auto& c : cases) {
@@ -132,7 +143,8 @@ TEST_F(WaitingTest, ABuiltRootIsInactiveUntilSet) {
     ClearLog();
     EXPECT_STREQ(marshaller->Marshall(root.get()), "<communication-waiting  active=\"true\"/>");
     const std::vector<LogLine> expected = {
-        {3, 6070, "ims/xml/src/XMLCommunicationWaiting", 283, "<XML Module>: Communication_waitingMarshaller :: Marshall"},
+        {3, 6070, "ims/xml/src/XMLCommunicationWaiting", 283,
+         "<XML Module>: Communication_waitingMarshaller :: Marshall"},
         {3, 6070, "ims/xml/src/XMLCommunicationWaiting", 288,
          "<XML Module>: Communication_waitingMarshaller :: Marshall: Deleting mCommunicationWaitingXml"},
         {2, 6070, "ims/xml/src/XMLCommunicationWaiting", 194, "<XML Module>: AddCommunication_waitingElementToXml"},
@@ -326,7 +338,8 @@ TEST_F(GruuTest, RefusedAttributesAreLoggedTwice) {
     ASSERT_NE(root.get(), nullptr);
     EXPECT_TRUE(Logged("<XML Module>: Any attribute is not allowed in class ix_temp_gruu"));
     EXPECT_TRUE(Logged("<XML Module>: Any attribute is not allowed for attribute = \"expires\""));
-    EXPECT_TRUE(Logged("<XML Module>: In GruuUnMarshaller::UnMarshall with pXmlString=<temp-gruu expires=\"60\" uri=\"u\"/>"));
+    EXPECT_TRUE(
+        Logged("<XML Module>: In GruuUnMarshaller::UnMarshall with pXmlString=<temp-gruu expires=\"60\" uri=\"u\"/>"));
     EXPECT_TRUE(Logged("<XML Module>: Xml Decoder Success"));
     char name[] = "q";
     ix_ns_gruuinfo_pubGruu pub;
@@ -400,19 +413,23 @@ TEST_F(GruuTest, MarshallerNamesWhatFailed) {
     } cases[] = {
         {nullptr, "(null)", {"<XML Module>: GruuMarshaller :: Incoming obj is NULL"}},
         {&nameless, "(null)", {"<XML Module>: GruuMarshaller :: Incoming pObj->ClassName() is NULL"}},
-        {&pub, "(null)",
+        {&pub,
+         "(null)",
          {"<XML Module>: GruuMarshaller :: Marshall: obj is pub-gruu", "<XML Module>: AddPubGruuElementToXml",
           "<XML Module>: AddPubGruuElementToXml: Uri is a mandatory attribute",
           "<XML Module>: GruuMarshaller XML Failed at AddPubGruuElementToXml!"}},
-        {&temp, "(null)",
+        {&temp,
+         "(null)",
          {"<XML Module>: GruuMarshaller :: Marshall: obj is pub-gruu", "<XML Module>: AddTempGruuElementToXml",
           "<XML Module>: AddTempGruuElementToXml: Uri is a mandatory attribute",
           "<XML Module>: GruuMarshaller XML Failed at AddTempGruuElementToXml!"}},
-        {&shortened, "(null)",
+        {&shortened,
+         "(null)",
          {"<XML Module>: GruuMarshaller :: Marshall: obj is pub-gruu", "<XML Module>: AddTempGruuElementToXml",
           "<XML Module>: AddTempGruuElementToXml: Uri is a mandatory attribute",
           "<XML Module>: GruuMarshaller XML Failed at AddTempGruuElementToXml!"}},
-        {&other, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>",
+        {&other,
+         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>",
          {"<XML Module>: GruuMarshaller XML <?xml version=\"1.0\" encoding=\"UTF-8\"?>"}},
     };
     for (const auto& c : cases) {

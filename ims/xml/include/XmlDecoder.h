@@ -97,10 +97,10 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     /// Appends a copy of `name` to the open names. NULL is appended as NULL. @return 1, or 0 without memory.
     unsigned int PushElement(const char* name);
     /// Removes the last open name. The caller frees the node's text (`FreeElement`) and deletes the node, after
-    /// unregistering it (module 1). @return NULL when no name is open.
+    /// unregistering it (module 1). @return NULL when no name is open, or without memory, when the name stays open.
     BuddyLinkList* PopElement();
     /// True while an element is open.
-    bool HasOpenElements() const { return m_iOpenCount != 0; }
+    bool HasOpenElements() const { return m_openCount != 0; }
 
     /// Cuts the next token out of `text`. `delimiters` counts up to 32 characters.
     /// @param rest out: behind the delimiter that ended the token, or the end of the text.
@@ -118,11 +118,17 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     int m_DecodeState = IX_XML_PARSE_INIT;  ///< One of `eXmlDecodeState`.
 
   private:
-    /// The memory of an open name. Slots past the open ones keep theirs for the next names.
+    /// An open name. Its text is in place when it is short.
     struct OpenName {
-        BuddyLinkList* node;
-        std::size_t size;    ///< Bytes that the node's text has room for.
-        std::size_t length;  ///< Length of the text.
+        BuddyLinkList node{nullptr};
+        std::size_t length = 0;
+        char text[40];
+    };
+    /// Open names come in blocks, so that a deep document takes few of them and none ever moves.
+    struct OpenNames {
+        OpenName names[16];
+        OpenNames* before = nullptr;
+        OpenNames* next = nullptr;
     };
 
     bool AppendToPending(const char* text, std::size_t length);
@@ -138,9 +144,9 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     int ReportSelfClosingEnd(char* name, char* rest);
     bool ReportEnd(const char* name, std::size_t length, char* text, const XmlLogText& noMemory, int* result);
     bool PushName(const char* name, std::size_t length);
-    BuddyLinkList* LastOpenNode() const;
-    bool GrowOpenNames();
-    void FreeSlot(OpenName& slot);
+    OpenName* NextOpenName();
+    OpenName& LastOpenName() const { return m_openNames->names[m_openIndex - 1]; }
+    BuddyLinkList* NodeBefore() const;
     void FreeOpenNames();
     void DropLastOpenName();
 
@@ -154,9 +160,10 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     std::size_t m_tagBegin = 0;     ///< Where the "<" of the pending text stands ...
     std::size_t m_tagSearched = 0;  ///< ... and up to where no ">" follows it.
 
-    OpenName* m_openNames = nullptr;
-    std::size_t m_iOpenCount = 0;
-    std::size_t m_openSize = 0;
+    std::size_t m_openCount = 0;
+    std::size_t m_openIndex = 0;  ///< Names of the last block that are open; at least 1 while any name is.
+    OpenNames* m_openNames = &m_firstNames;
+    OpenNames m_firstNames;
 
     XmlWorkText m_unescapeCopy;
     XmlWorkText m_attributeList;

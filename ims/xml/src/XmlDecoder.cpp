@@ -3,10 +3,15 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
 const char kSourceFile[] = "ims/xml/src/XmlDecoder";
+
+/// Nodes of the open names are registered as if `BuddyLinkList::Append` had made them.
+const char kNodeSourceFile[] = "ims/xml/src/XmlCommon";
+constexpr int kNodeLine = 22;
 
 constexpr XmlLogText kNoMemoryForName = {2, kDecoderCode, 121, "XmlDecoder::PushElement"};
 constexpr XmlLogText kDecode = {2, kDecoderCode, 180, "XmlDecoder::n_count = %d"};
@@ -64,9 +69,6 @@ constexpr std::size_t kMostDelimiters = 32;
 constexpr ByteSet kSpaces(" \t\r\n", kMostDelimiters);
 constexpr ByteSet kEquals("=", kMostDelimiters);
 constexpr ByteSet kListStops("\"'=", kMostDelimiters);
-
-/// Smallest text kept for an open name, so that names of usual length never need a new one.
-constexpr std::size_t kLeastNameSize = 32;
 
 /// memchr for a byte that is usually near: the first words are looked at here, without a call.
 char* FindByte(char* from, const char* last, char byte) {
@@ -151,9 +153,8 @@ void XmlDecoder::ResetXmlDecoder() {
     m_pPending = nullptr;
     m_pendingLength = 0;
     m_pendingSize = 0;
-    FreeOpenNames();
     if (m_pElementStack == nullptr) return;
-    m_pElementStack->FreeList(FreeElement);
+    FreeOpenNames();
     IX_TRACKED_DELETE(kTokenizerModule, m_pElementStack);
     m_pElementStack = nullptr;
 }
@@ -284,8 +285,8 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
         ixLog(kSourceFile, kNothingOpen);
         return IX_XML_ERROR;
     }
-    const OpenName& last = m_openNames[m_iOpenCount - 1];
-    const char* const open = static_cast<const char*>(last.node->m_pData);
+    const OpenName& last = LastOpenName();
+    const char* const open = static_cast<const char*>(last.node.m_pData);
     const auto length = static_cast<std::size_t>(end - name);
     if (open == nullptr || last.length != length || std::memcmp(open, name, length) != 0) {
         if (open != nullptr) ixLog(kSourceFile, kMismatch, open);
@@ -464,78 +465,87 @@ unsigned int XmlDecoder::PushElement(const char* name) {
 
 bool XmlDecoder::PushName(const char* name, std::size_t length) {
     if (m_pElementStack == nullptr) return false;
-    if (m_iOpenCount < m_openSize && name != nullptr && length < m_openNames[m_iOpenCount].size) {
-        // The slot's last name left enough room.
-        OpenName& slot = m_openNames[m_iOpenCount];
-        std::memcpy(slot.node->m_pData, name, length + 1);
-        slot.length = length;
-        LastOpenNode()->m_pNext = slot.node;
-        ++m_iOpenCount;
-        return true;
+    const bool isLong = length >= sizeof m_firstNames.names[0].text;
+    char* text = isLong ? static_cast<char*>(__malloc(length + 1)) : nullptr;
+    OpenName* const open = isLong && text == nullptr ? nullptr : NextOpenName();
+    if (open == nullptr) {
+        FreeElement(text);
+        ixLog(kSourceFile, kNoMemoryForName);
+        return false;
     }
-    if (m_iOpenCount < m_openSize || GrowOpenNames()) {
-        OpenName& slot = m_openNames[m_iOpenCount];
-        FreeSlot(slot);
-        const std::size_t size = length < kLeastNameSize ? kLeastNameSize : length + 1;
-        char* const copy = name != nullptr ? static_cast<char*>(__malloc(size)) : nullptr;
-        BuddyLinkList* const node = name == nullptr || copy != nullptr ? LastOpenNode()->Append(copy) : nullptr;
-        if (node != nullptr) {
-            if (copy != nullptr) std::memcpy(copy, name, length + 1);
-            slot = {node, copy != nullptr ? size : 0, length};
-            ++m_iOpenCount;
-            return true;
-        }
-        FreeElement(copy);
-    }
-    ixLog(kSourceFile, kNoMemoryForName);
-    return false;
+    if (!isLong && name != nullptr) text = open->text;
+    if (text != nullptr) std::memcpy(text, name, length + 1);
+    open->length = length;
+    open->node.m_pData = text;
+    open->node.m_pNext = nullptr;
+    ++m_openIndex;
+    ++m_openCount;
+    NodeBefore()->m_pNext = &open->node;
+    trmemlog_add(kTokenizerModule, kNodeSourceFile, kNodeLine, &open->node, sizeof open->node);
+    return true;
 }
 
-/// Where the next open name is linked: the last one, or the sentinel.
-BuddyLinkList* XmlDecoder::LastOpenNode() const {
-    return m_iOpenCount == 0 ? m_pElementStack : m_openNames[m_iOpenCount - 1].node;
+/// The slot for one more name, or NULL without memory. Blocks stay for the names to come once they are there.
+XmlDecoder::OpenName* XmlDecoder::NextOpenName() {
+    if (m_openIndex < std::size(m_openNames->names)) return &m_openNames->names[m_openIndex];
+    if (m_openNames->next == nullptr) {
+        void* const place = __malloc(sizeof(OpenNames));
+        if (place == nullptr) return nullptr;
+        m_openNames->next = new (place) OpenNames;
+        m_openNames->next->before = m_openNames;
+    }
+    m_openNames = m_openNames->next;
+    m_openIndex = 0;
+    return &m_openNames->names[0];
 }
 
-void XmlDecoder::FreeSlot(OpenName& slot) {
-    if (slot.node == nullptr) return;
-    FreeElement(slot.node->m_pData);
-    IX_TRACKED_DELETE(kTokenizerModule, slot.node);
-    slot = {nullptr, 0, 0};
+/// The node that the last open name is linked to: that of the name before it, or the sentinel.
+BuddyLinkList* XmlDecoder::NodeBefore() const {
+    if (m_openCount == 1) return m_pElementStack;
+    if (m_openIndex > 1) return &m_openNames->names[m_openIndex - 2].node;
+    return &m_openNames->before->names[std::size(m_openNames->names) - 1].node;
+}
+
+void XmlDecoder::DropLastOpenName() {
+    OpenName& last = LastOpenName();
+    NodeBefore()->m_pNext = nullptr;
+    trmemlog_remove(kTokenizerModule, &last.node);
+    if (last.node.m_pData != last.text) FreeElement(last.node.m_pData);
+    --m_openCount;
+    --m_openIndex;
+    if (m_openIndex == 0 && m_openNames->before != nullptr) {
+        m_openNames = m_openNames->before;
+        m_openIndex = std::size(m_openNames->names);
+    }
 }
 
 BuddyLinkList* XmlDecoder::PopElement() {
     if (!HasOpenElements()) return nullptr;
+    // The caller frees node and text one by one, so it gets them as blocks of their own.
+    const OpenName& last = LastOpenName();
+    char* const text = __strdup(static_cast<const char*>(last.node.m_pData));
+    const bool copied = text != nullptr || last.node.m_pData == nullptr;
+    BuddyLinkList* const node =
+        copied ? IX_TRACKED_NEW(kTokenizerModule, kNodeSourceFile, kNodeLine, BuddyLinkList, (text)) : nullptr;
+    if (node == nullptr) {
+        FreeElement(text);
+        return nullptr;
+    }
     DropLastOpenName();
-    OpenName& slot = m_openNames[m_iOpenCount];
-    BuddyLinkList* const node = slot.node;
-    slot = {nullptr, 0, 0};
     return node;
 }
 
-/// Unlinks the last open name, whose memory stays in its slot for the next name of that depth.
-void XmlDecoder::DropLastOpenName() {
-    --m_iOpenCount;
-    LastOpenNode()->m_pNext = nullptr;
-}
-
-bool XmlDecoder::GrowOpenNames() {
-    const std::size_t size = m_openSize == 0 ? 16 : 2 * m_openSize;
-    auto* const names = static_cast<OpenName*>(__calloc(size, sizeof(OpenName)));
-    if (names == nullptr) return false;
-    if (m_openSize != 0) std::memcpy(names, m_openNames, m_openSize * sizeof(OpenName));
-    __free(m_openNames);
-    m_openNames = names;
-    m_openSize = size;
-    return true;
-}
-
-/// Frees the slots and what they keep for later. Linked names stay in the list.
 void XmlDecoder::FreeOpenNames() {
-    for (std::size_t i = m_iOpenCount; i < m_openSize; ++i) FreeSlot(m_openNames[i]);
-    __free(m_openNames);
-    m_openNames = nullptr;
-    m_iOpenCount = 0;
-    m_openSize = 0;
+    while (HasOpenElements()) DropLastOpenName();
+    m_openNames = &m_firstNames;
+    m_openIndex = 0;
+    OpenNames* block = m_firstNames.next;
+    m_firstNames.next = nullptr;
+    while (block != nullptr) {
+        OpenNames* const next = block->next;
+        __free(block);
+        block = next;
+    }
 }
 
 char* XmlDecoder::N_strtok(char* text, const char* delimiters, char** rest) {
