@@ -101,6 +101,12 @@ DocumentError Shortage(const Document& document, const Scanner& scanner) {
             document.text.size()};
 }
 
+/// Why the scanner did not come to the end.
+DocumentError FaultOf(const Document& document, const Scanner& scanner) {
+    if (!scanner.Refused()) return Shortage(document, scanner);
+    return {kNotDecoded, RefusedTag(document, scanner), scanner.TagOffset()};
+}
+
 }  // namespace
 
 std::string TagText(std::string_view name) {
@@ -114,23 +120,21 @@ std::string TagText(std::string_view name) {
 DocumentError Diagnose(const Document& document) {
     Scanner scanner(document.text);
     if (scanner.FindEnd()) return {kNotDecoded, "the decoder could not go on; there may be no memory left"};
-    if (!scanner.Refused()) return Shortage(document, scanner);
-    return {kNotDecoded, RefusedTag(document, scanner), scanner.TagOffset()};
+    return FaultOf(document, scanner);
 }
 
 DocumentError Diagnose(const Document& document, const XmlSchemaInfo& schema, bool hasBinder) {
     Scanner scanner(document.text);
-    if (!scanner.FindRoot()) return Diagnose(document);
-    const RootElement root = *scanner.Root();
-    if (!scanner.FindEnd()) return Diagnose(document);
+    if (!scanner.FindEnd()) return FaultOf(document, scanner);
 
+    const RootElement& root = *scanner.Root();
     std::string expected;
-    bool matches = false;
+    bool matches = RootsOf(schema).empty();
     for (const std::string_view name : RootsOf(schema)) {
         expected += (expected.empty() ? "" : " or ") + TagText(name);
         matches = matches || name == root.Local();
     }
-    std::string message = "root element " + TagText(root.name) + " at " + document.PlaceOf(root.offset);
+    std::string message = "root element " + TagText(root.name);
     if (!matches) {
         message += " is not " + expected + " of schema " + schema.name;
     } else {

@@ -1,4 +1,7 @@
 #include <CLI/CLI.hpp>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "Runner.h"
@@ -6,11 +9,11 @@
 
 namespace {
 
-constexpr char kAbout[] = R"(Reads and writes the XML documents of the IP Multimedia Subsystem.
+constexpr char kAbout[] = R"help(Reads and writes the XML documents of the IP Multimedia Subsystem.
 
-Every command takes any number of files; "-" is the standard input. Each file is tried, also after one that failed.)";
+Every command takes any number of files; "-" is the standard input. Each file is tried, also after one that failed.)help";
 
-constexpr char kFooter[] = R"(
+constexpr char kFooter[] = R"help(
 Exit status, the highest of all files:
   0  done
   1  a document could not be decoded; the message says where and why
@@ -24,9 +27,9 @@ Examples:
   imsxml convert --binder simservs.xml
   imsxml namespaces presence.xml
 
-"imsxml COMMAND --help" tells more of a command.)";
+"imsxml COMMAND --help" tells more of a command.)help";
 
-constexpr char kDecodeFooter[] = R"(
+constexpr char kDecodeFooter[] = R"help(
 Prints an object a file: its schema, its name and the root element. An element has its class and the fields that are
 set. One file is spread over lines; of several files each has one line. The schema follows from the root element and
 its namespace, unless --schema names one.
@@ -36,9 +39,9 @@ Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time lim
 Examples:
   imsxml decode gruu.xml
   imsxml decode --format tree --schema communication-waiting --binder waiting.xml
-  curl -s http://xcap.example/waiting.xml | imsxml decode --log -)";
+  curl -s http://xcap.example/waiting.xml | imsxml decode --log -)help";
 
-constexpr char kConvertFooter[] = R"(
+constexpr char kConvertFooter[] = R"help(
 Decodes each document and prints the text that the library writes for it, without a line feed behind it. A text of more
 than 32767 characters is cut, with a warning.
 
@@ -46,23 +49,31 @@ Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 3 cannot b
 
 Examples:
   imsxml convert gruu.xml
-  imsxml convert --binder waiting.xml > written.xml)";
+  imsxml convert --binder waiting.xml > written.xml)help";
 
-constexpr char kNamespacesFooter[] = R"(
+constexpr char kNamespacesFooter[] = R"help(
 Prints a line a declaration, in the order of the text: the prefix, a tab and the URI. The default namespace has the
 prefix "(default)". With several files, each line starts with the file's name and a tab.
 
 Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time limit.
 
 Example:
-  imsxml namespaces simservs.xml)";
+  imsxml namespaces simservs.xml)help";
 
-constexpr char kSchemasFooter[] = R"(
+constexpr char kSchemasFooter[] = R"help(
 Prints a line a schema: its number, the name that --schema takes, whether documents are only read, whether this build
 has it, its namespace ("-": none), and its root elements ("*": any).
 
 Example:
-  imsxml schemas | grep simservs)";
+  imsxml schemas | grep simservs)help";
+
+/// @return what is wrong with a number of seconds; "": nothing.
+std::string CheckSeconds(const std::string& text) {
+    char* end = nullptr;
+    const double seconds = std::strtod(text.c_str(), &end);
+    const bool valid = end != text.c_str() && *end == '\0' && std::isfinite(seconds) && seconds >= 0;
+    return valid ? "" : "\"" + text + "\" is no number of seconds";
+}
 
 class CommandLine {
   public:
@@ -108,7 +119,7 @@ CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const
     command->add_flag("--log", m_options.log, "Print the library's log lines to the standard error");
     command->add_flag("--leaks", m_options.leaks, "Print to the standard error what memory is alive after each file");
     command->add_option("--timeout", m_options.timeout, "Seconds that a file may take; 0: no limit")
-        ->check(CLI::NonNegativeNumber)
+        ->check(CheckSeconds)
         ->capture_default_str();
     return command;
 }

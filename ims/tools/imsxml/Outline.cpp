@@ -1,17 +1,20 @@
 #include "Outline.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::size_t kIndent = 2;
 
-bool IsAttribute(const Json& value) {
-    return value.is_object() && !value.contains("class");
+/// True for a list of attribute pairs, which are the only objects without a class.
+bool HasPairs(const Json& list) {
+    return std::any_of(list.begin(), list.end(),
+                       [](const Json& entry) { return entry.is_object() && !entry.contains("class"); });
 }
 
 }  // namespace
 
 void Outline::AddTitle(const std::string& file, const std::string& schema) {
-    if (!m_text.empty()) m_text += '\n';
     AddLine(Dim("# " + Name(file) + " (" + schema + ')'), 0);
 }
 
@@ -59,7 +62,7 @@ void Outline::AddField(const std::string& label, const Json& value, std::size_t 
 }
 
 void Outline::AddList(const std::string& label, const Json& list, std::size_t depth) {
-    if (IsAttribute(list.front())) {
+    if (HasPairs(list)) {
         AddLine(label, depth);
         for (const Json& entry : list) {
             // Only the default namespace has no name.

@@ -13,7 +13,7 @@ class Outline {
   public:
     explicit Outline(bool colour) : m_colour(colour) {}
 
-    /// Appends a line for a document among several.
+    /// Appends a heading, for a document among several.
     void AddTitle(const std::string& file, const std::string& schema);
     /// Appends the tree that `ToJson` made.
     void AddTree(const Json& root);

@@ -34,7 +34,7 @@ std::string Nearest(std::string_view word, const std::vector<std::pair<std::stri
     for (const auto& [name, text] : candidates) found.emplace_back(EditDistance(word, name), text);
     std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     constexpr std::size_t kMost = 3;
-    constexpr std::size_t kSlack = 2;
+    constexpr std::size_t kSlack = 1;
     std::string list;
     for (std::size_t i = 0; i < found.size() && i < kMost && found[i].first <= found[0].first + kSlack; ++i) {
         list += (i == 0 ? "" : ", ") + found[i].second;

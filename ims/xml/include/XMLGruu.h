@@ -11,13 +11,11 @@
 #include "XmlFamily.h"
 #include "XmlFields.h"
 
-/// The element `pub-gruu`: a public GRUU.
-class IX_XML_EXPORT ix_pub_gruu : public XMLObject {
+/// What both kinds of GRUU share. Attributes that a kind does not know are refused with a log line.
+class IX_XML_EXPORT ix_gruuType : public XMLObject {
   public:
-    ~ix_pub_gruu() override;
-    const char* ClassName() const override;
+    ~ix_gruuType() override;
     const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "PubGruu"; }
     int Reserved() const override { return 0; }
     int IsRootElement() const override { return 1; }
     const XmlFieldTable* FieldTable() const override;
@@ -30,32 +28,34 @@ class IX_XML_EXPORT ix_pub_gruu : public XMLObject {
 
   protected:
     /// Logs that an attribute was refused.
-    virtual void LogRefusal() const;
+    virtual void LogRefusal() const = 0;
+};
+
+/// The element `pub-gruu`: a public GRUU.
+class IX_XML_EXPORT ix_pub_gruu : public ix_gruuType {
+  public:
+    const char* ClassName() const override;
+    const char* TypeName() const override { return "PubGruu"; }
+
+  protected:
+    void LogRefusal() const override;
 };
 
 /// The element `temp-gruu`: a temporary GRUU.
-class IX_XML_EXPORT ix_temp_gruu : public XMLObject {
+class IX_XML_EXPORT ix_temp_gruu : public ix_gruuType {
   public:
-    ~ix_temp_gruu() override;
     const char* ClassName() const override;
-    const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "TempGruu"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
-    /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
-    int setUriValue(const char* uri);
     /// @return 1.
     int setFirstCseqValue(std::int64_t firstCseq);
 
-    char* mUri = nullptr;         ///< Owned; NULL: not set. Mandatory in a written document.
     std::int64_t mFirstCseq = 0;  ///< The first CSeq for which the GRUU was valid. Always written, as its low 32 bits.
 
   protected:
-    /// Logs that an attribute was refused.
-    virtual void LogRefusal() const;
+    void LogRefusal() const override;
 };
 
 /// A public GRUU inside another document.
@@ -112,6 +112,9 @@ class IX_XML_EXPORT GruuMarshaller : public XmlFamilyMarshaller {
 
   protected:
     int AddRootElementToXml(XMLElement* root) override;
+
+  private:
+    int AddUri(const ix_gruuType* element, const XmlLogText& missing);
 };
 
 class IX_XML_EXPORT GruuContext : public XmlFamilyContext {

@@ -132,6 +132,7 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     };
 
     bool AppendToPending(const char* text, std::size_t length);
+    void FreePending();
     int KeepFrom(char* rest, char* begin);
     int DecodeTag(char* scan, char* begin, char* end);
     int DecodeDeclaration(const char* content, const char* end);

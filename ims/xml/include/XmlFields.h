@@ -103,10 +103,11 @@ class IX_XML_EXPORT XmlFields {
     /// the class's own table.
     static void Release(XMLElement* element, const XmlFieldTable& table);
 
-    /// True when `child` is the value of a child field, or the last entry of a child list.
+    /// True when `child` is the value of a child field, or the last entry of a child list. A class without a table is taken
+    /// to hold whatever it has accepted.
     static bool HoldsChild(const XMLElement& element, const XMLElement* child);
 
-    /// True when `pair` is the last entry of an attribute list.
+    /// True when `pair` is the last entry of an attribute list, or the class has no table.
     static bool HoldsAttribute(const XMLElement& element, const XMLAttribute* pair);
 
     /// Moves the entries of all child lists of `element`, and of the elements that its child fields hold, to the end of

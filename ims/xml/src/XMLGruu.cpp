@@ -1,5 +1,7 @@
 #include "XMLGruu.h"
 
+#include <iterator>
+
 #include "Gruu.h"
 #include "XmlElementSupport.h"
 
@@ -67,16 +69,15 @@ constexpr XmlLogText kPubWithoutUri = {3, kSchemaCode, __LINE__,
 constexpr XmlLogText kTempWithoutUri = {3, kSchemaCode, __LINE__,
                                         "<XML Module>: AddTempGruuElementToXml: Uri is a mandatory attribute"};
 
-constexpr XmlField kPubGruuFields[] = {
-    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_pub_gruu::mUri)},
+constexpr XmlField kGruuFields[] = {
+    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_gruuType::mUri)},
 };
-constexpr XmlFieldTable kPubGruuTable = {nullptr, kPubGruuFields, 1};
+constexpr XmlFieldTable kGruuTable = {nullptr, kGruuFields, std::size(kGruuFields)};
 
 constexpr XmlField kTempGruuFields[] = {
-    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_temp_gruu::mUri)},
     {XmlFieldKind::Number64, IX_STR_FIRST_CSEQ, XmlInt64Member(&ix_temp_gruu::mFirstCseq), kXmlAlwaysSet},
 };
-constexpr XmlFieldTable kTempGruuTable = {nullptr, kTempGruuFields, 2};
+constexpr XmlFieldTable kTempGruuTable = {&kGruuTable, kTempGruuFields, std::size(kTempGruuFields)};
 
 /// True when `text` is a leading part of `word`.
 bool Begins(const char* word, const char* text) {
@@ -85,34 +86,30 @@ bool Begins(const char* word, const char* text) {
 
 }  // namespace
 
-ix_pub_gruu::~ix_pub_gruu() {
-    XmlFields::Release(this, kPubGruuTable);
+ix_gruuType::~ix_gruuType() {
+    XmlFields::Release(this, kGruuTable);
+}
+
+const XmlFieldTable* ix_gruuType::FieldTable() const {
+    return &kGruuTable;
+}
+
+int ix_gruuType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    if (ixNameIs(attribute, IX_STR_URI)) return pair == nullptr ? setUriValue(value) : 0;
+    LogRefusal();
+    return 0;
+}
+
+int ix_gruuType::setUriValue(const char* uri) {
+    return ixSetText(mUri, uri);
 }
 
 const char* ix_pub_gruu::ClassName() const {
     return kPubGruuClass;
 }
 
-const XmlFieldTable* ix_pub_gruu::FieldTable() const {
-    return &kPubGruuTable;
-}
-
-int ix_pub_gruu::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (ixNameIs(attribute, IX_STR_URI)) return pair == nullptr ? setUriValue(value) : 0;
-    LogRefusal();
-    return 0;
-}
-
-int ix_pub_gruu::setUriValue(const char* uri) {
-    return ixSetText(mUri, uri);
-}
-
 void ix_pub_gruu::LogRefusal() const {
     ixLog(kSourceFile, kPubRefused);
-}
-
-ix_temp_gruu::~ix_temp_gruu() {
-    XmlFields::Release(this, kTempGruuTable);
 }
 
 const char* ix_temp_gruu::ClassName() const {
@@ -124,14 +121,8 @@ const XmlFieldTable* ix_temp_gruu::FieldTable() const {
 }
 
 int ix_temp_gruu::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (ixNameIs(attribute, IX_STR_FIRST_CSEQ)) return pair == nullptr ? setFirstCseqValue(__atoi64(value)) : 0;
-    if (ixNameIs(attribute, IX_STR_URI)) return pair == nullptr ? setUriValue(value) : 0;
-    LogRefusal();
-    return 0;
-}
-
-int ix_temp_gruu::setUriValue(const char* uri) {
-    return ixSetText(mUri, uri);
+    if (pair == nullptr && ixNameIs(attribute, IX_STR_FIRST_CSEQ)) return setFirstCseqValue(__atoi64(value));
+    return ix_gruuType::ProcessUnMarshallAttribute(attribute, value, pair);
 }
 
 int ix_temp_gruu::setFirstCseqValue(std::int64_t firstCseq) {
@@ -191,43 +182,41 @@ int GruuMarshaller::AddRootElementToXml(XMLElement* root) {
     // Required: a class name that is only the beginning of the expected one selects the writer as well. Such an object
     // is none of ours, so the writer gets nothing to read from.
     const char* const name = root->ClassName();
+    const XmlLogText* failed = nullptr;
     if (Begins(kPubGruuClass, name)) {
         ixLog(kSourceFile, kWritesPub);
         const bool exact = ixIsClass(root, kPubGruuClass);
-        if (AddPubGruuElementToXml(exact ? static_cast<ix_pub_gruu*>(root) : nullptr) != 0) return 1;
-        ixLog(kSourceFile, kPubFailed);
-        return 0;
-    }
-    if (Begins(kTempGruuClass, name)) {
+        if (AddPubGruuElementToXml(exact ? static_cast<ix_pub_gruu*>(root) : nullptr) == 0) failed = &kPubFailed;
+    } else if (Begins(kTempGruuClass, name)) {
         ixLog(kSourceFile, kWritesTemp);
         const bool exact = ixIsClass(root, kTempGruuClass);
-        if (AddTempGruuElementToXml(exact ? static_cast<ix_temp_gruu*>(root) : nullptr) != 0) return 1;
-        ixLog(kSourceFile, kTempFailed);
-        return 0;
+        if (AddTempGruuElementToXml(exact ? static_cast<ix_temp_gruu*>(root) : nullptr) == 0) failed = &kTempFailed;
     }
-    return 1;
+    if (failed == nullptr) return 1;
+    ixLog(kSourceFile, *failed);
+    return 0;
 }
 
 int GruuMarshaller::AddPubGruuElementToXml(ix_pub_gruu* element) {
     ixLog(kSourceFile, kAddPub);
     StartElementOpen(IX_STR_PUB_GRUU);
-    if (element == nullptr || element->mUri == nullptr) {
-        ixLog(kSourceFile, kPubWithoutUri);
-        return 0;
-    }
-    AddAttribute(IX_STR_URI, element->mUri, Attribute::SelfClosing);
-    return 1;
+    return AddUri(element, kPubWithoutUri);
 }
 
 int GruuMarshaller::AddTempGruuElementToXml(ix_temp_gruu* element) {
     ixLog(kSourceFile, kAddTemp);
     StartElementOpen(IX_STR_TEMP_GRUU);
-    // The number is written as far as 32 bits hold it.
     if (element != nullptr) {
+        // The number is written as far as 32 bits hold it.
         AddDecimalAttribute(IX_STR_FIRST_CSEQ, static_cast<std::uint32_t>(element->mFirstCseq), Attribute::Open);
     }
+    return AddUri(element, kTempWithoutUri);
+}
+
+/// The attribute that ends the element.
+int GruuMarshaller::AddUri(const ix_gruuType* element, const XmlLogText& missing) {
     if (element == nullptr || element->mUri == nullptr) {
-        ixLog(kSourceFile, kTempWithoutUri);
+        ixLog(kSourceFile, missing);
         return 0;
     }
     AddAttribute(IX_STR_URI, element->mUri, Attribute::SelfClosing);

@@ -139,20 +139,21 @@ void XmlDecoder::InitXmlDecoder() {
     if (m_pElementStack == nullptr) {
         m_pElementStack = IX_TRACKED_NEW(kTokenizerModule, kSourceFile, 100, BuddyLinkList, (nullptr));
     }
+    FreePending();
+    m_DecodeState = IX_XML_PARSE_INIT;
+}
+
+void XmlDecoder::FreePending() {
     __free(m_pPending);
     m_pPending = nullptr;
     m_pendingLength = 0;
     m_pendingSize = 0;
     m_tagBegin = 0;
     m_tagSearched = 0;
-    m_DecodeState = IX_XML_PARSE_INIT;
 }
 
 void XmlDecoder::ResetXmlDecoder() {
-    __free(m_pPending);
-    m_pPending = nullptr;
-    m_pendingLength = 0;
-    m_pendingSize = 0;
+    FreePending();
     if (m_pElementStack == nullptr) return;
     FreeOpenNames();
     IX_TRACKED_DELETE(kTokenizerModule, m_pElementStack);

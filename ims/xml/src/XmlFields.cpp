@@ -141,6 +141,7 @@ void XmlFields::Release(XMLElement* element, const XmlFieldTable& table) {
 }
 
 bool XmlFields::HoldsChild(const XMLElement& element, const XMLElement* child) {
+    if (element.FieldTable() == nullptr) return true;
     for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& field = table->fields[i];
@@ -154,6 +155,7 @@ bool XmlFields::HoldsChild(const XMLElement& element, const XMLElement* child) {
 }
 
 bool XmlFields::HoldsAttribute(const XMLElement& element, const XMLAttribute* pair) {
+    if (element.FieldTable() == nullptr) return true;
     for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& field = table->fields[i];
