@@ -1,5 +1,6 @@
 // What every family has to stand, written once. A family joins by a row of `kFamilies`.
 #include <map>
+#include <ostream>
 #include <set>
 #include <thread>
 
@@ -14,6 +15,10 @@ struct Family {
     const char* folder;                ///< Below samples/, and in the folder of real documents.
     std::vector<const char*> sources;  ///< Binding and decoder, each with a header of the same name.
 };
+
+void PrintTo(const Family& family, std::ostream* stream) {
+    *stream << family.folder;
+}
 
 const Family kFamilies[] = {
     {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting", {"XMLCommunicationWaiting", "CommunicationWaiting"}},

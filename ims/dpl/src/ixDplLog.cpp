@@ -13,9 +13,9 @@ std::mutex sinkMutex;
 ixDplHostLogSink currentSink = nullptr;
 void* currentContext = nullptr;
 
-/// Appends no more than the limit leaves room for.
+/// Appends up to one character past the limit, by which a text is known to be longer.
 void Append(std::string& text, const char* piece, std::size_t length) {
-    const std::size_t room = kIxDplHostLogLimit - text.size();
+    const std::size_t room = kIxDplHostLogLimit + 1 - text.size();
     text.append(piece, length < room ? length : room);
 }
 
@@ -47,7 +47,7 @@ std::string Format(const char* format, const std::uintptr_t (&words)[3]) {
     std::string text;
     std::size_t next = 0;
     const char* at = format;
-    while (*at != '\0' && text.size() < kIxDplHostLogLimit) {
+    while (*at != '\0' && text.size() <= kIxDplHostLogLimit) {
         const std::size_t plain = std::strcspn(at, "%");
         Append(text, at, plain);
         at += plain;
@@ -64,12 +64,12 @@ std::string Format(const char* format, const std::uintptr_t (&words)[3]) {
         ++next;
         if (conversion == 's') {
             const char* value = word != 0 ? reinterpret_cast<const char*>(word) : "(null)";
-            Append(text, value, strnlen(value, kIxDplHostLogLimit));
+            Append(text, value, strnlen(value, kIxDplHostLogLimit + 1));
         } else {
             AppendNumber(text, conversion, word);
         }
     }
-    if (text.size() >= kIxDplHostLogLimit) text.replace(kIxDplHostLogLimit - 3, std::string::npos, "...");
+    if (text.size() > kIxDplHostLogLimit) text.replace(kIxDplHostLogLimit - 3, std::string::npos, "...");
     return text;
 }
 

@@ -1,0 +1,311 @@
+// The command imsxml, run as a user runs it.
+#ifdef IMSXML_TOOL
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "XmlTest.h"
+
+namespace {
+
+struct Result {
+    int status;
+    std::string output;
+    std::string errors;
+};
+
+const char kWaiting[] =
+    R"(<ss:communication-waiting xmlns:ss="http://uri.etsi.org/ngn/params/xml/simservs/xcap" active="true"/>)";
+const char kOtherPrefix[] =
+    R"(<x:communication-waiting xmlns:x="http://uri.etsi.org/ngn/params/xml/simservs/xcap" active="false"/>)";
+const char kGruu[] = R"(<gr:pub-gruu xmlns:gr="urn:ietf:params:xml:ns:gruuinfo" uri="sip:a@b;gr=1&amp;2"/>)";
+const char kGruuLine[] = R"({"schema":"gruu","file":"gruu","root":{"class":"ix_pub_gruu","uri":"sip:a@b;gr=1&2"}})"
+                         "\n";
+
+/// Runs the tool in a folder of its own, so that messages show plain file names.
+class ToolTest : public testing::Test {
+  protected:
+    ToolTest() : m_folder(testing::TempDir() + "imsxml-tool-" + std::to_string(getpid())) {
+        std::filesystem::create_directories(m_folder);
+        Write("waiting", kWaiting);
+        Write("other", kOtherPrefix);
+        Write("gruu", kGruu);
+    }
+    ~ToolTest() override { std::filesystem::remove_all(m_folder); }
+
+    void Write(const std::string& name, const std::string& text) {
+        std::ofstream(m_folder + '/' + name, std::ios::binary) << text;
+    }
+
+    Result Run(const std::string& arguments) {
+        // Documents that fail leave their tree to nobody.
+        const std::string command =
+            "cd '" + m_folder + "' && ASAN_OPTIONS=detect_leaks=0 '" IMSXML_TOOL "' " + arguments;
+        const int status =
+            std::system(("( " + command + " ) >'" + m_folder + "/out' 2>'" + m_folder + "/err'").c_str());
+        return {WEXITSTATUS(status), ReadFile(m_folder + "/out"), ReadFile(m_folder + "/err")};
+    }
+
+    /// The message for a document, without the file name.
+    std::string MessageFor(const std::string& text, const std::string& arguments = "decode --schema gruu") {
+        Write("bad", text);
+        const Result result = Run(arguments + " bad");
+        EXPECT_EQ(result.status, 1) << text;
+        EXPECT_EQ(result.output, "") << text;
+        EXPECT_EQ(result.errors.substr(0, 4), "bad:") << text;
+        EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << text;
+        return result.errors.substr(4, result.errors.size() - 5);
+    }
+
+    std::string m_folder;
+};
+
+}  // namespace
+
+TEST_F(ToolTest, DecodePrintsJsonOverLines) {
+    const Result result = Run("decode waiting");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, R"({
+  "schema": "communication-waiting",
+  "file": "waiting",
+  "root": {
+    "class": "communication-waiting",
+    "active": true,
+    "attributes": [
+      {
+        "name": "xmlns:ss",
+        "value": "http://uri.etsi.org/ngn/params/xml/simservs/xcap"
+      }
+    ]
+  }
+}
+)");
+}
+
+TEST_F(ToolTest, DecodePrintsOneLineForEachOfManyFiles) {
+    Write("temp", R"(<gr:temp-gruu xmlns:gr="urn:ietf:params:xml:ns:gruuinfo" uri="sip:c" first-cseq="9000000000"/>)");
+    EXPECT_EQ(
+        Run("decode gruu temp").output,
+        std::string(kGruuLine) +
+            R"({"schema":"gruu","file":"temp","root":{"class":"ix_temp_gruu","uri":"sip:c","first-cseq":9000000000}})"
+            "\n");
+}
+
+TEST_F(ToolTest, TreeHasNoColourInAFile) {
+    EXPECT_EQ(Run("decode --format tree waiting").output,
+              "communication-waiting\n"
+              "  active = true\n"
+              "  attributes\n"
+              "    xmlns:ss = \"http://uri.etsi.org/ngn/params/xml/simservs/xcap\"\n");
+    EXPECT_EQ(Run("decode --format tree gruu gruu").output,
+              "# gruu (gruu)\nix_pub_gruu  uri = \"sip:a@b;gr=1&2\"\n"
+              "# gruu (gruu)\nix_pub_gruu  uri = \"sip:a@b;gr=1&2\"\n");
+}
+
+TEST_F(ToolTest, BytesThatAreNotUtf8AreReplaced) {
+    Write("bytes", "<pub-gruu uri=\"a\xff\"/>");
+    const Result result = Run("decode --format tree bytes");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "ix_pub_gruu  uri = \"a\xef\xbf\xbd\"\n");
+    EXPECT_EQ(result.errors, "bytes: warning: bytes that are not UTF-8 were replaced\n");
+}
+
+TEST_F(ToolTest, ConvertPrintsTheTextAndNothingElse) {
+    EXPECT_EQ(Run("convert gruu").output,
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<pub-gruu  uri=\"sip:a@b;gr=1&2\"/>");
+    const Result result = Run("convert --binder other");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(
+        result.output,
+        "<x:communication-waiting  xmlns:x=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\"  active=\"false\"/>");
+}
+
+TEST_F(ToolTest, ConvertWarnsOfACutText) {
+    Write("long", "<pub-gruu uri=\"" + std::string(40000, 'a') + "\"/>");
+    const Result result = Run("convert long");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output.size(), 32767U);
+    EXPECT_EQ(result.errors, "long: warning: the text was cut at 32767 characters\n");
+}
+
+TEST_F(ToolTest, ConvertTellsWhyADocumentCannotBeWritten) {
+    Write("empty", "<pub-gruu/>");
+    const Result result = Run("convert empty");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              "empty: schema gruu cannot write the document: "
+              "<XML Module>: AddPubGruuElementToXml: Uri is a mandatory attribute\n");
+    EXPECT_EQ(Run("convert --schema namespaces gruu").status, 3);
+}
+
+TEST_F(ToolTest, NamespacesPrintsDeclarations) {
+    Write("many", R"(<a xmlns="urn:d"><b xmlns:p="urn:p" x="y"/></a>)");
+    EXPECT_EQ(Run("namespaces many").output, "(default)\turn:d\np\turn:p\n");
+    EXPECT_EQ(Run("namespaces many gruu").output,
+              "many\t(default)\turn:d\nmany\tp\turn:p\ngruu\tgr\turn:ietf:params:xml:ns:gruuinfo\n");
+    Write("none", "<a/>");
+    EXPECT_EQ(Run("namespaces none").output, "");
+}
+
+TEST_F(ToolTest, SchemasPrintsEverySchema) {
+    const Result result = Run("schemas");
+    EXPECT_EQ(result.status, 0);
+    std::istringstream lines(result.output);
+    std::string line;
+    std::getline(lines, line);
+    int count = 0;
+    for (int id = 0; id < kXmlSchemaCount; ++id) {
+        const XmlSchemaInfo* const schema = XMLFactory::SchemaInfo(id);
+        if (schema == nullptr) continue;
+        ++count;
+        std::getline(lines, line);
+        std::istringstream words(line);
+        std::string number, name, access, build, uri, roots;
+        words >> number >> name >> access >> build >> uri >> std::ws;
+        std::getline(words, roots);
+        EXPECT_EQ(number, std::to_string(id));
+        EXPECT_EQ(name, schema->name);
+        EXPECT_EQ(access, schema->writes ? "read/write" : "read");
+        EXPECT_EQ(build, schema->create != nullptr ? "yes" : "no");
+        EXPECT_EQ(uri, *schema->namespaceUri != '\0' ? schema->namespaceUri : "-");
+        EXPECT_EQ(roots, schema->rootElements);
+    }
+    EXPECT_EQ(count, 26);
+    EXPECT_FALSE(std::getline(lines, line));
+}
+
+TEST_F(ToolTest, TheStandardInputCanBeGivenTwice) {
+    const Result result = Run("decode - - < gruu");
+    EXPECT_EQ(result.status, 0);
+    std::string line = kGruuLine;
+    line.replace(line.find("\"gruu\",\"root"), 6, "\"-\"");
+    EXPECT_EQ(result.output, line + line);
+}
+
+TEST_F(ToolTest, TheWorstStatusCountsAndEveryFileIsTried) {
+    Write("bad", "<pub-gruu>");
+    const Result result = Run("decode bad missing gruu . bad");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.output, kGruuLine);
+    EXPECT_EQ(result.errors,
+              "bad:1:11: <pub-gruu> opened at 1:1 is never closed\nmissing: No such file or directory\n"
+              ".: Is a directory\nbad:1:11: <pub-gruu> opened at 1:1 is never closed\n");
+}
+
+TEST_F(ToolTest, TheTimeLimitEndsAFile) {
+    // Nobody ever writes to it.
+    ASSERT_EQ(mkfifo((m_folder + "/pipe").c_str(), 0600), 0);
+    const Result result = Run("decode --timeout 0.5 pipe gruu");
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.output, kGruuLine);
+    EXPECT_EQ(result.errors,
+              "pipe: no result after 0.5 s: the document makes the decoder run without end, or it needs a longer "
+              "--timeout\n");
+    EXPECT_EQ(Run("decode --timeout 0 gruu").status, 0);
+}
+
+TEST_F(ToolTest, WrongUsage) {
+    for (const char* arguments : {"", "decode", "encode gruu", "decode --format yaml gruu", "decode --timeout x gruu",
+                                  "decode --schema gru gruu"}) {
+        const Result result = Run(arguments);
+        EXPECT_EQ(result.status, 2) << arguments;
+        EXPECT_EQ(result.output, "") << arguments;
+        EXPECT_EQ(result.errors.find("imsxml: "), 0U) << arguments;
+        EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << arguments;
+    }
+    EXPECT_EQ(Run("decode --schema gru gruu").errors, "imsxml: no schema has the name \"gru\"; the nearest: gruu\n");
+}
+
+TEST_F(ToolTest, HelpAndVersion) {
+    for (const char* arguments : {"--help", "decode --help", "convert --help", "namespaces --help", "schemas --help"}) {
+        const Result result = Run(arguments);
+        EXPECT_EQ(result.status, 0) << arguments;
+        EXPECT_NE(result.output.find("Example"), std::string::npos) << arguments;
+    }
+    EXPECT_EQ(Run("--version").output, "imsxml 0.1.0\n");
+}
+
+TEST_F(ToolTest, LogPrintsTheLibrarysLines) {
+    const Result result = Run("decode --log gruu");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_NE(result.errors.find("\n3 6053 ims/xml/src/XmlDecoder:450 <XML Decoder>:Decoder Success\n"),
+              std::string::npos);
+}
+
+TEST_F(ToolTest, LeaksPrintsWhatIsAlive) {
+    EXPECT_EQ(Run("convert --leaks gruu").errors,
+              "gruu: 0 objects and 0 heap blocks alive, 0 double and 0 unknown removals\n");
+    Write("bad", "<pub-gruu uri=\"a\">");
+    const Result result = Run("decode --leaks bad");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.errors.find("bad: module 14 ims/xml/src/"), std::string::npos);
+    EXPECT_NE(result.errors.find("bad: 1 objects and "), std::string::npos);
+}
+
+TEST_F(ToolTest, EachFaultHasItsMessageAndPlace) {
+    const struct {
+        const char* text;
+        const char* message;
+    } cases[] = {
+        {"<a>\n <b>\n</c></a>", "3:1: end tag </c> does not match <b> opened at 2:2"},
+        {"\n</a>", "2:1: end tag </a>, but no element is open"},
+        {"<a>\xc3\xa9<b x=y/></a>", "1:5: attribute \"x\" of <b> has a value without quotes"},
+        {"<a><b x=\"1\" y/></a>", "1:4: attribute \"y\" of <b> has no \"=\""},
+        {"<b x=\"y/></b>", "1:1: attribute \"x\" of <b> has no closing quote before the next \">\""},
+        {"<b \"y\"/>", "1:1: attribute without a name in <b>"},
+        {"<a\n<b></b></a>", "1:1: start tag <a> has no \">\" before the next \"<\""},
+        {"<a>\n< ></a>", "2:1: tag without a name"},
+        {"<a><?xml version=\"1.0\"?></a>",
+         "1:4: declaration <?xml version=\"1.0\"?> after the root element has started"},
+        {"<?xml version=\"1.0\"><a/>", "1:1: declaration is not closed by \"?>\""},
+        {"<a><!-- 1 > 0 --></a>", "1:4: comment contains \">\", which the decoder takes for its end"},
+        {"<a><!-- 1 </a>", "1:4: comment is never closed"},
+        {"<a><!-- 1", "1:4: comment is never closed"},
+        {"<!DOCTYPE a>\n<a/>", "1:1: document type <!DOCTYPE, which is not supported"},
+        {"<!DOCTYPE a SYSTEM \"b\"><a/>", "1:1: document type <!DOCTYPE, which is not supported"},
+        {"<a>\n  <![CDATA[x]]></a>", "2:3: CDATA section <![CDATA[, which is not supported"},
+        {"<a><![CDATA[x y]]></a>", "1:4: CDATA section <![CDATA[, which is not supported"},
+        {"<a>\n<b x=\"1\"", "2:1: the text ends inside this tag"},
+        {"<a>\n<b></b>\n", "3:1: <a> opened at 1:1 is never closed"},
+        {"hello > world", " no element found; this is no XML document"},
+        {"", " the file is empty"},
+        {"<a/>", "1:1: root element <a> is not <pub-gruu> or <temp-gruu> of schema gruu"},
+    };
+    for (const auto& fault : cases) EXPECT_EQ(MessageFor(fault.text), fault.message);
+    EXPECT_EQ(MessageFor(std::string("<a>\0</a>", 8)), "1:4: NUL byte at offset 3, where the decoder would stop");
+}
+
+TEST_F(ToolTest, RootsWithoutASchema) {
+    EXPECT_EQ(MessageFor("<!-- c --><p:pub-gru/>", "decode"),
+              "1:11: root element <p:pub-gru> is of no schema; the nearest: gruu (<pub-gruu>)");
+    EXPECT_EQ(
+        MessageFor("<pub-gruu xmlns='urn:x' uri='a'/>", "convert"),
+        "1:1: root element <pub-gruu> is of namespace \"urn:x\", not of \"urn:ietf:params:xml:ns:gruuinfo\" as in "
+        "schema gruu");
+    EXPECT_EQ(MessageFor(kOtherPrefix, "decode"),
+              "1:1: root element <x:communication-waiting> is not understood by schema communication-waiting: it does "
+              "not know the prefix \"x\"; --binder gives it the document's own declarations");
+    EXPECT_EQ(MessageFor("<a><b></a>", "namespaces"), "1:7: end tag </a> does not match <b> opened at 1:4");
+    for (int id = 0; id < kXmlSchemaCount; ++id) {
+        const XmlSchemaInfo* const schema = XMLFactory::SchemaInfo(id);
+        if (schema == nullptr || schema->create != nullptr) continue;
+        const std::string root =
+            std::string(schema->rootElements).substr(0, std::string(schema->rootElements).find(' '));
+        EXPECT_EQ(
+            MessageFor('<' + root + "/>", "decode"),
+            "1:1: schema " + std::string(schema->name) + " of root element <" + root + "> is not part of this build");
+    }
+}
+
+#endif
