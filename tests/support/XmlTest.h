@@ -22,8 +22,8 @@ struct LogLine {
 };
 
 inline bool operator==(const LogLine& left, const LogLine& right) {
-    return left.level == right.level && left.code == right.code && left.source == right.source && left.line == right.line &&
-           left.text == right.text;
+    return left.level == right.level && left.code == right.code && left.source == right.source &&
+           left.line == right.line && left.text == right.text;
 }
 
 std::ostream& operator<<(std::ostream& stream, const LogLine& line);
