@@ -103,8 +103,8 @@ class IX_XML_EXPORT XmlFields {
     /// the class's own table.
     static void Release(XMLElement* element, const XmlFieldTable& table);
 
-    /// True when `child` is the value of a child field, or the last entry of a child list. A class without a table is taken
-    /// to hold whatever it has accepted.
+    /// True when `child` is the value of a child field, or the last entry of a child list. A class without a table is
+    /// taken to hold whatever it has accepted.
     static bool HoldsChild(const XMLElement& element, const XMLElement* child);
 
     /// True when `pair` is the last entry of an attribute list, or the class has no table.
