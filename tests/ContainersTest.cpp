@@ -1,4 +1,3 @@
-#include <array>
 
 #include "XMLList.h"
 #include "XMLStack.h"
@@ -169,7 +168,7 @@ TEST_F(ContainersTest, NodesMoveToAnotherListInOrder) {
 }
 
 TEST_F(ContainersTest, TheStackHoldsAHundredItemsAndDropsTheNext) {
-    std::array<char, 101> items{};
+    char items[101] = {};
     XmlCodeGenStack stack;
     EXPECT_TRUE(stack.empty());
     EXPECT_EQ(stack.size(), -1);

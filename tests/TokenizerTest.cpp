@@ -367,13 +367,14 @@ TEST_F(TokenizerTest, OpenNamesComeBackLastFirst) {
     XmlDecoder decoder;
     EXPECT_EQ(NameOf(decoder.PopElement()), "(no node)");
     const std::string name(40, 'x');
-    for (int i = 0; i < 40; ++i) EXPECT_EQ(decoder.PushElement((name + std::to_string(i)).substr(i).c_str()), 1U);
+    for (std::size_t i = 0; i < 40; ++i)
+        EXPECT_EQ(decoder.PushElement((name + std::to_string(i)).substr(i).c_str()), 1U);
     EXPECT_EQ(decoder.PushElement(nullptr), 1U);
     ClearLog();
     EXPECT_EQ(decoder.Decode("</a>", 4), -1);  // No name to tell in the log.
     EXPECT_EQ(Log(), Lines{Count(4)});
     EXPECT_EQ(NameOf(decoder.PopElement()), "(null)");
-    for (int i = 39; i > 0; --i) EXPECT_EQ(NameOf(decoder.PopElement()), (name + std::to_string(i)).substr(i));
+    for (std::size_t i = 39; i > 0; --i) EXPECT_EQ(NameOf(decoder.PopElement()), (name + std::to_string(i)).substr(i));
     EXPECT_EQ(decoder.PushElement(""), 1U);
     EXPECT_EQ(NameOf(decoder.PopElement()), "");
     EXPECT_TRUE(decoder.HasOpenElements());

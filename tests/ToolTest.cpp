@@ -293,6 +293,9 @@ TEST_F(ToolTest, RootsWithoutASchema) {
         MessageFor("<pub-gruu xmlns='urn:x' uri='a'/>", "convert"),
         "1:1: root element <pub-gruu> is of namespace \"urn:x\", not of \"urn:ietf:params:xml:ns:gruuinfo\" as in "
         "schema gruu");
+    // A default namespace that was taken away counts as none.
+    Write("undeclared", "<pub-gruu xmlns='' uri='a'/>");
+    EXPECT_EQ(Run("decode undeclared").status, 0);
     EXPECT_EQ(MessageFor(kOtherPrefix, "decode"),
               "1:1: root element <x:communication-waiting> is not understood by schema communication-waiting: it does "
               "not know the prefix \"x\"; --binder gives it the document's own declarations");

@@ -22,9 +22,9 @@ Exit status, the highest of all files:
   4  the time limit of --timeout ran out
 
 Examples:
-  imsxml decode --format tree reginfo.xml
+  imsxml decode --format tree gruu.xml
   imsxml decode *.xml | jq .root.class
-  imsxml convert --binder simservs.xml
+  imsxml convert --binder waiting.xml
   imsxml namespaces presence.xml
 
 "imsxml COMMAND --help" tells more of a command.)help";

@@ -106,7 +106,8 @@ const XmlSchemaInfo& SchemaOfRoot(const Document& document) {
     const XmlSchemaInfo* const schema = FindByRoot(root.Local());
     if (schema == nullptr) RefuseRoot(root);
     const std::optional<std::string> uri = root.Namespace();
-    if (uri && *schema->namespaceUri != '\0' && *uri != schema->namespaceUri) {
+    // Some senders take the default namespace away (xmlns=""); that says as little as no declaration.
+    if (uri && !uri->empty() && *schema->namespaceUri != '\0' && *uri != schema->namespaceUri) {
         throw DocumentError{kNotDecoded,
                             "root element " + TagText(root.name) + " is of namespace \"" + *uri + "\", not of \"" +
                                 schema->namespaceUri + "\" as in schema " + schema->name,

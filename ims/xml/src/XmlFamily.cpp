@@ -121,6 +121,8 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
     const bool ready = m_info.names != XmlNamePolicy::Mapped || XMLRemoveNameSpaceTag(element) != 0;
     char* const name = ready ? ComparedName(element) : nullptr;
     if (name == nullptr) {
+        m_pPassName = nullptr;
+        m_pMappedTag = nullptr;
         ixLog(m_info.source, m_info.texts.noElementName);
         return -1;
     }
