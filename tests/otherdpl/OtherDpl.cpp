@@ -68,24 +68,6 @@ void* Take(std::size_t size) {
     return nullptr;
 }
 
-template <class Number>
-Number ParseNumber(const char* text) {
-    if (text == nullptr) return 0;
-    while (*text == ' ' || (*text >= '\t' && *text <= '\r')) ++text;
-    const bool negative = *text == '-';
-    if (*text == '-' || *text == '+') ++text;
-    // Counted downwards, where the least number has its place.
-    Number value = 0;
-    constexpr Number kLeast = std::numeric_limits<Number>::min();
-    for (; *text >= '0' && *text <= '9'; ++text) {
-        const auto digit = static_cast<Number>(*text - '0');
-        if (value < (kLeast + digit) / 10) return negative ? kLeast : std::numeric_limits<Number>::max();
-        value = static_cast<Number>(value * 10 - digit);
-    }
-    if (negative) return value;
-    return value == kLeast ? std::numeric_limits<Number>::max() : static_cast<Number>(-value);
-}
-
 }  // namespace
 
 namespace other_dpl {
@@ -151,96 +133,6 @@ void __free(void* pointer) {
     Header* const block = reinterpret_cast<Header*>(static_cast<unsigned char*>(pointer) - sizeof(Header));
     block->taken = false;
     --g_liveBlocks;
-}
-
-void* __memset(void* destination, int value, std::size_t size) {
-    return std::memset(destination, value, size);
-}
-
-void* __memmove(void* destination, const void* source, std::size_t size) {
-    return std::memmove(destination, source, size);
-}
-
-char* __strdup(const char* text) {
-    if (text == nullptr) return nullptr;
-    const std::size_t size = std::strlen(text) + 1;
-    void* const copy = Take(size);
-    return copy != nullptr ? static_cast<char*>(std::memcpy(copy, text, size)) : nullptr;
-}
-
-std::size_t __strlen(const char* text) {
-    return text != nullptr ? std::strlen(text) : 0;
-}
-
-int __strcmp(const char* left, const char* right) {
-    return std::strcmp(left, right);
-}
-
-int __strncmp(const char* left, const char* right, std::size_t count) {
-    return std::strncmp(left, right, count);
-}
-
-std::size_t __strlcpy(char* destination, const char* source, std::size_t size) {
-    const std::size_t length = std::strlen(source);
-    if (size == 0) return length;
-    const std::size_t copied = length < size ? length : size - 1;
-    std::memcpy(destination, source, copied);
-    destination[copied] = '\0';
-    return length;
-}
-
-std::size_t __strlcat(char* destination, const char* source, std::size_t size) {
-    std::size_t used = 0;
-    while (used < size && destination[used] != '\0') ++used;
-    return used + __strlcpy(destination + used, source, size - used);
-}
-
-char* __strlncpy(char* destination, std::size_t size, const char* source, std::size_t count) {
-    if (size == 0) return destination;
-    std::size_t copied = 0;
-    while (copied < count && copied < size - 1 && source[copied] != '\0') ++copied;
-    std::memcpy(destination, source, copied);
-    destination[copied] = '\0';
-    return destination;
-}
-
-char* __strchr(const char* text, int character) {
-    return const_cast<char*>(std::strchr(text, character));
-}
-
-char* __strstr(const char* text, const char* part) {
-    return const_cast<char*>(std::strstr(text, part));
-}
-
-std::size_t __strcspn(const char* text, const char* reject) {
-    return std::strcspn(text, reject);
-}
-
-int __atoi(const char* text) {
-    return ParseNumber<int>(text);
-}
-
-std::int64_t __atoi64(const char* text) {
-    return ParseNumber<std::int64_t>(text);
-}
-
-char* __itoaL(std::int64_t value, char* buffer, std::size_t size, int radix) {
-    if (buffer == nullptr || size == 0) return nullptr;
-    buffer[0] = '\0';
-    if (radix < 2 || radix > 36) return buffer;
-    char digits[65];
-    std::size_t count = 0;
-    auto rest = static_cast<std::uint64_t>(value);
-    if (value < 0) rest = 0 - rest;
-    do {
-        digits[count++] = "0123456789abcdefghijklmnopqrstuvwxyz"[rest % static_cast<unsigned>(radix)];
-        rest /= static_cast<unsigned>(radix);
-    } while (rest != 0);
-    if (value < 0) digits[count++] = '-';
-    if (count >= size) return buffer;
-    for (std::size_t i = 0; i < count; ++i) buffer[i] = digits[count - 1 - i];
-    buffer[count] = '\0';
-    return buffer;
 }
 
 int ixDplIODeviceOpen(ixDplIODevice* device, const char* /*name*/, int /*access*/, int /*option*/) {

@@ -11,6 +11,7 @@
 #include "Json.h"
 #include "Library.h"
 #include "Outline.h"
+#include "Scanner.h"
 #include "Schema.h"
 #include "XMLSchemaNameSpaceRetrieval.h"
 
@@ -47,9 +48,15 @@ OwnElement DecodeNamespaces(const Document& document, bool log) {
     return UnMarshall(*context, document, log);
 }
 
+const XmlSchemaInfo& FindSchema(const Document& document) {
+    Scanner scanner(document.text);
+    if (!scanner.FindRoot()) throw Diagnose(document);
+    return SchemaOfRoot(*scanner.Root());
+}
+
 Decoded Decode(const Document& document, const Options& options) {
     Decoded result;
-    result.schema = options.schema != nullptr ? options.schema : &SchemaOfRoot(document);
+    result.schema = options.schema != nullptr ? options.schema : &FindSchema(document);
     result.context = NewContext(*result.schema);
     if (options.binder && result.schema->takesBinder) {
         result.binder = DecodeNamespaces(document, options.log);

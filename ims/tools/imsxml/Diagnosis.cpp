@@ -109,14 +109,6 @@ DocumentError FaultOf(const Document& document, const Scanner& scanner) {
 
 }  // namespace
 
-std::string TagText(std::string_view name) {
-    constexpr std::size_t kMost = 80;
-    std::string text(name.substr(0, kMost));
-    std::replace_if(
-        text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
-    return '<' + text + (name.size() > kMost ? "...>" : ">");
-}
-
 DocumentError Diagnose(const Document& document) {
     Scanner scanner(document.text);
     if (scanner.FindEnd()) return {kNotDecoded, "the decoder could not go on; there may be no memory left"};

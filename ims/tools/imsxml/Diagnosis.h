@@ -3,14 +3,8 @@
 #ifndef IMSXML_TOOL_DIAGNOSIS_H
 #define IMSXML_TOOL_DIAGNOSIS_H
 
-#include <string>
-#include <string_view>
-
 #include "Document.h"
 #include "XMLFactory.h"
-
-/// A tag for a message that has one line: "<name>", cut when it is long, line feeds as blanks.
-std::string TagText(std::string_view name);
 
 /// @return what the tokenizer refuses in the document, and where.
 DocumentError Diagnose(const Document& document);

@@ -1,5 +1,7 @@
 #include "Scanner.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr char kSpaces[] = " \t\r\n";
@@ -11,6 +13,14 @@ std::string TrimEnd(std::string text) {
 }
 
 }  // namespace
+
+std::string TagText(std::string_view name) {
+    constexpr std::size_t kMost = 80;
+    std::string text(name.substr(0, kMost));
+    std::replace_if(
+        text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
+    return '<' + text + (name.size() > kMost ? "...>" : ">");
+}
 
 std::string_view RootElement::Prefix() const {
     const std::size_t colon = name.find(':');

@@ -13,6 +13,9 @@
 #include "Document.h"
 #include "XmlDecoder.h"
 
+/// A tag for a message that has one line: "<name>", cut when it is long, line feeds as blanks.
+std::string TagText(std::string_view name);
+
 struct OpenElement {
     std::string name;  ///< As written, prefix included.
     std::size_t offset;

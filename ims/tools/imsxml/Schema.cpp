@@ -4,9 +4,6 @@
 #include <cstring>
 #include <numeric>
 
-#include "Diagnosis.h"
-#include "Scanner.h"
-
 namespace {
 
 /// Single-byte insertions, deletions and replacements that make one word of the other.
@@ -31,6 +28,7 @@ std::string Nearest(std::string_view word, const std::vector<std::pair<std::stri
     constexpr std::size_t kLongestWord = 200;
     word = word.substr(0, kLongestWord);
     std::vector<std::pair<std::size_t, std::string>> found;
+    found.reserve(candidates.size());
     for (const auto& [name, text] : candidates) found.emplace_back(EditDistance(word, name), text);
     std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     constexpr std::size_t kMost = 3;
@@ -99,10 +97,7 @@ const XmlSchemaInfo& SchemaByName(const std::string& name) {
                         "no schema has the name \"" + name + "\"; the nearest: " + Nearest(name, candidates)};
 }
 
-const XmlSchemaInfo& SchemaOfRoot(const Document& document) {
-    Scanner scanner(document.text);
-    if (!scanner.FindRoot()) throw Diagnose(document);
-    const RootElement& root = *scanner.Root();
+const XmlSchemaInfo& SchemaOfRoot(const RootElement& root) {
     const XmlSchemaInfo* const schema = FindByRoot(root.Local());
     if (schema == nullptr) RefuseRoot(root);
     const std::optional<std::string> uri = root.Namespace();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Document.h"
+#include "Scanner.h"
 #include "XMLFactory.h"
 
 /// All schemas, in the order of their numbers.
@@ -19,7 +20,7 @@ std::vector<std::string_view> RootsOf(const XmlSchemaInfo& schema);
 /// Throws `DocumentError` (wrong usage) for a name that no schema of this build has.
 const XmlSchemaInfo& SchemaByName(const std::string& name);
 
-/// Throws `DocumentError` when the document has no root element, or one that no schema of this build has.
-const XmlSchemaInfo& SchemaOfRoot(const Document& document);
+/// Throws `DocumentError` for a root element that no schema of this build has.
+const XmlSchemaInfo& SchemaOfRoot(const RootElement& root);
 
 #endif
