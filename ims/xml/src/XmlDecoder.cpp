@@ -260,16 +260,9 @@ int XmlDecoder::Decode(const char* text, int length) {
 /// One tag, from its "<" at `begin` to its ">" at `end`, which is a NUL by now. The text before it starts at `scan`.
 int XmlDecoder::DecodeTag(char* scan, char* begin, char* end) {
     char* const content = begin + 1;
-    switch (*content) {
-        case '?':
-        case '!':
-            if (*content == '?' || std::strncmp(content, "!--", 3) == 0) return DecodeDeclaration(content, end);
-            break;
-        case '/':
-            return DecodeEndTag(scan, begin, end);
-        default:
-            break;
-    }
+    const bool isComment = *content == '!' && std::strncmp(content, "!--", 3) == 0;
+    if (*content == '?' || isComment) return DecodeDeclaration(content, end);
+    if (*content == '/') return DecodeEndTag(scan, begin, end);
     return end[-1] == '/' ? DecodeSelfClosingTag(content, end) : DecodeStartTag(content, end);
 }
 
