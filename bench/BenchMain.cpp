@@ -28,7 +28,8 @@ class RatioReporter : public benchmark::ConsoleReporter {
         for (const Run& run : runs) {
             std::string document;
             std::string library;
-            if (!run.error_occurred && SplitName(run.benchmark_name(), &document, &library)) {
+            const bool isMeasurement = !run.error_occurred && run.run_type == Run::RT_Iteration;
+            if (isMeasurement && SplitName(run.benchmark_name(), &document, &library)) {
                 // The fastest of several repetitions is the one that was disturbed least.
                 double& time = m_times[document][library];
                 if (time == 0 || run.GetAdjustedCPUTime() < time) time = run.GetAdjustedCPUTime();
