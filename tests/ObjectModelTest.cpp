@@ -139,8 +139,8 @@ TEST_F(ObjectModelTest, StringTableKeepsItsNumbersTextsAndPadding) {
 }
 
 TEST_F(ObjectModelTest, StringTableEqualsTheReferenceList) {
-    std::ifstream file(PROJECT_DIR "/../shared/string-table.tsv");
-    if (!file) GTEST_SKIP() << "no reference list here";
+    // Index and text are part of the interface, so a change of either has to be made twice.
+    std::ifstream file(PROJECT_DIR "/tests/strings.tsv");
     int rows = 0;
     for (std::string line; std::getline(file, line); ++rows) {
         const std::size_t tab = line.find('\t');
