@@ -130,6 +130,10 @@ TEST_F(WaitingTest, TheLastDeclarationOfANamespaceGivesThePrefix) {
     const std::string twice = "<a xmlns:x=\"" + std::string(kSimservs) + "\" xmlns=\"" + kSimservs + "\"/>";
     const OwnedElement binder(Binder(twice));
     ix_communication_waiting root;
+    ASSERT_EQ(root.addExtension(ixCreatePair("a", "b", "test", 1)), 1);
+    EXPECT_EQ(Write(IX_XML_SCHEMA_COMMUNICATION_WAITING, &root, binder.as<XMLObject>()),
+              "<communication-waiting  a=\"b\"  active=\"false\"/>");
+    root.setExtensionListValue(nullptr);
     EXPECT_EQ(Write(IX_XML_SCHEMA_COMMUNICATION_WAITING, &root, binder.as<XMLObject>()),
               "<communication-waiting  active=\"false\"/>");
 }
@@ -282,6 +286,7 @@ TEST_F(NamespacesTest, ListPassesToTheRootAndReplacesTheEarlierOne) {
     for (const char* const uri : {"urn:first", "urn:second"}) {
         IxSingleElementList* list = nullptr;
         ASSERT_EQ(ixAppend(list, ixCreatePair("p", uri, "test", 1), "test", 1), 1);
+        EXPECT_EQ(root.setNameSpaceInfo(list), 1);
         EXPECT_EQ(root.setNameSpaceInfo(list), 1);
         EXPECT_EQ(root.setNameSpaceInfo(nullptr), 1);
     }

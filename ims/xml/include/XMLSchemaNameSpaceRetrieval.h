@@ -29,6 +29,9 @@ class IX_XML_EXPORT ix_schema_namespace_retrieval : public XMLObject {
     /// nothing.
     /// @return 1.
     int setNameSpaceInfo(IxSingleElementList* list);
+    /// Appends a pair, which then belongs to the element. @return 1, or 0 without memory, when it stays with the
+    /// caller.
+    int addNameSpaceInfo(ix_AttributeValuePair* declaration);
     /// The list, which stays with the element; NULL when there are no declarations.
     IxSingleElementList* getNameSpaceInfo() const;
 

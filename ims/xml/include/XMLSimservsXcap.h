@@ -17,6 +17,9 @@ class IX_XML_EXPORT ix_ns_xcap_simservType : public XMLObject {
 
     /// @return 1.
     int setActiveValue(int active);
+    /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
+    /// @return 1.
+    int setExtensionListValue(IxSingleElementList* list);
     /// Appends a pair, which then belongs to the element. @return 1, or 0 without memory, when it stays with the
     /// caller.
     int addExtension(ix_AttributeValuePair* pair);

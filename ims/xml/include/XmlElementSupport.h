@@ -21,6 +21,10 @@ IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
 /// @return 1, or 0 without memory, the earlier text kept.
 IX_XML_EXPORT int ixSetText(char*& field, const char* text);
 
+/// Replaces an owned list of attribute pairs by `list`, which passes to the element; the earlier one is deleted. NULL
+/// clears the field. @return 1.
+IX_XML_EXPORT int ixSetAttributeList(IxSingleElementList*& field, IxSingleElementList* list);
+
 /// Appends `entry` to a list that is created on first use and registered under `source` and `line`.
 /// @return 1, or 0 without memory, when the entry stays with the caller.
 IX_XML_EXPORT int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line);

@@ -50,7 +50,7 @@ int ix_schema_namespace_retrieval::ProcessUnMarshallAttribute(char* attribute, c
     const char* const colon = __strchr(attribute, ':');
     ix_AttributeValuePair* const declaration =
         ixCreatePair(colon != nullptr ? colon + 1 : nullptr, value, kSourceFile, __LINE__);
-    if (declaration != nullptr && ixAppend(mNameSpaceInfo, declaration, kSourceFile, __LINE__) != 0) return 1;
+    if (declaration != nullptr && addNameSpaceInfo(declaration) != 0) return 1;
     IX_DELETE(declaration);
     ixLog(kSourceFile, kNoPair);
     return 0;
@@ -58,10 +58,11 @@ int ix_schema_namespace_retrieval::ProcessUnMarshallAttribute(char* attribute, c
 
 int ix_schema_namespace_retrieval::setNameSpaceInfo(IxSingleElementList* list) {
     ixLog(kSourceFile, kSetInfo);
-    if (list == nullptr || list == mNameSpaceInfo) return 1;
-    ix_xml_common_methods::DeleteAttributeList(mNameSpaceInfo);
-    mNameSpaceInfo = list;
-    return 1;
+    return list != nullptr ? ixSetAttributeList(mNameSpaceInfo, list) : 1;
+}
+
+int ix_schema_namespace_retrieval::addNameSpaceInfo(ix_AttributeValuePair* declaration) {
+    return ixAppend(mNameSpaceInfo, declaration, kSourceFile, __LINE__);
 }
 
 IxSingleElementList* ix_schema_namespace_retrieval::getNameSpaceInfo() const {

@@ -26,6 +26,10 @@ int ix_ns_xcap_simservType::setActiveValue(int active) {
     return 1;
 }
 
+int ix_ns_xcap_simservType::setExtensionListValue(IxSingleElementList* list) {
+    return ixSetAttributeList(mExtensionList, list);
+}
+
 int ix_ns_xcap_simservType::addExtension(ix_AttributeValuePair* pair) {
     return ixAppend(mExtensionList, pair, SourceFile(), ExtensionListLine());
 }

@@ -31,6 +31,12 @@ int ixSetText(char*& field, const char* text) {
     return 1;
 }
 
+int ixSetAttributeList(IxSingleElementList*& field, IxSingleElementList* list) {
+    if (field != list) ix_xml_common_methods::DeleteAttributeList(field);
+    field = list;
+    return 1;
+}
+
 int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line) {
     if (list == nullptr) list = IX_TRACKED_NEW(kSchemaModule, source, line, IxSingleElementList, ());
     return list != nullptr && list->Add(entry) != 0 ? 1 : 0;
