@@ -1,4 +1,5 @@
 // What every family has to stand, written once. A family joins by a row of `kFamilies`.
+#include <algorithm>
 #include <map>
 #include <ostream>
 #include <set>
@@ -105,6 +106,39 @@ TEST_P(AllFamiliesTest, StandsEveryAllocationFailing) {
             ixDplHostReleaseHeap();
         }
         EXPECT_GT(failing, 10U);
+    }
+}
+
+// With memory short, a tree is written as always or not at all; never with another prefix, or without an attribute.
+// Only an escaped value may be left out.
+TEST_P(AllFamiliesTest, WritesTheWholeTextOrNone) {
+    for (const std::string& sample : Samples()) {
+        SCOPED_TRACE(sample);
+        const std::string text = ReadFile(sample);
+        const std::string whole = Work(GetParam().id, text.c_str()).written;
+        if (whole.empty() || whole.find("&quot;") != std::string::npos) continue;
+        const OwnedContext namespaces(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL);
+        const OwnedElement binder(namespaces->createUnMarshaller()->UnMarshall(text.c_str()));
+        const OwnedContext reading(GetParam().id);
+        reading->SetNamespaceBinder(binder.as<XMLObject>());
+        const OwnedElement root(reading->createUnMarshaller()->UnMarshall(text.c_str()));
+        bool reached = true;
+        for (unsigned long failing = 1; reached; ++failing) {
+            const OwnedContext writing(GetParam().id);
+            writing->SetNamespaceBinder(binder.as<XMLObject>());
+            ixDplHostFailAllocation(failing);
+            XMLMarshaller* const writer = writing->createMarshaller();
+            // A namespace table that was cut short is logged, and used as far as it goes.
+            const std::vector<std::string> log = Texts();
+            const bool hasAllNamespaces = std::none_of(log.begin(), log.end(), [](const std::string& line) {
+                return line.find("Malloc cannot allocate memory") != std::string::npos;
+            });
+            const char* const written = writer != nullptr ? writer->Marshall(root.get()) : nullptr;
+            reached = ixDplHostAllocations() >= failing;
+            ixDplHostStopCounting();
+            EXPECT_TRUE(!hasAllNamespaces || (written == nullptr ? reached : written == whole)) << failing;
+            ClearLog();
+        }
     }
 }
 

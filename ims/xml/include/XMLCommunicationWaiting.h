@@ -44,7 +44,7 @@ class IX_XML_EXPORT Communication_waitingMarshaller : public XmlFamilyMarshaller
   public:
     Communication_waitingMarshaller();
 
-    /// @return 1.
+    /// @return 1, or 0 without memory for the prefix.
     int AddCommunication_waitingElementToXml(ix_communication_waiting* element);
 
   protected:

@@ -227,8 +227,9 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     int Reserved() override { return 0; }
     int IsTruncated() const override { return m_bTruncated ? 1 : 0; }
 
-    /// Takes over the prefixes of a binder, as `XmlFamilyDecoder::SetNameSpaceBinderInfo` does.
-    void SetNameSpaceBinderInfo(XMLObject* binder);
+    /// Takes over the prefixes of a binder, as `XmlFamilyDecoder::SetNameSpaceBinderInfo` does. @return 1, or 0 without
+    /// memory, when the marshaller would write other prefixes than the binder's.
+    int SetNameSpaceBinderInfo(XMLObject* binder);
 
   protected:
     /// How an attribute ends.
@@ -259,6 +260,12 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     /// Calls `add` for each entry in order until one answers 0. @return 1, or 0.
     int AddChildList(const IxSingleElementList* list, int (*add)(XmlFamilyMarshaller& self, XMLElement* child));
     /// @}
+
+    /// Makes the document prefix of a canonical prefix, if it has one, that of the elements that follow.
+    /// @return 1, or 0 without memory: the element must not be written then, for its name would be another.
+    int SetElementPrefix(e_XmlStrRef canonicalPrefix);
+    /// The elements that follow have no prefix.
+    void ClearElementPrefix() { m_generator.ixSetXmlNamespace(nullptr); }
 
     /// A copy of the document prefix of a canonical prefix, to be freed (`FreeElement`); NULL when there is none.
     char* AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const;

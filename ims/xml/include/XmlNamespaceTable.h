@@ -33,8 +33,8 @@ class IX_XML_EXPORT XmlNamespaceTable {
     std::size_t Build(const XmlNamespaceRow* rows, std::size_t count);
 
     /// For every pair of `list` (prefix, URI) in order: the first entry with that URI takes the prefix, NULL included.
-    /// Unknown URIs are passed over.
-    void Bind(const IxSingleElementList* list);
+    /// Unknown URIs are passed over. @return false when a prefix could not be copied; its entry keeps the earlier one.
+    bool Bind(const IxSingleElementList* list);
 
     /// The entry that the document calls by the `length` characters at `prefix`, or NULL.
     const Entry* FindDocumentPrefix(const char* prefix, std::size_t length) const;
@@ -44,7 +44,7 @@ class IX_XML_EXPORT XmlNamespaceTable {
 
   private:
     static Entry* CreateEntry(const XmlNamespaceRow& row);
-    static void SetDocumentPrefix(Entry& entry, const char* prefix);
+    static bool SetDocumentPrefix(Entry& entry, const char* prefix);
 
     Entry* m_pFirst = nullptr;
 };

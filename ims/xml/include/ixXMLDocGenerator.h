@@ -36,8 +36,11 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
     /// Writes the XML declaration into an empty buffer, once. NULL: version "1.0", encoding "ISO-8859-15".
     void ixAddHeader(const char* version, const char* encoding);
     void ixAddComment(const char* text);
-    /// Sets the prefix of the element names that follow (copied); NULL: none.
+    /// Sets the prefix of the element names that follow (copied); NULL: none. Without memory for the copy there is
+    /// none, either; see `HasXmlNamespace`.
     void ixSetXmlNamespace(const char* prefix);
+    /// True while a prefix is set.
+    bool HasXmlNamespace() const { return m_pDefaultPrefix != nullptr; }
 
     /// Line feed and start tag. `open` 1: the tag stays open for attributes, behind a blank.
     void ixStartElement(const char* name, int open);

@@ -80,15 +80,13 @@ int Communication_waitingMarshaller::AddRootElementToXml(XMLElement* root) {
 
 int Communication_waitingMarshaller::AddCommunication_waitingElementToXml(ix_communication_waiting* element) {
     ixLog(kSourceFile, kAddElement);
-    char* const prefix = AddNameSpaceChange(IX_STR_SS);
-    m_generator.ixSetXmlNamespace(prefix);
+    if (SetElementPrefix(IX_STR_SS) == 0) return 0;
     StartElementOpen(IX_STR_COMMUNICATION_WAITING);
-    m_generator.ixSetXmlNamespace(nullptr);
+    ClearElementPrefix();
     AddAttributeList(element->mExtensionList);
     AddAttribute(IX_STR_ACTIVE,
                  ix_xml_common_array_definition::getStringName(element->mActive != 0 ? IX_STR_TRUE : IX_STR_FALSE),
                  Attribute::SelfClosing);
-    FreeElement(prefix);
     return 1;
 }
 

@@ -280,8 +280,7 @@ XMLElement* XmlFamilyUnMarshaller::Decode(const char* text, int tokenizerLine, i
         const std::size_t length = __strlen(text);
         const int result = length > INT_MAX ? IX_XML_ERROR : tokenizer->Decode(text, static_cast<int>(length));
         ixLog(info.source, result == IX_XML_SUCCESS ? info.decoded : info.notDecoded);
-        // Required: the tree of a document that could not be decoded to its end is left to nobody. It is not freed
-        // here.
+        // Required: the tree of a document that could not be decoded to its end is left to nobody, and not freed here.
         if (result == IX_XML_SUCCESS) root = decoder->GetSessionData();
     }
     IX_DELETE(decoder);
@@ -298,8 +297,8 @@ XmlFamilyMarshaller::~XmlFamilyMarshaller() {
     __free(m_pXml);
 }
 
-void XmlFamilyMarshaller::SetNameSpaceBinderInfo(XMLObject* binder) {
-    m_namespaces.Bind(NamespacesOf(binder));
+int XmlFamilyMarshaller::SetNameSpaceBinderInfo(XMLObject* binder) {
+    return m_namespaces.Bind(NamespacesOf(binder)) ? 1 : 0;
 }
 
 char* XmlFamilyMarshaller::Marshall(XMLElement* root) {
@@ -401,6 +400,16 @@ char* XmlFamilyMarshaller::AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const
     return entry != nullptr && entry->documentPrefix != nullptr ? __strdup(entry->documentPrefix) : nullptr;
 }
 
+int XmlFamilyMarshaller::SetElementPrefix(e_XmlStrRef canonicalPrefix) {
+    const XmlNamespaceTable::Entry* const entry =
+        m_namespaces.FindCanonicalPrefix(ix_xml_common_array_definition::getStringName(canonicalPrefix));
+    char* const prefix = AddNameSpaceChange(canonicalPrefix);
+    m_generator.ixSetXmlNamespace(prefix);
+    FreeElement(prefix);
+    const bool expected = entry != nullptr && entry->documentPrefix != nullptr;
+    return !expected || m_generator.HasXmlNamespace() ? 1 : 0;
+}
+
 XMLMarshaller* XmlFamilyContext::createMarshaller() {
     m_pMarshaller = NewMarshaller();
     return m_pMarshaller;
@@ -417,8 +426,12 @@ XMLObjectFactory* XmlFamilyContext::createBinderFactory() {
 }
 
 XMLMarshaller* XmlBinderContext::createMarshaller() {
-    XmlFamilyMarshaller* const marshaller = NewMarshaller();
-    if (marshaller != nullptr && m_pNamespaceBinder != nullptr) marshaller->SetNameSpaceBinderInfo(m_pNamespaceBinder);
+    XmlFamilyMarshaller* marshaller = NewMarshaller();
+    if (marshaller != nullptr && m_pNamespaceBinder != nullptr &&
+        marshaller->SetNameSpaceBinderInfo(m_pNamespaceBinder) == 0) {
+        IX_DELETE(marshaller);
+        marshaller = nullptr;
+    }
     m_pMarshaller = marshaller;
     return marshaller;
 }

@@ -43,23 +43,26 @@ XmlNamespaceTable::Entry* XmlNamespaceTable::CreateEntry(const XmlNamespaceRow& 
     return entry;
 }
 
-void XmlNamespaceTable::Bind(const IxSingleElementList* list) {
-    if (list == nullptr || list->LastNode() == nullptr) return;
+bool XmlNamespaceTable::Bind(const IxSingleElementList* list) {
+    if (list == nullptr || list->LastNode() == nullptr) return true;
+    bool bound = true;
     for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
         const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
         if (pair == nullptr || pair->mValue == nullptr) continue;
         Entry* entry = m_pFirst;
         while (entry != nullptr && std::strcmp(entry->uri, pair->mValue) != 0) entry = entry->next;
-        if (entry != nullptr) SetDocumentPrefix(*entry, pair->mName);
+        if (entry != nullptr && !SetDocumentPrefix(*entry, pair->mName)) bound = false;
     }
+    return bound;
 }
 
-void XmlNamespaceTable::SetDocumentPrefix(Entry& entry, const char* prefix) {
+bool XmlNamespaceTable::SetDocumentPrefix(Entry& entry, const char* prefix) {
     char* const copy = prefix != nullptr ? __strdup(prefix) : nullptr;
-    if (prefix != nullptr && copy == nullptr) return;
+    if (prefix != nullptr && copy == nullptr) return false;
     __free(entry.ownPrefix);
     entry.ownPrefix = copy;
     entry.documentPrefix = copy;
+    return true;
 }
 
 const XmlNamespaceTable::Entry* XmlNamespaceTable::FindDocumentPrefix(const char* prefix, std::size_t length) const {
