@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "CommunicationWaiting.h"
+#include "FamilyTest.h"
 #include "Gruu.h"
 #include "XMLCommunicationWaiting.h"
 #include "XMLFile.h"
@@ -9,100 +10,12 @@
 #include "XMLSchemaNameSpaceRetrieval.h"
 #include "XmlElementSupport.h"
 #include "XmlFields.h"
-#include "XmlTest.h"
 
 namespace {
 
 constexpr char kSimservs[] = "http://uri.etsi.org/ngn/params/xml/simservs/xcap";
 
-std::string Sample(const std::string& name) {
-    return ReadFile(PROJECT_DIR "/samples/" + name);
-}
-
-/// "prefix=uri" for each pair, "-" for no prefix.
-std::vector<std::string> Pairs(const IxSingleElementList* list) {
-    std::vector<std::string> texts;
-    for (const IxSingleElementNode* node = list != nullptr ? list->GetPtrToListHead() : nullptr; node != nullptr;
-         node = node->next) {
-        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
-        texts.push_back(std::string(pair->mName != nullptr ? pair->mName : "-") + "=" + pair->mValue);
-    }
-    return texts;
-}
-
-using Strings = std::vector<std::string>;
-
-class FamilyTest : public XmlTest {
-  protected:
-    /// Decodes with a fresh context, and with a namespace binder when there is one.
-    XMLElement* Decode(eXMLSchemaID id, const std::string& text, XMLObject* binder = nullptr) {
-        const OwnedContext context(id);
-        context->SetNamespaceBinder(binder);
-        return context->createUnMarshaller()->UnMarshall(text.c_str());
-    }
-
-    std::string Write(eXMLSchemaID id, XMLElement* root, XMLObject* binder = nullptr) {
-        const OwnedContext context(id);
-        context->SetNamespaceBinder(binder);
-        const char* const text = context->createMarshaller()->Marshall(root);
-        return text != nullptr ? text : "(null)";
-    }
-
-    XMLObject* Binder(const std::string& text) {
-        return static_cast<XMLObject*>(Decode(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL, text));
-    }
-};
-
 class WaitingTest : public FamilyTest {};
-
-TEST_F(WaitingTest, ReadsAndWritesBackEverySample) {
-    const struct {
-        const char* sample;
-        bool binder;
-        int active;
-        Strings attributes;
-        std::string written;
-    } cases[] = {
-        {"typical",
-         false,
-         1,
-         {"xmlns:ss=" + std::string(kSimservs)},
-         "<communication-waiting  xmlns:ss=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\"  active=\"true\"/>"},
-        {"typical",
-         true,
-         1,
-         {"xmlns:ss=" + std::string(kSimservs)},
-         "<ss:communication-waiting  xmlns:ss=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\"  active=\"true\"/>"},
-        {"rich",
-         true,
-         0,
-         {"xmlns:mmtel=" + std::string(kSimservs), "xmlns:cp=urn:ietf:params:xml:ns:common-policy",
-          "xmlns:xsi=http://www.w3.org/2001/XMLSchema-instance"},
-         "<mmtel:communication-waiting  xmlns:mmtel=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\" "
-         " xmlns:cp=\"urn:ietf:params:xml:ns:common-policy\"  xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
-         " active=\"false\"/>"},
-        // The attribute of the unknown child lands on the root; the child itself is lost.
-        {"odd",
-         false,
-         1,
-         {"vendor=say \"ring\" &amp; wait", "lang=en"},
-         "<communication-waiting  vendor=\"say &quot;ring&quot; &amp; wait\"  lang=\"en\"  active=\"true\"/>"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.sample) + (c.binder ? " with binder" : ""));
-        const std::string text = Sample(std::string("communication-waiting/") + c.sample + ".xml");
-        const OwnedElement binder(c.binder ? Binder(text) : nullptr);
-        const OwnedElement root(Decode(IX_XML_SCHEMA_COMMUNICATION_WAITING, text, binder.as<XMLObject>()));
-        ASSERT_NE(root.get(), nullptr);
-        EXPECT_EQ(root.as<ix_communication_waiting>()->mActive, c.active);
-        EXPECT_EQ(Pairs(root.as<ix_communication_waiting>()->mExtensionList), c.attributes);
-        const std::string written = Write(IX_XML_SCHEMA_COMMUNICATION_WAITING, root.get(), binder.as<XMLObject>());
-        EXPECT_EQ(written, c.written);
-        const OwnedElement again(Decode(IX_XML_SCHEMA_COMMUNICATION_WAITING, written, binder.as<XMLObject>()));
-        // Only quotes are escaped, so an entity that is meant literally does not survive.
-        EXPECT_EQ(XmlFields::Equal(root.get(), again.get()), std::strcmp(c.sample, "odd") != 0);
-    }
-}
 
 TEST_F(WaitingTest, TakesExactlyTrueForActive) {
     for (const char* const value : {"TRUE", "1", "yes", " true", "truely", ""}) {
@@ -114,7 +27,7 @@ TEST_F(WaitingTest, TakesExactlyTrueForActive) {
 }
 
 TEST_F(WaitingTest, AnUnknownPrefixNeedsABinder) {
-    const std::string text = Sample("communication-waiting/rich.xml");
+    const std::string text = Sample("communication-waiting/rich");
     EXPECT_EQ(Decode(IX_XML_SCHEMA_COMMUNICATION_WAITING, text), nullptr);
     // A binder for other namespaces does not help.
     const OwnedElement other(Binder("<a xmlns:mmtel=\"urn:other\"/>"));
@@ -184,7 +97,7 @@ TEST_F(WaitingTest, ObjectsAreRegisteredUnderTheirLines) {
 TEST_F(WaitingTest, DecodesWithFewAllocations) {
     const OwnedContext context(IX_XML_SCHEMA_COMMUNICATION_WAITING);
     XMLUnMarshaller* const unMarshaller = context->createUnMarshaller();
-    const std::string text = Sample("communication-waiting/typical.xml");
+    const std::string text = Sample("communication-waiting/typical");
     ixDplHostFailAllocation(0);
     const OwnedElement root(unMarshaller->UnMarshall(text.c_str()));
     EXPECT_LE(ixDplHostAllocations(), 25U);
@@ -251,27 +164,6 @@ TEST_F(WaitingTest, ReadsFromAFile) {
 
 class NamespacesTest : public FamilyTest {};
 
-TEST_F(NamespacesTest, CollectsTheDeclarationsOfEverySample) {
-    const struct {
-        const char* sample;
-        Strings pairs;
-    } cases[] = {
-        {"typical",
-         {"-=" + std::string(kSimservs), "ss=" + std::string(kSimservs), "cp=urn:ietf:params:xml:ns:common-policy"}},
-        {"rich",
-         {"-=urn:ietf:params:xml:ns:pidf", "pdm=urn:ietf:params:xml:ns:pidf:data-model",
-          "op=urn:oma:xml:prs:pidf:oma-pres", "op=urn:oma:xml:prs:pidf:oma-pres"}},
-        {"odd", {"-=urn:dropped", "-=urn:x", "=urn:empty", "b:c=urn:two&colons", "-="}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.sample);
-        const OwnedElement root(
-            Decode(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL, Sample(std::string("namespaces/") + c.sample + ".xml")));
-        ASSERT_NE(root.get(), nullptr);
-        EXPECT_EQ(Pairs(root.as<ix_schema_namespace_retrieval>()->getNameSpaceInfo()), c.pairs);
-    }
-}
-
 TEST_F(NamespacesTest, ADocumentWithoutDeclarationsHasARootWithoutList) {
     const OwnedElement root(Decode(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL, "<a b=\"c\"/>"));
     ASSERT_NE(root.get(), nullptr);
@@ -302,40 +194,6 @@ TEST_F(NamespacesTest, ListPassesToTheRootAndReplacesTheEarlierOne) {
 }
 
 class GruuTest : public FamilyTest {};
-
-TEST_F(GruuTest, ReadsAndWritesBackEverySample) {
-    const struct {
-        const char* sample;
-        const char* className;
-        const char* uri;
-        std::int64_t firstCseq;
-        const char* written;
-    } cases[] = {
-        {"typical", "ix_pub_gruu", "sip:bob@ims.example.net;gr=urn:gsma:imei:90420156-025763-0", 0,
-         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<pub-gruu  uri=\"sip:bob@ims.example.net;gr=urn:gsma:imei:90420156-025763-0\"/>"},
-        // The number is kept in 64 bits and written in 32.
-        {"rich", "ix_temp_gruu", "sip:tgruu.9ak<2&x==@ims.example.net;gr", 4294967297,
-         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<temp-gruu  first-cseq=\"1\"  uri=\"sip:tgruu.9ak<2&x==@ims.example.net;gr\"/>"},
-        {"odd", "ix_temp_gruu", "sip:\"t\"@ims.example.net;gr", 17,
-         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<temp-gruu  first-cseq=\"17\"  uri=\"sip:&quot;t&quot;@ims.example.net;gr\"/>"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.sample);
-        const OwnedElement root(Decode(IX_XML_SCHEMA_GRUU, Sample(std::string("gruu/") + c.sample + ".xml")));
-        ASSERT_NE(root.get(), nullptr);
-        EXPECT_STREQ(root.get()->ClassName(), c.className);
-        const bool temporary = std::strcmp(c.className, "ix_temp_gruu") == 0;
-        EXPECT_STREQ(temporary ? root.as<ix_temp_gruu>()->mUri : root.as<ix_pub_gruu>()->mUri, c.uri);
-        EXPECT_EQ(temporary ? root.as<ix_temp_gruu>()->mFirstCseq : 0, c.firstCseq);
-        const std::string written = Write(IX_XML_SCHEMA_GRUU, root.get());
-        EXPECT_EQ(written, c.written);
-        const OwnedElement again(Decode(IX_XML_SCHEMA_GRUU, written));
-        EXPECT_EQ(XmlFields::Equal(root.get(), again.get()), c.firstCseq <= UINT32_MAX);
-    }
-}
 
 TEST_F(GruuTest, RefusedAttributesAreLoggedTwice) {
     ClearLog();

@@ -46,9 +46,6 @@ class IX_XML_EXPORT Communication_waitingMarshaller : public XmlFamilyMarshaller
 
     /// @return 1, or 0 without memory for the prefix.
     int AddCommunication_waitingElementToXml(ix_communication_waiting* element);
-
-  protected:
-    int AddRootElementToXml(XMLElement* root) override;
 };
 
 class IX_XML_EXPORT CommunicationWaitingContext : public XmlBinderContext {

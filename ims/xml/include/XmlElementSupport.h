@@ -3,13 +3,21 @@
 #ifndef IX_XML_ELEMENT_SUPPORT_H
 #define IX_XML_ELEMENT_SUPPORT_H
 
+#include <cstring>
+
 #include "XMLCommonDef.h"
 
 /// True when `name` is exactly the fixed string `entry`.
-IX_XML_EXPORT bool ixNameIs(const char* name, e_XmlStrRef entry);
+inline bool ixNameIs(const char* name, e_XmlStrRef entry) {
+    if (name == nullptr) return false;
+    const char* const expected = ix_xml_common_array_definition::arrXmlStrRef[entry];
+    return *name == *expected && std::strcmp(name, expected) == 0;
+}
 
 /// True when `name` is the end tag of the element `entry`: "/" and the fixed string.
-IX_XML_EXPORT bool ixEndNameIs(const char* name, e_XmlStrRef entry);
+inline bool ixEndNameIs(const char* name, e_XmlStrRef entry) {
+    return name != nullptr && *name == '/' && ixNameIs(name + 1, entry);
+}
 
 /// True when `element` is an object of the class `className`. NULL is of no class.
 IX_XML_EXPORT bool ixIsClass(const XMLElement* element, const char* className);
@@ -20,6 +28,26 @@ IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
 /// Replaces an owned text by a copy of `text`; NULL clears it.
 /// @return 1, or 0 without memory, the earlier text kept.
 IX_XML_EXPORT int ixSetText(char*& field, const char* text);
+
+/// Replaces an owned child by `child`, which passes to the element; the earlier one is deleted. NULL clears the field.
+/// @return 1.
+template <class Element>
+int ixSetChild(Element*& field, Element* child) {
+    if (field != child) IX_DELETE(field);
+    field = child;
+    return 1;
+}
+
+/// Takes over `child` as `ixSetChild` does, when it is an object of the class `className`, whose type the field has.
+/// @return 1, or 0 for NULL and any other class.
+template <class Element>
+int ixTakeChild(Element*& field, XMLElement* child, const char* className) {
+    return ixIsClass(child, className) ? ixSetChild(field, static_cast<Element*>(child)) : 0;
+}
+
+/// Replaces an owned list of owned elements by `list`, which passes to the element; the earlier one is deleted. NULL
+/// clears the field. @return 1.
+IX_XML_EXPORT int ixSetElementList(IxSingleElementList*& field, IxSingleElementList* list);
 
 /// Replaces an owned list of attribute pairs by `list`, which passes to the element; the earlier one is deleted. NULL
 /// clears the field. @return 1.

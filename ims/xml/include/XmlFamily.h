@@ -43,19 +43,35 @@ struct XmlContainerRow {
     enum Role {
         Root,   ///< Becomes the result and goes on the stack.
         Child,  ///< Offered to the object on top; goes on the stack when that takes it.
+        Text,   ///< A child whose end tag offers it its text, under "/" and the local name, before anything is popped.
         Leaf    ///< Offered to the object on top; never on the stack.
     };
 
     XmlKnownName name;
     Role role;
     const char* className;  ///< The end tag pops an object of this class only; NULL: whatever is on top.
-    XMLElement* (*create)(const char* name);  ///< NULL result: no memory.
+    XMLElement* (*create)(const char* name);  ///< `name` as compared. NULL result: no memory.
+    const char* parentClass = nullptr;  ///< The row counts only while an object of this class is on top; NULL: always.
 };
 
-/// An attribute that a decoder gives to the object on top without making a pair of it.
+/// The creator of a row: a new `type`, registered with the line of the row.
+#define IX_CREATOR(type) [](const char*) -> XMLElement* { return IX_NEW(type); }
+
+/// An attribute that a decoder gives to an object without making a pair of it.
 struct XmlAttributeRow {
     XmlKnownName element;
     e_XmlStrRef attribute;
+    bool ignored = false;  ///< It is not given to anybody.
+};
+
+/// Who gets the attributes of an element.
+enum class XmlAttributePolicy {
+    Top,         ///< The object on top of the stack, whatever element it stands for.
+    Own,         ///< The object of the element itself, if it has one on the stack.
+    OwnNoPairs,  ///< ... and only the known attributes.
+    RootPairs,   ///< ... and unknown ones only when the element is a root.
+    TopTwice,    ///< The object on top; known attributes twice, the second time as a pair.
+    AsElements   ///< The object on top, through `ProcessUnMarshall`, known or not.
 };
 
 /// The log lines of a decoder; those left out are not logged.
@@ -80,6 +96,9 @@ struct XmlDecoderTexts {
 struct XmlDecoderInfo {
     const char* source = nullptr;
     XmlNamePolicy names = XmlNamePolicy::Raw;
+    bool handsOnLocalNames = false;  ///< Elements without an object are handed on without prefix, mapped or not.
+    bool takesFragments = false;     ///< Any container may be the outermost element and is the result then.
+    XmlAttributePolicy attributePolicy = XmlAttributePolicy::Own;
     XmlDecoderTexts texts{};
     const XmlContainerRow* containers = nullptr;
     std::size_t containerCount = 0;
@@ -93,7 +112,8 @@ struct XmlDecoderInfo {
 /// Base of the decoders: turns the tokenizer's events into objects.
 ///
 /// Start tags of known elements create an object; end tags take it off the stack again. Any other element goes to the
-/// object on top of the stack, and so does every attribute: one that the decoder knows as it is, any other as a pair.
+/// object on top of the stack. Attributes go where `XmlAttributePolicy` says: one that the decoder knows as it is, any
+/// other as a pair.
 ///
 /// Of the objects that no tree owns (an accepted child that its parent did not keep, a root inside a root) the decoder
 /// frees those that it replaced or that nobody took, when it ends; the result itself is never its own.
@@ -129,8 +149,8 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     virtual int EndElement(char* name, char* text);
     /// An element that is none of the containers: goes to the object on top of the stack.
     virtual int OtherElement(char* name, char* text);
-    /// An attribute that is not known: goes to the object on top of the stack as a pair.
-    virtual int OtherAttribute(char* attribute, char* value);
+    /// An attribute that is not known: goes to `receiver` as a pair.
+    virtual int OtherAttribute(XMLElement& receiver, char* attribute, char* value);
 
     /// The object on top of the stack, or NULL.
     XMLElement* Top() const { return m_stack.empty() ? nullptr : static_cast<XMLElement*>(m_stack.top()); }
@@ -140,13 +160,15 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
 
   private:
     const XmlContainerRow* FindContainer(const char* name) const;
-    bool IsKnownAttribute(const char* element, const char* attribute) const;
+    const XmlAttributeRow* FindAttribute(const char* element, const char* attribute) const;
     char* ComparedName(char* element);
-    void OfferToTop(const XmlContainerRow& row, XMLElement* object);
+    bool OfferToTop(const XmlContainerRow& row, XMLElement* object);
     bool KeepOrphan(XMLElement* object);
 
     XmlCodeGenStack m_stack;
     XMLElement* m_pSessionData = nullptr;
+    XMLElement* m_pOwn = nullptr;  ///< The object that the last start tag put on the stack, if it did.
+    bool m_bOwnIsRoot = false;
     XmlNamespaceTable m_namespaces;
     char* m_pMappedTag = nullptr;
     char* m_pPassName = nullptr;
@@ -172,6 +194,7 @@ struct XmlUnMarshallerInfo {
     int fileTokenizerLine = 0;  ///< ... and for a file.
     int fileDecoderLine = 0;
     XmlLogText textEntered{};  ///< With the document's text.
+    XmlLogText textCopied{};   ///< With the document's text, once it was duplicated.
     XmlLogText fileEntered{};  ///< With the document's text, once it was read.
     XmlLogText noCopy{};       ///< The text could not be duplicated.
     XmlLogText decoded{};
@@ -200,12 +223,33 @@ class IX_XML_EXPORT XmlFamilyUnMarshaller : public XMLUnMarshaller {
 /// @name Marshaller
 /// @{
 
+class XmlFamilyMarshaller;
+
+/// Writes an element, which is of the class that the caller expects. @return 1, or 0.
+using XmlWriter = int (*)(XmlFamilyMarshaller& self, XMLElement* element);
+
+/// The writer that is the operation `operation` of the marshaller class `marshaller`, for elements of the class `type`.
+#define IX_WRITER(marshaller, operation, type)                                        \
+    [](XmlFamilyMarshaller& self, XMLElement* element) -> int {                       \
+        return static_cast<marshaller&>(self).operation(static_cast<type*>(element)); \
+    }
+
+/// An element that `Marshall` accepts.
+struct XmlWriterRow {
+    const char* className;
+    XmlWriter write;
+    XmlLogText failed{};  ///< Logged in place of `XmlMarshallerInfo::failed`.
+};
+
 /// What is particular to the marshaller of a schema. Log lines left out are not logged.
 struct XmlMarshallerInfo {
     const char* source = nullptr;
     bool writesDeclaration =
-        false;                 ///< Version "1.0", encoding "UTF-8". Without one, the text starts at the root element.
-    bool entersFirst = false;  ///< `entered` is logged before the root is looked at.
+        false;                  ///< Version "1.0", encoding "UTF-8". Without one, the text starts at the root element.
+    bool entersFirst = false;   ///< `entered` is logged before the root is looked at.
+    bool deletesFirst = false;  ///< `deleting` is logged before `entered`.
+    const XmlWriterRow* writers = nullptr;
+    std::size_t writerCount = 0;
     const XmlNamespaceRow* namespaces = nullptr;
     std::size_t namespaceCount = 0;
     XmlLogText noFirstNamespace{};  ///< No memory for the first row of the namespace table ...
@@ -241,8 +285,8 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
 
     explicit XmlFamilyMarshaller(const XmlMarshallerInfo& info);
 
-    /// Writes the document. @return 1, or 0.
-    virtual int AddRootElementToXml(XMLElement* root) = 0;
+    /// Writes the document: with the writer of the root's class, and not at all when there is none. @return 1, or 0.
+    virtual int AddRootElementToXml(XMLElement* root);
 
     /// @name Writers, through the generator. Names are entries of the string table.
     /// @{
@@ -252,13 +296,21 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     void EndElement(e_XmlStrRef name);
     /// An element with a text; nothing for NULL.
     void AddTextElement(e_XmlStrRef name, const char* text);
+    /// An element with a text, without content for NULL.
+    void AddTextOrEmptyElement(e_XmlStrRef name, const char* text);
     void AddDecimalElement(e_XmlStrRef name, std::int64_t value);
     void AddAttribute(e_XmlStrRef name, const char* value, Attribute end);
+    /// `prefix` and `name` as the field has it: xmlns:`prefix`, or the attribute `name`:`prefix` of another namespace.
+    void AddPrefixedAttribute(e_XmlStrRef name, e_XmlStrRef prefix, const char* value, Attribute end);
     void AddDecimalAttribute(e_XmlStrRef name, std::int64_t value, Attribute end);
-    /// Each pair as an attribute, the tag left open.
-    void AddAttributeList(const IxSingleElementList* list);
-    /// Calls `add` for each entry in order until one answers 0. @return 1, or 0.
-    int AddChildList(const IxSingleElementList* list, int (*add)(XmlFamilyMarshaller& self, XMLElement* child));
+    /// The only attribute of its tag, one blank before it.
+    void AddOnlyAttribute(e_XmlStrRef name, const char* value, Attribute end);
+    /// Each pair as an attribute, the last one with `end`.
+    void AddAttributeList(const IxSingleElementList* list, Attribute end = Attribute::Open);
+    /// Calls `add` for each entry in order until one answers 0, whose index `failedChild` then logs. @return 1, or 0.
+    int AddChildList(const IxSingleElementList* list, XmlWriter add, const XmlLogText& failedChild = {});
+    /// Logs `text` of a failed child, after giving up the document. @return 0.
+    int ReleaseAndFail(const XmlLogText& text);
     /// @}
 
     /// Makes the document prefix of a canonical prefix, if it has one, that of the elements that follow.
@@ -273,6 +325,7 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     IxXMLDocGenerator m_generator;
 
   private:
+    const XmlWriterRow* FindWriter(const XMLElement* root) const;
     int KeepText();
 
     const XmlMarshallerInfo& m_info;

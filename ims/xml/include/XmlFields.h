@@ -47,6 +47,10 @@ using XmlListMember = IxSingleElementList* XMLElement::*;
 /// Reads a child, whose member has the child's own type.
 using XmlChildReader = XMLElement* (*)(const XMLElement& parent);
 
+/// The reader of the member `member` of the class `type`.
+#define IX_CHILD_MEMBER(type, member) \
+    XmlChildReader([](const XMLElement& element) -> XMLElement* { return static_cast<const type&>(element).member; })
+
 /// The 'not set' value of a number that has none: the field is always shown.
 constexpr long long kXmlAlwaysSet = LLONG_MIN;
 

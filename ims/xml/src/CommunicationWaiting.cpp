@@ -23,6 +23,7 @@ constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info;
     info.source = kSourceFile;
     info.names = XmlNamePolicy::Mapped;
+    info.attributePolicy = XmlAttributePolicy::Top;
     info.containers = kContainers;
     info.containerCount = std::size(kContainers);
     info.attributes = kAttributes;

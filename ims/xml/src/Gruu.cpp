@@ -12,9 +12,9 @@ constexpr XmlKnownName kPubGruu = {IX_STR_PUB_GRUU};
 constexpr XmlKnownName kTempGruu = {IX_STR_TEMP_GRUU};
 
 constexpr XmlContainerRow kContainers[] = {
-    {kPubGruu, XmlContainerRow::Root, nullptr, [](const char*) -> XMLElement* { return IX_NEW(ix_pub_gruu); }},
+    {kPubGruu, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_pub_gruu)},
     // Required: the end tag of a temporary GRUU is not recognised, so it pops nothing (no class has an empty name).
-    {kTempGruu, XmlContainerRow::Root, "", [](const char*) -> XMLElement* { return IX_NEW(ix_temp_gruu); }},
+    {kTempGruu, XmlContainerRow::Root, "", IX_CREATOR(ix_temp_gruu)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {
@@ -27,6 +27,7 @@ constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info;
     info.source = kSourceFile;
     info.names = XmlNamePolicy::Stripped;
+    info.attributePolicy = XmlAttributePolicy::Top;
     info.containers = kContainers;
     info.containerCount = std::size(kContainers);
     info.attributes = kAttributes;

@@ -1,5 +1,7 @@
 #include "XMLCommunicationWaiting.h"
 
+#include <iterator>
+
 #include "CommunicationWaiting.h"
 #include "XmlElementSupport.h"
 
@@ -22,9 +24,16 @@ constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
 }
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
 
+constexpr XmlWriterRow kWriters[] = {
+    {kClass,
+     IX_WRITER(Communication_waitingMarshaller, AddCommunication_waitingElementToXml, ix_communication_waiting)},
+};
+
 constexpr XmlMarshallerInfo MarshallerInfo() {
     XmlMarshallerInfo info;
     info.source = kSourceFile;
+    info.writers = kWriters;
+    info.writerCount = std::size(kWriters);
     info.namespaces = kCommunicationWaitingNamespaces;
     info.namespaceCount = kCommunicationWaitingNamespaceCount;
     info.noFirstNamespace = {
@@ -72,11 +81,6 @@ const XmlUnMarshallerInfo& CommunicationWaitingUnMarshaller::Info() const {
 }
 
 Communication_waitingMarshaller::Communication_waitingMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
-
-int Communication_waitingMarshaller::AddRootElementToXml(XMLElement* root) {
-    if (!ixIsClass(root, kClass)) return 0;
-    return AddCommunication_waitingElementToXml(static_cast<ix_communication_waiting*>(root));
-}
 
 int Communication_waitingMarshaller::AddCommunication_waitingElementToXml(ix_communication_waiting* element) {
     ixLog(kSourceFile, kAddElement);

@@ -2,14 +2,6 @@
 
 #include <cstring>
 
-bool ixNameIs(const char* name, e_XmlStrRef entry) {
-    return name != nullptr && std::strcmp(name, ix_xml_common_array_definition::getStringName(entry)) == 0;
-}
-
-bool ixEndNameIs(const char* name, e_XmlStrRef entry) {
-    return name != nullptr && *name == '/' && ixNameIs(name + 1, entry);
-}
-
 bool ixIsClass(const XMLElement* element, const char* className) {
     const char* const own = element != nullptr ? element->ClassName() : nullptr;
     return own != nullptr && std::strcmp(own, className) == 0;
@@ -28,6 +20,12 @@ int ixSetText(char*& field, const char* text) {
     }
     __free(field);
     field = copy;
+    return 1;
+}
+
+int ixSetElementList(IxSingleElementList*& field, IxSingleElementList* list) {
+    if (field != list) ix_xml_common_methods::DeleteElementList(field);
+    field = list;
     return 1;
 }
 

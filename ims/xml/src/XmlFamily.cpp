@@ -126,6 +126,7 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
         ixLog(m_info.source, m_info.texts.noElementName);
         return -1;
     }
+    m_pOwn = nullptr;
     return *name == '/' ? EndElement(name, text) : StartElement(name);
 }
 
@@ -142,71 +143,103 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
         return -1;
     }
     if (m_stack.empty()) return 0;
-    if (!IsKnownAttribute(name, attribute)) return OtherAttribute(attribute, value);
-    if (value != nullptr) Top()->ProcessUnMarshallAttribute(attribute, value, nullptr);
-    return 0;
+    const XmlAttributePolicy policy = m_info.attributePolicy;
+    if (policy == XmlAttributePolicy::AsElements) {
+        Top()->ProcessUnMarshall(attribute, value, nullptr);
+        return 0;
+    }
+    const bool toTop = policy == XmlAttributePolicy::Top || policy == XmlAttributePolicy::TopTwice;
+    XMLElement* const receiver = toTop ? Top() : m_pOwn;
+    if (receiver == nullptr) return 0;
+    const XmlAttributeRow* const known = FindAttribute(name, attribute);
+    if (known != nullptr) {
+        if (value != nullptr && !known->ignored) receiver->ProcessUnMarshallAttribute(attribute, value, nullptr);
+        if (policy != XmlAttributePolicy::TopTwice) return 0;
+    }
+    if (policy == XmlAttributePolicy::OwnNoPairs) return 0;
+    if (policy == XmlAttributePolicy::RootPairs && !m_bOwnIsRoot) return 0;
+    return OtherAttribute(*receiver, attribute, value);
 }
 
 int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) {
     return 0;
 }
 
+/// The row of a start tag.
 const XmlContainerRow* XmlFamilyDecoder::FindContainer(const char* name) const {
     for (std::size_t i = 0; i < m_info.containerCount; ++i) {
-        if (m_info.containers[i].name.Matches(name)) return &m_info.containers[i];
+        const XmlContainerRow& row = m_info.containers[i];
+        if (row.name.Matches(name) &&
+            (row.parentClass == nullptr || (!m_stack.empty() && ixIsClass(Top(), row.parentClass)))) {
+            return &row;
+        }
     }
     return nullptr;
 }
 
-bool XmlFamilyDecoder::IsKnownAttribute(const char* element, const char* attribute) const {
+const XmlAttributeRow* XmlFamilyDecoder::FindAttribute(const char* element, const char* attribute) const {
     for (std::size_t i = 0; i < m_info.attributeCount; ++i) {
         const XmlAttributeRow& row = m_info.attributes[i];
-        if (ixNameIs(attribute, row.attribute) && row.element.Matches(element)) return true;
+        if (ixNameIs(attribute, row.attribute) && row.element.Matches(element)) return &row;
     }
-    return false;
+    return nullptr;
 }
 
 int XmlFamilyDecoder::StartElement(char* name) {
     const XmlContainerRow* const row = FindContainer(name);
     if (row == nullptr) return OtherElement(name, nullptr);
-    if (row->role != XmlContainerRow::Root && m_stack.empty()) return 0;
+    const bool isRoot = row->role == XmlContainerRow::Root;
+    const bool isResult = isRoot || (m_stack.empty() && m_info.takesFragments);
+    if (!isResult && m_stack.empty()) return 0;
     XMLElement* const object = row->create(name);
     if (object == nullptr) {
         ixLog(m_info.source, m_info.texts.noObject, name);
         return 0;
     }
-    if (row->role != XmlContainerRow::Root) {
-        OfferToTop(*row, object);
-        return 0;
-    }
-    if (SetSessionData(object)) m_stack.push(object);
+    if (isResult ? !SetSessionData(object) : !OfferToTop(*row, object)) return 0;
+    if (row->role == XmlContainerRow::Leaf && !isResult) return 0;
+    m_stack.push(object);
+    m_pOwn = Top() == object ? object : nullptr;
+    m_bOwnIsRoot = isRoot;
     return 0;
 }
 
 int XmlFamilyDecoder::EndElement(char* name, char* text) {
-    const XmlContainerRow* const row = FindContainer(name + 1);
-    if (row == nullptr) return OtherElement(name, text);
-    if (row->role == XmlContainerRow::Leaf) return 0;
-    if (row->className == nullptr || ixIsClass(Top(), row->className)) m_stack.pop();
-    return 0;
+    bool isContainer = false;
+    bool offered = false;
+    for (std::size_t i = 0; i < m_info.containerCount; ++i) {
+        const XmlContainerRow& row = m_info.containers[i];
+        if (!row.name.Matches(name + 1)) continue;
+        isContainer = true;
+        if (row.role == XmlContainerRow::Leaf) continue;
+        if (row.role == XmlContainerRow::Text && !offered) {
+            OtherElement(name, text);
+            offered = true;
+        }
+        // Where a name stands for objects of several classes, the class on top says which one ends.
+        if (row.className == nullptr || (!m_stack.empty() && ixIsClass(Top(), row.className))) {
+            m_stack.pop();
+            break;
+        }
+    }
+    return isContainer ? 0 : OtherElement(name, text);
 }
 
 int XmlFamilyDecoder::OtherElement(char* name, char* text) {
     XMLElement* const top = Top();
-    if (top != nullptr) top->ProcessUnMarshall(name, text, nullptr);
+    if (top != nullptr) top->ProcessUnMarshall(m_info.handsOnLocalNames ? m_pPassName : name, text, nullptr);
     return 0;
 }
 
-int XmlFamilyDecoder::OtherAttribute(char* attribute, char* value) {
+int XmlFamilyDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char* value) {
     ix_AttributeValuePair* const pair = ixCreatePair(attribute, value, m_info.source, m_info.pairLine);
     if (pair == nullptr) {
         ixLog(m_info.source, m_info.texts.noPair, attribute);
         return 0;
     }
-    XMLElement* const top = Top();
-    const bool taken = top->ProcessUnMarshallAttribute(attribute, value, pair) != 0;
+    const bool taken = receiver.ProcessUnMarshallAttribute(attribute, value, pair) != 0;
     if (!taken) ixLog(m_info.source, m_info.texts.pairRefused, attribute);
-    if (!taken || !XmlFields::HoldsAttribute(*top, pair)) IX_DELETE(pair);
+    if (!taken || !XmlFields::HoldsAttribute(receiver, pair)) IX_DELETE(pair);
     return 0;
 }
 
@@ -220,16 +253,15 @@ bool XmlFamilyDecoder::SetSessionData(XMLElement* root) {
     return true;
 }
 
-void XmlFamilyDecoder::OfferToTop(const XmlContainerRow& row, XMLElement* object) {
+/// Offers a new object to the one on top, and deletes it when that does not take it. @return true when it was taken.
+bool XmlFamilyDecoder::OfferToTop(const XmlContainerRow& row, XMLElement* object) {
     char local[sizeof ix_xml_common_array_definition::arrXmlStrRef[0]];
     std::memcpy(local, ix_xml_common_array_definition::getStringName(row.name.local), sizeof local);
     XMLElement* const top = Top();
     const bool taken = top->ProcessUnMarshall(local, nullptr, object) != 0;
-    if (!taken || (!XmlFields::HoldsChild(*top, object) && !KeepOrphan(object))) {
-        IX_DELETE(object);
-        return;
-    }
-    if (row.role == XmlContainerRow::Child) m_stack.push(object);
+    if (taken && (XmlFields::HoldsChild(*top, object) || KeepOrphan(object))) return true;
+    IX_DELETE(object);
+    return false;
 }
 
 /// Remembers an object that no tree owns. @return false without memory.
@@ -256,6 +288,7 @@ XMLElement* XmlFamilyUnMarshaller::UnMarshall(const char* text) {
         ixLog(info.source, info.noCopy);
         return nullptr;
     }
+    ixLog(info.source, info.textCopied, copy);
     XMLElement* const root = Decode(copy, info.textTokenizerLine, info.textDecoderLine);
     __free(copy);
     return root;
@@ -311,12 +344,13 @@ char* XmlFamilyMarshaller::Marshall(XMLElement* root) {
         ixLog(m_info.source, m_info.noClassName);
         return nullptr;
     }
-    if (!m_info.entersFirst) ixLog(m_info.source, m_info.entered);
+    if (!m_info.entersFirst && !m_info.deletesFirst) ixLog(m_info.source, m_info.entered);
     if (m_pXml != nullptr) {
         ixLog(m_info.source, m_info.deleting);
         __free(m_pXml);
         m_pXml = nullptr;
     }
+    if (m_info.deletesFirst) ixLog(m_info.source, m_info.entered);
     m_bTruncated = false;
     m_generator.ixInitXmlDoc();
     if (m_info.writesDeclaration) {
@@ -326,11 +360,24 @@ char* XmlFamilyMarshaller::Marshall(XMLElement* root) {
     const int result = AddRootElementToXml(root) != 0 ? KeepText() : 0;
     m_generator.ixDeInitXmlDoc();
     if (result == 0) {
-        ixLog(m_info.source, m_info.failed);
+        const XmlWriterRow* const row = FindWriter(root);
+        ixLog(m_info.source, row != nullptr && row->failed.format != nullptr ? row->failed : m_info.failed);
         return nullptr;
     }
     ixLog(m_info.source, m_info.written, m_pXml);
     return m_pXml;
+}
+
+const XmlWriterRow* XmlFamilyMarshaller::FindWriter(const XMLElement* root) const {
+    for (std::size_t i = 0; i < m_info.writerCount; ++i) {
+        if (ixIsClass(root, m_info.writers[i].className)) return &m_info.writers[i];
+    }
+    return nullptr;
+}
+
+int XmlFamilyMarshaller::AddRootElementToXml(XMLElement* root) {
+    const XmlWriterRow* const row = FindWriter(root);
+    return row != nullptr ? row->write(*this, root) : 0;
 }
 
 /// Copies the generator's text. Without a declaration, the line feed in front of the root element is left out.
@@ -356,9 +403,12 @@ void XmlFamilyMarshaller::EndElement(e_XmlStrRef name) {
 }
 
 void XmlFamilyMarshaller::AddTextElement(e_XmlStrRef name, const char* text) {
-    if (text == nullptr) return;
+    if (text != nullptr) AddTextOrEmptyElement(name, text);
+}
+
+void XmlFamilyMarshaller::AddTextOrEmptyElement(e_XmlStrRef name, const char* text) {
     StartElement(name);
-    m_generator.ixXmlSetData(text);
+    if (text != nullptr) m_generator.ixXmlSetData(text);
     EndElement(name);
 }
 
@@ -372,26 +422,49 @@ void XmlFamilyMarshaller::AddAttribute(e_XmlStrRef name, const char* value, Attr
                                           end == Attribute::SelfClosing ? 1 : 0, end == Attribute::Closing ? 1 : 0);
 }
 
+void XmlFamilyMarshaller::AddPrefixedAttribute(e_XmlStrRef name, e_XmlStrRef prefix, const char* value, Attribute end) {
+    m_generator.ixAddNameSpacePrefixToXml(ix_xml_common_array_definition::getStringName(name), value,
+                                          ix_xml_common_array_definition::getStringName(prefix),
+                                          end == Attribute::SelfClosing ? 1 : 0, end == Attribute::Closing ? 1 : 0);
+}
+
 void XmlFamilyMarshaller::AddDecimalAttribute(e_XmlStrRef name, std::int64_t value, Attribute end) {
     char digits[32];
     AddAttribute(name, __itoaL(value, digits, sizeof digits, 10), end);
 }
 
-void XmlFamilyMarshaller::AddAttributeList(const IxSingleElementList* list) {
-    if (list == nullptr) return;
+void XmlFamilyMarshaller::AddOnlyAttribute(e_XmlStrRef name, const char* value, Attribute end) {
+    m_generator.ixStartAttribute(ix_xml_common_array_definition::getStringName(name), value, 0,
+                                 end == Attribute::SelfClosing ? 1 : 0, end == Attribute::Closing ? 1 : 0);
+}
+
+void XmlFamilyMarshaller::AddAttributeList(const IxSingleElementList* list, Attribute end) {
+    if (list == nullptr || list->LastNode() == nullptr) return;
     for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
         const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
-        if (pair != nullptr) m_generator.ixAddNameSpacePrefixToXml(pair->mName, pair->mValue, nullptr, 0, 0);
+        if (pair == nullptr) continue;
+        const Attribute ending = node->next == nullptr ? end : Attribute::Open;
+        m_generator.ixAddNameSpacePrefixToXml(pair->mName, pair->mValue, nullptr,
+                                              ending == Attribute::SelfClosing ? 1 : 0,
+                                              ending == Attribute::Closing ? 1 : 0);
     }
 }
 
-int XmlFamilyMarshaller::AddChildList(const IxSingleElementList* list,
-                                      int (*add)(XmlFamilyMarshaller& self, XMLElement* child)) {
-    if (list == nullptr) return 1;
-    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
-        if (node->key != nullptr && add(*this, static_cast<XMLElement*>(node->key)) == 0) return 0;
+int XmlFamilyMarshaller::AddChildList(const IxSingleElementList* list, XmlWriter add, const XmlLogText& failedChild) {
+    if (list == nullptr || list->LastNode() == nullptr) return 1;
+    int index = 0;
+    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next, ++index) {
+        if (node->key == nullptr || add(*this, static_cast<XMLElement*>(node->key)) != 0) continue;
+        ixLog(m_info.source, failedChild, index);
+        return 0;
     }
     return 1;
+}
+
+int XmlFamilyMarshaller::ReleaseAndFail(const XmlLogText& text) {
+    m_generator.ixDeInitXmlDoc();
+    ixLog(m_info.source, text);
+    return 0;
 }
 
 char* XmlFamilyMarshaller::AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const {

@@ -1,0 +1,42 @@
+// What the tests of the families share: decode, write, look at a tree.
+#ifndef FAMILY_TEST_H
+#define FAMILY_TEST_H
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "XMLList.h"
+#include "XmlTest.h"
+
+using Strings = std::vector<std::string>;
+
+/// One of the project's own documents, "gruu/odd" for example.
+std::string Sample(const std::string& name);
+
+/// "name=value" for each pair, "-" for no name.
+Strings Pairs(const IxSingleElementList* list);
+
+/// The tree as the command prints it; null for NULL.
+nlohmann::ordered_json TreeOf(const XMLElement* root);
+
+class FamilyTest : public XmlTest {
+  protected:
+    /// Decodes with a fresh context, and with a namespace binder when there is one.
+    static XMLElement* Decode(eXMLSchemaID id, const std::string& text, XMLObject* binder = nullptr);
+
+    /// The text of a fresh marshaller; "(null)" for none.
+    static std::string Write(eXMLSchemaID id, XMLElement* root, XMLObject* binder = nullptr);
+
+    /// The declarations of a document, as a namespace binder.
+    static XMLObject* Binder(const std::string& text);
+
+    /// The field of the tree that `text` decodes to, by JSON pointer ("/rule/0/id"), as text; "(null)" when there is no
+    /// tree, "(absent)" when there is no such field.
+    static std::string Field(eXMLSchemaID id, const std::string& text, const std::string& pointer);
+
+    /// Decodes and writes a text.
+    static std::string Convert(eXMLSchemaID id, const std::string& text);
+};
+
+#endif
