@@ -101,16 +101,10 @@ int ix_catalogue::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAt
 
 constexpr XmlKnownName kFolder = {IX_STR_FOLDER};
 constexpr XmlContainerRow kContainers[] = {
-    {kFolder, XmlContainerRow::Root, nullptr, [](const char*) -> XMLElement* { return IX_NEW(ix_catalogue); }},
-    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP},
-     XmlContainerRow::Child,
-     "ix_term",
-     [](const char*) -> XMLElement* { return IX_NEW(ix_term); }},
-    {{IX_STR_NOTE}, XmlContainerRow::Child, "ix_term", [](const char*) -> XMLElement* { return IX_NEW(ix_term); }},
-    {{IX_STR_BUSY},
-     XmlContainerRow::Leaf,
-     nullptr,
-     [](const char*) -> XMLElement* { return IX_NEW(ix_empty_element_type); }},
+    {kFolder, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_catalogue)},
+    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP}, XmlContainerRow::Child, "ix_term", IX_CREATOR(ix_term)},
+    {{IX_STR_NOTE}, XmlContainerRow::Child, "ix_term", IX_CREATOR(ix_term)},
+    {{IX_STR_BUSY}, XmlContainerRow::Leaf, nullptr, IX_CREATOR(ix_empty_element_type)},
 };
 constexpr XmlAttributeRow kAttributes[] = {{kFolder, IX_STR_AUID}, {kFolder, IX_STR_SIZE}};
 

@@ -20,6 +20,8 @@ class IX_XML_EXPORT ix_communication_waiting : public ix_ns_xcap_simservType {
 
     const char* ClassName() const override;
     const char* TypeName() const override { return "CommunicationWaiting"; }
+    /// Child elements are ignored. @return 1.
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
   protected:
@@ -40,11 +42,11 @@ class IX_XML_EXPORT CommunicationWaitingUnMarshaller : public XmlFamilyUnMarshal
 
 /// Writes `<communication-waiting  active="true"/>`, with the attributes kept from the document it was decoded from
 /// before `active`, and with the prefix that a namespace binder gives to the namespace. No XML declaration.
-class IX_XML_EXPORT Communication_waitingMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT Communication_waitingMarshaller : public XmlServiceMarshaller {
   public:
     Communication_waitingMarshaller();
 
-    /// @return 1, or 0 without memory for the prefix.
+    /// @return 1.
     int AddCommunication_waitingElementToXml(ix_communication_waiting* element);
 };
 

@@ -1,10 +1,45 @@
 /// @file
-/// What the root elements of the supplementary services share (3GPP TS 24.623, simservs XML schema).
+/// What the root elements of the supplementary services share (3GPP TS 24.623, simservs XML schema), and how they are
+/// written.
 #ifndef IX_XML_SIMSERVS_XCAP_H
 #define IX_XML_SIMSERVS_XCAP_H
 
 #include "XMLCommonDef.h"
+#include "XmlFamily.h"
 #include "XmlFields.h"
+
+/// The namespaces of the services' documents under their canonical prefixes. Communication waiting has a table of its
+/// own.
+extern IX_XML_EXPORT const XmlNamespaceRow kSimservsNamespaces[];
+constexpr std::size_t kSimservsNamespaceCount = 3;
+
+/// The fields of `ix_ns_xcap_simservType`, for the tables of the classes derived from it.
+extern IX_XML_EXPORT const XmlFieldTable kSimservTable;
+
+/// The log lines of a service's decoder, which name it (`decoder`), the name that it compares attributes' elements with
+/// (`comparedName`), and the decoder that its namespace operations were taken from (`origin`).
+#define IX_SERVICE_DECODER_TEXTS(texts, decoder, comparedName, origin)                                               \
+    do {                                                                                                             \
+        (texts).noElement = {3, kSchemaCode, __LINE__,                                                               \
+                             "<XML Module>" decoder " :: ProcessElement: n_strElement is NULL"};                     \
+        (texts).noElementName = {3, kSchemaCode, __LINE__,                                                           \
+                                 "<XML Module>" decoder " :: ProcessElement: m_strDup or m_PassName is NULL"};       \
+        (texts).noAttribute = {3, kSchemaCode, __LINE__,                                                             \
+                               "<XML Module>" decoder " :: ProcessAttribute: n_strElement is NULL"};                 \
+        (texts).noAttributeName = {3, kSchemaCode, __LINE__,                                                         \
+                                   "<XML Module>" decoder " :: ProcessAttribute: " comparedName " is NULL"};         \
+        (texts).noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};               \
+        (texts).noPairOf = {3, kSchemaCode, __LINE__,                                                                \
+                            "<XML Module>: New Failed at any attribute level with element = \"%s\""};                \
+        (texts).noFirstNamespace = (texts).noNamespace = {2, kSchemaCode, __LINE__,                                  \
+                                                          decoder " :: " decoder ": Malloc cannot allocate memory"}; \
+        (texts).changeTagNoMemory = (texts).changeEndTagNoMemory = {                                                 \
+            2, kDecoderCode, __LINE__, origin " :: XMLChangeNamespaceTag Malloc unable to allocate memory"};         \
+        (texts).mappedTagNoMemory = (texts).mappedEndTagNoMemory = {                                                 \
+            2, kDecoderCode, __LINE__, "XmlDecoder:: m_strDup: Malloc unable to allocate memory"};                   \
+        (texts).removeTagNoMemory = {2, kDecoderCode, __LINE__,                                                      \
+                                     origin " :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};          \
+    } while (false)
 
 /// The simserv type: a service that is switched on or off.
 class IX_XML_EXPORT ix_ns_xcap_simservType : public XMLObject {
@@ -14,6 +49,9 @@ class IX_XML_EXPORT ix_ns_xcap_simservType : public XMLObject {
     int Reserved() const override { return 0; }
     int IsRootElement() const override { return 1; }
     const XmlFieldTable* FieldTable() const override;
+    /// An element "active" sets the switch by its text, "true" or "false"; as an object it is refused (0). Any other
+    /// object is kept, anything else logged. @return 1, or 0. The services of this library take none of this over.
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// @return 1.
     int setActiveValue(int active);
@@ -27,12 +65,27 @@ class IX_XML_EXPORT ix_ns_xcap_simservType : public XMLObject {
     int mActive = 1;                                ///< 1 active, else inactive; a new service is active.
     IxSingleElementList* mExtensionList = nullptr;  ///< Owned `ix_AttributeValuePair`s: every attribute but "active",
                                                     ///< such as namespace declarations, to be written back. NULL: none.
+    IxSingleElementList* mAnyList = nullptr;        ///< Owned child elements of any other kind; never written. They and
+                                                    ///< the pairs have no base class in common. NULL: none.
 
   protected:
+    /// Appends `pair`, if it is one, unless the attribute is "active", which never comes as a pair. @return 1, or 0 for
+    /// "active".
+    int TakeExtension(const char* attribute, XMLAttribute* pair);
     /// The source file of the service's own class, under which its list is registered.
     virtual const char* SourceFile() const = 0;
     /// The source line that goes with it.
     virtual int ExtensionListLine() const = 0;
+};
+
+/// Base of the marshallers of the services.
+class IX_XML_EXPORT XmlServiceMarshaller : public XmlFamilyMarshaller {
+  protected:
+    using XmlFamilyMarshaller::XmlFamilyMarshaller;
+
+    /// The start tag of a service with the prefix of the simservs namespace: the attributes kept from the document it
+    /// was decoded from, then `active`, which ends the tag. The elements that follow have no prefix.
+    void AddServiceStart(e_XmlStrRef name, const ix_ns_xcap_simservType& service, Attribute end);
 };
 
 #endif

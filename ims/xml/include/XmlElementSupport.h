@@ -29,6 +29,25 @@ IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
 /// @return 1, or 0 without memory, the earlier text kept.
 IX_XML_EXPORT int ixSetText(char*& field, const char* text);
 
+/// Stores a number. @return 1.
+template <class Number>
+int ixSetNumber(Number& field, Number value) {
+    field = value;
+    return 1;
+}
+
+/// Stores a copy of `text` in an owned field; NULL changes nothing.
+/// Required: an earlier text is not freed, for callers that still hold it. @return 1, or 0 without memory.
+IX_XML_EXPORT int ixOverwriteText(char*& field, const char* text);
+
+/// Stores a child or list, which passes to the element; NULL changes nothing.
+/// Required: an earlier one is not freed, for callers that still hold it. @return 1.
+template <class Child>
+int ixOverwriteChild(Child*& field, Child* child) {
+    if (child != nullptr) field = child;
+    return 1;
+}
+
 /// Replaces an owned child by `child`, which passes to the element; the earlier one is deleted. NULL clears the field.
 /// @return 1.
 template <class Element>

@@ -50,12 +50,16 @@ struct XmlContainerRow {
     XmlKnownName name;
     Role role;
     const char* className;  ///< The end tag pops an object of this class only; NULL: whatever is on top.
-    XMLElement* (*create)(const char* name);  ///< `name` as compared. NULL result: no memory.
+    /// A new object, registered under `source`; `name` as compared. NULL: no memory.
+    XMLElement* (*create)(const char* name, const char* source);
     const char* parentClass = nullptr;  ///< The row counts only while an object of this class is on top; NULL: always.
 };
 
 /// The creator of a row: a new `type`, registered with the line of the row.
-#define IX_CREATOR(type) [](const char*) -> XMLElement* { return IX_NEW(type); }
+#define IX_CREATOR(type)                                                  \
+    [](const char* /*name*/, const char* source) -> XMLElement* {         \
+        return IX_TRACKED_NEW(kSchemaModule, source, __LINE__, type, ()); \
+    }
 
 /// An attribute that a decoder gives to an object without making a pair of it.
 struct XmlAttributeRow {
@@ -81,7 +85,8 @@ struct XmlDecoderTexts {
     XmlLogText noAttribute{};           ///< ProcessAttribute without element or attribute name.
     XmlLogText noAttributeName{};       ///< ... or without memory for the element name it compares with.
     XmlLogText noObject{};              ///< An element object could not be created; the name.
-    XmlLogText noPair{};                ///< An attribute pair could not be created; the attribute name.
+    XmlLogText noPair{};                ///< An attribute pair could not be created; the attribute name ...
+    XmlLogText noPairOf{};              ///< ... or the name of its element.
     XmlLogText pairRefused{};           ///< The object refused the pair; the attribute name.
     XmlLogText noFirstNamespace{};      ///< No memory for the first row of the namespace table ...
     XmlLogText noNamespace{};           ///< ... or for a later one.
@@ -106,7 +111,8 @@ struct XmlDecoderInfo {
     std::size_t attributeCount = 0;
     const XmlNamespaceRow* namespaces = nullptr;
     std::size_t namespaceCount = 0;
-    int pairLine = 0;  ///< Source line under which attribute pairs are registered.
+    int pairLine = 0;                        ///< Source line under which attribute pairs are registered.
+    const XmlDecoderInfo* shared = nullptr;  ///< Its containers and attributes count, too; the rest of it does not.
 };
 
 /// Base of the decoders: turns the tokenizer's events into objects.
@@ -161,6 +167,7 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
   private:
     const XmlContainerRow* FindContainer(const char* name) const;
     const XmlAttributeRow* FindAttribute(const char* element, const char* attribute) const;
+    bool EndContainer(const XmlContainerRow& row, char* name, char* text, bool& offered);
     char* ComparedName(char* element);
     bool OfferToTop(const XmlContainerRow& row, XMLElement* object);
     bool KeepOrphan(XMLElement* object);
@@ -213,9 +220,13 @@ class IX_XML_EXPORT XmlFamilyUnMarshaller : public XMLUnMarshaller {
   protected:
     virtual const XmlUnMarshallerInfo& Info() const = 0;
 
-  private:
-    XMLElement* Decode(const char* text, int tokenizerLine, int decoderLine);
+    /// Decodes `text` with a new tokenizer and a new decoder. @param complete out: the text is complete and balanced.
+    /// @return the root, or NULL; also NULL when the text is complete and holds no root of the schema.
+    XMLElement* Decode(const char* text, int tokenizerLine, int decoderLine, XMLObject* binder, bool& complete);
 
+    XMLObject* NamespaceBinder() const { return m_pNamespaceBinder; }
+
+  private:
     XMLObject* m_pNamespaceBinder = nullptr;
 };
 /// @}
@@ -229,9 +240,9 @@ class XmlFamilyMarshaller;
 using XmlWriter = int (*)(XmlFamilyMarshaller& self, XMLElement* element);
 
 /// The writer that is the operation `operation` of the marshaller class `marshaller`, for elements of the class `type`.
-#define IX_WRITER(marshaller, operation, type)                                        \
-    [](XmlFamilyMarshaller& self, XMLElement* element) -> int {                       \
-        return static_cast<marshaller&>(self).operation(static_cast<type*>(element)); \
+#define IX_WRITER(marshaller, operation, type)                                          \
+    [](XmlFamilyMarshaller& writer, XMLElement* written) -> int {                       \
+        return static_cast<marshaller&>(writer).operation(static_cast<type*>(written)); \
     }
 
 /// An element that `Marshall` accepts.
@@ -261,6 +272,15 @@ struct XmlMarshallerInfo {
     XmlLogText written{};      ///< With the text.
     XmlLogText failed{};
 };
+
+/// The four lines that every call of `Marshall` may log, which name the marshaller and its kept text.
+#define IX_MARSHALL_TEXTS(info, marshaller, kept)                                                                 \
+    do {                                                                                                          \
+        (info).entered = {3, kSchemaCode, __LINE__, "<XML Module>: " marshaller " :: Marshall"};                  \
+        (info).deleting = {3, kSchemaCode, __LINE__, "<XML Module>: " marshaller " :: Marshall: Deleting " kept}; \
+        (info).written = {2, kSchemaCode, __LINE__, "<XML Module>: " marshaller " XML %s"};                       \
+        (info).failed = {2, kSchemaCode, __LINE__, "<XML Module>: " marshaller " XML Failed!"};                   \
+    } while (false)
 
 /// Base of the marshallers: keeps the generator and the last text, and offers short writers for a schema's own.
 class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
@@ -313,24 +333,35 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     int ReleaseAndFail(const XmlLogText& text);
     /// @}
 
-    /// Makes the document prefix of a canonical prefix, if it has one, that of the elements that follow.
-    /// @return 1, or 0 without memory: the element must not be written then, for its name would be another.
-    int SetElementPrefix(e_XmlStrRef canonicalPrefix);
+    /// Makes the document prefix of a canonical prefix, if it has one, that of the elements that follow. Without memory
+    /// the names would be others, so the document is given up.
+    void SetElementPrefix(e_XmlStrRef canonicalPrefix);
     /// The elements that follow have no prefix.
     void ClearElementPrefix() { m_generator.ixSetXmlNamespace(nullptr); }
 
-    /// A copy of the document prefix of a canonical prefix, to be freed (`FreeElement`); NULL when there is none.
-    char* AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const;
+    /// `Marshall` will answer NULL, whatever the writers answer.
+    void GiveUp() { m_bGivenUp = true; }
+
+    /// The kept text passes to the caller, who gives back what takes its place (`KeepText`).
+    char* TakeText();
+    void KeepText(char* text) { m_pXml = text; }
+
+    /// The source path for log lines.
+    const char* Source() const { return m_info.source; }
+
+    /// The document prefix of a canonical prefix, which stays with the marshaller; NULL when there is none.
+    const char* AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const;
 
     IxXMLDocGenerator m_generator;
 
   private:
     const XmlWriterRow* FindWriter(const XMLElement* root) const;
-    int KeepText();
+    int KeepGeneratedText();
 
     const XmlMarshallerInfo& m_info;
     char* m_pXml = nullptr;  ///< The last text; owned.
     bool m_bTruncated = false;
+    bool m_bGivenUp = false;
     XmlNamespaceTable m_namespaces;
 };
 /// @}

@@ -36,6 +36,9 @@ struct XmlEnumeration {
     const char* TextOf(long long value) const {
         return value >= 0 && value < count ? rows + static_cast<std::size_t>(value) * width : nullptr;
     }
+
+    /// The first row that is exactly `text`, or `count`.
+    int IndexOf(const char* text) const;
 };
 
 /// Pointers to data members, as the table holds them.

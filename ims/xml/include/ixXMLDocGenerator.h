@@ -37,10 +37,10 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
     void ixAddHeader(const char* version, const char* encoding);
     void ixAddComment(const char* text);
     /// Sets the prefix of the element names that follow (copied); NULL: none. Without memory for the copy there is
-    /// none, either; see `HasXmlNamespace`.
+    /// none, either.
     void ixSetXmlNamespace(const char* prefix);
-    /// True while a prefix is set.
-    bool HasXmlNamespace() const { return m_pDefaultPrefix != nullptr; }
+    /// The prefix, which stays with the generator; NULL: none.
+    const char* XmlNamespace() const { return m_pDefaultPrefix; }
 
     /// Line feed and start tag. `open` 1: the tag stays open for attributes, behind a blank.
     void ixStartElement(const char* name, int open);

@@ -12,7 +12,7 @@ constexpr XmlKnownName kRoot = {IX_STR_COMMUNICATION_WAITING, XmlKnownName::Opti
 
 constexpr XmlContainerRow kContainers[] = {
     {kRoot, XmlContainerRow::Root, nullptr,
-     [](const char*) -> XMLElement* { return IX_NEW_AT(314, ix_communication_waiting); }},
+     [](const char*, const char*) -> XMLElement* { return IX_NEW_AT(314, ix_communication_waiting); }},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

@@ -59,6 +59,10 @@ const char* ix_communication_waiting::ClassName() const {
     return kClass;
 }
 
+int ix_communication_waiting::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) {
+    return 1;
+}
+
 int ix_communication_waiting::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair == nullptr) return setActiveValue(ixNameIs(value, IX_STR_TRUE) ? 1 : 0);
     // An `active` of some child element arrives as a pair and is not kept.
@@ -80,17 +84,11 @@ const XmlUnMarshallerInfo& CommunicationWaitingUnMarshaller::Info() const {
     return kUnMarshallerInfo;
 }
 
-Communication_waitingMarshaller::Communication_waitingMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+Communication_waitingMarshaller::Communication_waitingMarshaller() : XmlServiceMarshaller(kMarshallerInfo) {}
 
 int Communication_waitingMarshaller::AddCommunication_waitingElementToXml(ix_communication_waiting* element) {
     ixLog(kSourceFile, kAddElement);
-    if (SetElementPrefix(IX_STR_SS) == 0) return 0;
-    StartElementOpen(IX_STR_COMMUNICATION_WAITING);
-    ClearElementPrefix();
-    AddAttributeList(element->mExtensionList);
-    AddAttribute(IX_STR_ACTIVE,
-                 ix_xml_common_array_definition::getStringName(element->mActive != 0 ? IX_STR_TRUE : IX_STR_FALSE),
-                 Attribute::SelfClosing);
+    AddServiceStart(IX_STR_COMMUNICATION_WAITING, *element, Attribute::SelfClosing);
     return 1;
 }
 

@@ -1,8 +1,13 @@
 #include "XMLFactory.h"
 
+#include "XMLCommunicationBarring.h"
+#include "XMLCommunicationDiversion.h"
 #include "XMLCommunicationWaiting.h"
 #include "XMLGruu.h"
+#include "XMLOriginatingIdentityPresentation.h"
 #include "XMLSchemaNameSpaceRetrieval.h"
+#include "XMLSimservs.h"
+#include "XMLTerminatingIdentityPresentation.h"
 
 namespace {
 
@@ -21,13 +26,17 @@ constexpr XmlSchemaInfo kSchemas[] = {
     {IX_XML_SCHEMA_IMDN, "imdn", "imdn", "urn:ietf:params:xml:ns:imdn", true, false, nullptr},
     {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting", "communication-waiting", kSimservs, true, true,
      []() -> XMLContext* { return IX_NEW(CommunicationWaitingContext); }},
-    {IX_XML_SCHEMA_OIP, "oip", "originating-identity-presentation", kSimservs, true, true, nullptr},
-    {IX_XML_SCHEMA_TIP, "tip", "terminating-identity-presentation", kSimservs, true, true, nullptr},
+    {IX_XML_SCHEMA_OIP, "oip", "originating-identity-presentation", kSimservs, true, true,
+     []() -> XMLContext* { return IX_NEW(OIPContext); }},
+    {IX_XML_SCHEMA_TIP, "tip", "terminating-identity-presentation", kSimservs, true, true,
+     []() -> XMLContext* { return IX_NEW(TIPContext); }},
     {IX_XML_SCHEMA_COMMUNICATION_DIVERSION, "communication-diversion", "communication-diversion", kSimservs, true, true,
-     nullptr},
+     []() -> XMLContext* { return IX_NEW(CommunicationDiversionContext); }},
     {IX_XML_SCHEMA_COMMUNICATION_BARRING, "communication-barring",
-     "incoming-communication-barring outgoing-communication-barring", kSimservs, true, true, nullptr},
-    {IX_XML_SCHEMA_SIMSERVS, "simservs", "simservs", kSimservs, true, true, nullptr},
+     "incoming-communication-barring outgoing-communication-barring", kSimservs, true, true,
+     []() -> XMLContext* { return IX_NEW(CommunicationBarringContext); }},
+    {IX_XML_SCHEMA_SIMSERVS, "simservs", "simservs", kSimservs, true, true,
+     []() -> XMLContext* { return IX_NEW(SimservsContext); }},
     {IX_XML_SCHEMA_XCAP_ERROR, "xcap-error", "xcap-error", "urn:ietf:params:xml:ns:xcap-error", true, false, nullptr},
     {IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "wap-provisioning", "wap-provisioningdoc", "", false, false, nullptr},
     {IX_XML_SCHEMA_VOLTE_CONFIG_INFO, "volte-config-info", "volte-config-info", "", false, false, nullptr},

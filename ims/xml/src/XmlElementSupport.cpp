@@ -23,6 +23,14 @@ int ixSetText(char*& field, const char* text) {
     return 1;
 }
 
+int ixOverwriteText(char*& field, const char* text) {
+    if (text == nullptr) return 1;
+    char* const copy = __strdup(text);
+    if (copy == nullptr) return 0;
+    field = copy;
+    return 1;
+}
+
 int ixSetElementList(IxSingleElementList*& field, IxSingleElementList* list) {
     if (field != list) ix_xml_common_methods::DeleteElementList(field);
     field = list;

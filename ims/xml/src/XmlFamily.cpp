@@ -167,20 +167,22 @@ int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) {
 
 /// The row of a start tag.
 const XmlContainerRow* XmlFamilyDecoder::FindContainer(const char* name) const {
-    for (std::size_t i = 0; i < m_info.containerCount; ++i) {
-        const XmlContainerRow& row = m_info.containers[i];
-        if (row.name.Matches(name) &&
-            (row.parentClass == nullptr || (!m_stack.empty() && ixIsClass(Top(), row.parentClass)))) {
-            return &row;
+    for (const XmlDecoderInfo* info = &m_info; info != nullptr; info = info->shared) {
+        for (std::size_t i = 0; i < info->containerCount; ++i) {
+            const XmlContainerRow& row = info->containers[i];
+            if (!row.name.Matches(name)) continue;
+            if (row.parentClass == nullptr || (!m_stack.empty() && ixIsClass(Top(), row.parentClass))) return &row;
         }
     }
     return nullptr;
 }
 
 const XmlAttributeRow* XmlFamilyDecoder::FindAttribute(const char* element, const char* attribute) const {
-    for (std::size_t i = 0; i < m_info.attributeCount; ++i) {
-        const XmlAttributeRow& row = m_info.attributes[i];
-        if (ixNameIs(attribute, row.attribute) && row.element.Matches(element)) return &row;
+    for (const XmlDecoderInfo* info = &m_info; info != nullptr; info = info->shared) {
+        for (std::size_t i = 0; i < info->attributeCount; ++i) {
+            const XmlAttributeRow& row = info->attributes[i];
+            if (ixNameIs(attribute, row.attribute) && row.element.Matches(element)) return &row;
+        }
     }
     return nullptr;
 }
@@ -191,7 +193,7 @@ int XmlFamilyDecoder::StartElement(char* name) {
     const bool isRoot = row->role == XmlContainerRow::Root;
     const bool isResult = isRoot || (m_stack.empty() && m_info.takesFragments);
     if (!isResult && m_stack.empty()) return 0;
-    XMLElement* const object = row->create(name);
+    XMLElement* const object = row->create(name, m_info.source);
     if (object == nullptr) {
         ixLog(m_info.source, m_info.texts.noObject, name);
         return 0;
@@ -207,22 +209,28 @@ int XmlFamilyDecoder::StartElement(char* name) {
 int XmlFamilyDecoder::EndElement(char* name, char* text) {
     bool isContainer = false;
     bool offered = false;
-    for (std::size_t i = 0; i < m_info.containerCount; ++i) {
-        const XmlContainerRow& row = m_info.containers[i];
-        if (!row.name.Matches(name + 1)) continue;
-        isContainer = true;
-        if (row.role == XmlContainerRow::Leaf) continue;
-        if (row.role == XmlContainerRow::Text && !offered) {
-            OtherElement(name, text);
-            offered = true;
-        }
-        // Where a name stands for objects of several classes, the class on top says which one ends.
-        if (row.className == nullptr || (!m_stack.empty() && ixIsClass(Top(), row.className))) {
-            m_stack.pop();
-            break;
+    for (const XmlDecoderInfo* info = &m_info; info != nullptr; info = info->shared) {
+        for (std::size_t i = 0; i < info->containerCount; ++i) {
+            const XmlContainerRow& row = info->containers[i];
+            if (!row.name.Matches(name + 1)) continue;
+            isContainer = true;
+            // Where a name stands for objects of several classes, the class on top says which one ends.
+            if (EndContainer(row, name, text, offered)) return 0;
         }
     }
     return isContainer ? 0 : OtherElement(name, text);
+}
+
+/// @param offered in and out: the text was offered. @return true when an object was popped.
+bool XmlFamilyDecoder::EndContainer(const XmlContainerRow& row, char* name, char* text, bool& offered) {
+    if (row.role == XmlContainerRow::Leaf) return false;
+    if (row.role == XmlContainerRow::Text && !offered) {
+        OtherElement(name, text);
+        offered = true;
+    }
+    if (row.className != nullptr && (m_stack.empty() || !ixIsClass(Top(), row.className))) return false;
+    m_stack.pop();
+    return true;
 }
 
 int XmlFamilyDecoder::OtherElement(char* name, char* text) {
@@ -235,6 +243,7 @@ int XmlFamilyDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char
     ix_AttributeValuePair* const pair = ixCreatePair(attribute, value, m_info.source, m_info.pairLine);
     if (pair == nullptr) {
         ixLog(m_info.source, m_info.texts.noPair, attribute);
+        ixLog(m_info.source, m_info.texts.noPairOf, m_info.names == XmlNamePolicy::Mapped ? m_pMappedTag : m_pPassName);
         return 0;
     }
     const bool taken = receiver.ProcessUnMarshallAttribute(attribute, value, pair) != 0;
@@ -289,7 +298,8 @@ XMLElement* XmlFamilyUnMarshaller::UnMarshall(const char* text) {
         return nullptr;
     }
     ixLog(info.source, info.textCopied, copy);
-    XMLElement* const root = Decode(copy, info.textTokenizerLine, info.textDecoderLine);
+    bool complete = false;
+    XMLElement* const root = Decode(copy, info.textTokenizerLine, info.textDecoderLine, m_pNamespaceBinder, complete);
     __free(copy);
     return root;
 }
@@ -299,22 +309,25 @@ XMLElement* XmlFamilyUnMarshaller::UnMarshall(XMLFile* file) {
     if (text == nullptr) return nullptr;
     const XmlUnMarshallerInfo& info = Info();
     ixLog(info.source, info.fileEntered, text);
-    return Decode(text, info.fileTokenizerLine, info.fileDecoderLine);
+    bool complete = false;
+    return Decode(text, info.fileTokenizerLine, info.fileDecoderLine, m_pNamespaceBinder, complete);
 }
 
-XMLElement* XmlFamilyUnMarshaller::Decode(const char* text, int tokenizerLine, int decoderLine) {
+XMLElement* XmlFamilyUnMarshaller::Decode(const char* text, int tokenizerLine, int decoderLine, XMLObject* binder,
+                                          bool& complete) {
     const XmlUnMarshallerInfo& info = Info();
     XmlDecoder* const tokenizer = IX_TRACKED_NEW(kSchemaModule, info.source, tokenizerLine, XmlDecoder, ());
     XmlFamilyDecoder* const decoder = info.createDecoder(decoderLine);
     XMLElement* root = nullptr;
+    complete = false;
     if (tokenizer != nullptr && decoder != nullptr) {
-        if (m_pNamespaceBinder != nullptr) decoder->SetNameSpaceBinderInfo(m_pNamespaceBinder);
+        if (binder != nullptr) decoder->SetNameSpaceBinderInfo(binder);
         tokenizer->SetSchemaDecoder(decoder);
         const std::size_t length = __strlen(text);
-        const int result = length > INT_MAX ? IX_XML_ERROR : tokenizer->Decode(text, static_cast<int>(length));
-        ixLog(info.source, result == IX_XML_SUCCESS ? info.decoded : info.notDecoded);
+        complete = length <= INT_MAX && tokenizer->Decode(text, static_cast<int>(length)) == IX_XML_SUCCESS;
+        ixLog(info.source, complete ? info.decoded : info.notDecoded);
         // Required: the tree of a document that could not be decoded to its end is left to nobody, and not freed here.
-        if (result == IX_XML_SUCCESS) root = decoder->GetSessionData();
+        if (complete) root = decoder->GetSessionData();
     }
     IX_DELETE(decoder);
     IX_DELETE(tokenizer);
@@ -352,12 +365,13 @@ char* XmlFamilyMarshaller::Marshall(XMLElement* root) {
     }
     if (m_info.deletesFirst) ixLog(m_info.source, m_info.entered);
     m_bTruncated = false;
+    m_bGivenUp = false;
     m_generator.ixInitXmlDoc();
     if (m_info.writesDeclaration) {
         m_generator.ixAddHeader(ix_xml_common_array_definition::getStringName(IX_STR_1_0),
                                 ix_xml_common_array_definition::getStringName(IX_STR_UTF_8));
     }
-    const int result = AddRootElementToXml(root) != 0 ? KeepText() : 0;
+    const int result = AddRootElementToXml(root) != 0 && !m_bGivenUp ? KeepGeneratedText() : 0;
     m_generator.ixDeInitXmlDoc();
     if (result == 0) {
         const XmlWriterRow* const row = FindWriter(root);
@@ -381,7 +395,7 @@ int XmlFamilyMarshaller::AddRootElementToXml(XMLElement* root) {
 }
 
 /// Copies the generator's text. Without a declaration, the line feed in front of the root element is left out.
-int XmlFamilyMarshaller::KeepText() {
+int XmlFamilyMarshaller::KeepGeneratedText() {
     const char* text = m_generator.ixGetXmlDoc();
     if (text == nullptr) return 0;
     if (!m_info.writesDeclaration && *text != '\0') ++text;
@@ -467,20 +481,22 @@ int XmlFamilyMarshaller::ReleaseAndFail(const XmlLogText& text) {
     return 0;
 }
 
-char* XmlFamilyMarshaller::AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const {
+const char* XmlFamilyMarshaller::AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const {
     const XmlNamespaceTable::Entry* const entry =
         m_namespaces.FindCanonicalPrefix(ix_xml_common_array_definition::getStringName(canonicalPrefix));
-    return entry != nullptr && entry->documentPrefix != nullptr ? __strdup(entry->documentPrefix) : nullptr;
+    return entry != nullptr ? entry->documentPrefix : nullptr;
 }
 
-int XmlFamilyMarshaller::SetElementPrefix(e_XmlStrRef canonicalPrefix) {
-    const XmlNamespaceTable::Entry* const entry =
-        m_namespaces.FindCanonicalPrefix(ix_xml_common_array_definition::getStringName(canonicalPrefix));
-    char* const prefix = AddNameSpaceChange(canonicalPrefix);
+void XmlFamilyMarshaller::SetElementPrefix(e_XmlStrRef canonicalPrefix) {
+    const char* const prefix = AddNameSpaceChange(canonicalPrefix);
     m_generator.ixSetXmlNamespace(prefix);
-    FreeElement(prefix);
-    const bool expected = entry != nullptr && entry->documentPrefix != nullptr;
-    return !expected || m_generator.HasXmlNamespace() ? 1 : 0;
+    if (prefix != nullptr && m_generator.XmlNamespace() == nullptr) GiveUp();
+}
+
+char* XmlFamilyMarshaller::TakeText() {
+    char* const text = m_pXml;
+    m_pXml = nullptr;
+    return text;
 }
 
 XMLMarshaller* XmlFamilyContext::createMarshaller() {

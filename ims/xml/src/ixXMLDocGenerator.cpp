@@ -70,6 +70,8 @@ void IxXMLDocGenerator::ixAddComment(const char* text) {
 
 void IxXMLDocGenerator::ixSetXmlNamespace(const char* prefix) {
     if (m_pBuffer == nullptr) return;
+    // Marshallers set the prefix for every element, and mostly it is the same.
+    if (prefix != nullptr && m_pDefaultPrefix != nullptr && std::strcmp(prefix, m_pDefaultPrefix) == 0) return;
     __free(m_pDefaultPrefix);
     m_pDefaultPrefix = prefix != nullptr ? __strdup(prefix) : nullptr;
 }

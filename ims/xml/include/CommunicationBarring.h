@@ -1,0 +1,13 @@
+/// @file
+/// Decoder of the communication barring document (XMLCommunicationBarring.h).
+#ifndef IX_COMMUNICATION_BARRING_H
+#define IX_COMMUNICATION_BARRING_H
+
+#include "XmlFamily.h"
+
+class IX_XML_EXPORT XMLCommunicationBarringDecoder : public XmlFamilyDecoder {
+  public:
+    XMLCommunicationBarringDecoder();
+};
+
+#endif

@@ -1,0 +1,102 @@
+/// @file
+/// Communication barring (3GPP TS 24.611, XCAP documents of TS 24.623): under which conditions calls are barred, in
+/// either direction.
+///
+/// - Root elements: `incoming-communication-barring` and `outgoing-communication-barring`, with the attribute `active`
+/// and a ruleset (XMLCommonPolicy.h). A document whose outermost element is a part of it (a rule, the conditions ...)
+/// decodes to that part, and parts can be written alone, as an XCAP client needs them.
+/// - Namespaces: http://uri.etsi.org/ngn/params/xml/simservs/xcap and urn:ietf:params:xml:ns:common-policy.
+/// - Prefixes: mapped. Elements of the services are recognised without a prefix and as `ss:`, those of common-policy as
+/// `cp:`, both with the prefixes of a namespace binder as well. Written with `ss:` and `cp:`, or those of the binder.
+/// - Read and written. Lost on writing: the content of `transformations` and `forward-to`, the condition
+/// `presence-status`, and elements that this library does not know.
+#ifndef IX_XML_COMMUNICATION_BARRING_H
+#define IX_XML_COMMUNICATION_BARRING_H
+
+#include "XMLSimservsRules.h"
+
+/// Which root `CommunicationBarringDataBinder` creates.
+enum XML_COMMUNICATION_BARRING_TYPE { XML_CB_INCOMING = 1, XML_CB_OUTGOING = 2, XML_CB_NONE = 3 };
+
+/// The action `allow`.
+class IX_XML_EXPORT ix_allow_action_type : public XMLElement {
+  public:
+    ~ix_allow_action_type() override;
+    const char* ClassName() const override { return "ix_allow_action_type"; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "CommunicationBarring:AllowActionType"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// @return 1.
+    int setAllowValue(int allow) { return ixSetNumber(mAllow, allow); }
+
+    int mAllow = 0;  ///< 1 the call is allowed, 0 it is barred.
+};
+
+/// What both root elements share.
+class IX_XML_EXPORT ix_ns_communication_barringType : public ix_ns_xcap_ruleServiceType {
+  protected:
+    const char* SourceFile() const override;
+};
+
+/// The element `incoming-communication-barring`.
+class IX_XML_EXPORT ix_incoming_communication_barring : public ix_ns_communication_barringType {
+  public:
+    const char* ClassName() const override;
+    /// Required: spelt with one "m".
+    const char* TypeName() const override { return "IncomingComunicationBarring"; }
+};
+
+/// The element `outgoing-communication-barring`.
+class IX_XML_EXPORT ix_outgoing_communication_barring : public ix_ns_communication_barringType {
+  public:
+    const char* ClassName() const override;
+    const char* TypeName() const override { return "OutgoingCommunicationBarring"; }
+};
+
+class IX_XML_EXPORT CommunicationBarringDataBinder : public XmlRuleDataBinder {
+  public:
+    /// Says which root to create. @return 1, or 0 for anything but incoming and outgoing, the earlier type kept.
+    int setCBType(XML_COMMUNICATION_BARRING_TYPE type);
+    /// A new root of the type that `setCBType` said, active; NULL before that.
+    XMLElement* CreateRootElement() override;
+    ix_allow_action_type* CreateAllowTypeElement();
+
+  protected:
+    const char* SourceFile() const override;
+
+  private:
+    XML_COMMUNICATION_BARRING_TYPE m_type = XML_CB_NONE;
+};
+
+class IX_XML_EXPORT CommunicationBarringUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes a document, or one of its parts: ruleset, rule, conditions, actions, flag, exception. No XML declaration, and
+/// no namespace declarations but those kept from the document that the root was decoded from.
+///
+/// Required: a transformations element alone is written as `actions`, being of the same class.
+class IX_XML_EXPORT Communication_barringMarshaller : public XmlRuleMarshaller {
+  public:
+    Communication_barringMarshaller();
+
+    /// @return 1.
+    int AddIncoming_communication_barringElementToXml(ix_incoming_communication_barring* element);
+    int AddOutgoing_communication_barringElementToXml(ix_outgoing_communication_barring* element);
+
+  protected:
+    void AddAction(XMLElement* action) override;
+};
+
+class IX_XML_EXPORT CommunicationBarringContext : public XmlBinderContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

@@ -1,0 +1,139 @@
+/// @file
+/// Communication diversion (3GPP TS 24.604, XCAP document of TS 24.623): under which conditions calls are forwarded,
+/// and to whom.
+///
+/// - Root element: `communication-diversion`, with the attribute `active`, a no-reply timer and a ruleset
+/// (XMLCommonPolicy.h). A document whose outermost element is a part of it (a rule, the conditions, a target ...)
+/// decodes to that part, and parts can be written alone, as an XCAP client needs them.
+/// - Namespaces: http://uri.etsi.org/ngn/params/xml/simservs/xcap and urn:ietf:params:xml:ns:common-policy.
+/// - Prefixes: mapped. Elements of the services are recognised without a prefix and as `ss:`, those of common-policy as
+/// `cp:`, both with the prefixes of a namespace binder as well. Written with `ss:` and `cp:`, or those of the binder.
+/// - Read and written. Lost on writing: the content of `transformations`, the condition `presence-status`, and elements
+/// that this library does not know. Lost on reading: a timer that follows the ruleset.
+#ifndef IX_XML_COMMUNICATION_DIVERSION_H
+#define IX_XML_COMMUNICATION_DIVERSION_H
+
+#include "XMLSimservsRules.h"
+
+/// The element `NoReplyTimer`: for how long a call rings before it is forwarded.
+class IX_XML_EXPORT ix_NoReplyTimer : public XMLElement {
+  public:
+    ~ix_NoReplyTimer() override;
+    const char* ClassName() const override { return "ix_NoReplyTimer"; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "NoReplyTimer"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+
+    /// @param seconds 5 to 180. @return 1, or 0 for any other number, the earlier one kept.
+    int setNoReplyTimerValue(unsigned int seconds);
+
+    unsigned int mNoReplyTimer = 0;  ///< Seconds; 0 until set.
+};
+
+/// The element `forward-to`: the target of a forwarded call, and who is told what about it.
+///
+/// The notifications are 1 (true), 0 (false) or -1 (not set); the others are indices of the texts "false",
+/// "not-reveal-GRUU" and "true", or 3 (not set).
+class IX_XML_EXPORT ix_ns_xcap_forward_to_type : public XMLElement {
+  public:
+    static constexpr int kNotifyNotSet = -1;
+    static constexpr int kRevealNotSet = 3;
+
+    ~ix_ns_xcap_forward_to_type() override;
+    const char* ClassName() const override { return "ix_ns_xcap_forward_to_type"; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "CommunicationDiversion:ForwardToType"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Copies the address; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
+    int setTargetValue(const char* target) { return ixSetText(mTarget, target); }
+    /// @return 1.
+    int setNotifyCallerValue(int value) { return ixSetNumber(mNotifyCaller, value); }
+    int setRevealIdentityToCallerValue(int value) { return ixSetNumber(mRevealIdentityToCaller, value); }
+    int setRevealServedUserIdentityToCallerValue(int value) {
+        return ixSetNumber(mRevealServedUserIdentityToCaller, value);
+    }
+    int setNotifyServedUserValue(int value) { return ixSetNumber(mNotifyServedUser, value); }
+    int setNotifyServedUserOnOutboundCallValue(int value) {
+        return ixSetNumber(mNotifyServedUserOnOutboundCall, value);
+    }
+    int setRevealIdentityToTargetValue(int value) { return ixSetNumber(mRevealIdentityToTarget, value); }
+
+    char* mTarget = nullptr;  ///< Owned; a URI. NULL: not set.
+    int mNotifyCaller = kNotifyNotSet;
+    int mRevealIdentityToCaller = kRevealNotSet;
+    int mRevealServedUserIdentityToCaller = kRevealNotSet;
+    int mNotifyServedUser = kNotifyNotSet;
+    int mNotifyServedUserOnOutboundCall = kNotifyNotSet;
+    int mRevealIdentityToTarget = kRevealNotSet;
+};
+
+/// The element `communication-diversion`.
+class IX_XML_EXPORT ix_communication_diversion : public ix_ns_xcap_ruleServiceType {
+  public:
+    ~ix_communication_diversion() override;
+    const char* ClassName() const override;
+    const char* TypeName() const override { return "CommunicationDiversion"; }
+    const XmlFieldTable* FieldTable() const override;
+    /// As the base class; also takes the text of `NoReplyTimer`.
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Stores a timer, which passes to this element, in place of an earlier one, which is deleted; NULL clears it.
+    /// @return 1.
+    int setNoReplyTimerValue(ix_NoReplyTimer* timer) { return ixSetChild(mNoReplyTimer, timer); }
+
+    ix_NoReplyTimer* mNoReplyTimer = nullptr;  ///< Owned; NULL: none.
+
+  protected:
+    const char* SourceFile() const override;
+};
+
+class IX_XML_EXPORT CommunicationDiversionDataBinder : public XmlRuleDataBinder {
+  public:
+    /// A new `ix_communication_diversion`, active.
+    XMLElement* CreateRootElement() override;
+    ix_ns_xcap_forward_to_type* CreateForwardToTypeElement();
+
+  protected:
+    const char* SourceFile() const override;
+};
+
+class IX_XML_EXPORT CommunicationDiversionUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes the document, or one of its parts: timer, ruleset, rule, conditions, actions, target, flag. No XML
+/// declaration, and no namespace declarations but those kept from the document that the root was decoded from.
+///
+/// Required: a transformations element alone is written as `actions`, being of the same class.
+class IX_XML_EXPORT Communication_diversionMarshaller : public XmlRuleMarshaller {
+  public:
+    Communication_diversionMarshaller();
+
+    /// @return 1.
+    int AddCommunication_diversionElementToXml(ix_communication_diversion* element);
+    /// Writes nothing for NULL. @return 1.
+    int AddNoReplyTimerElementToXml(ix_NoReplyTimer* element);
+    /// @return 1.
+    int AddForwardToElementtoXml(ix_ns_xcap_forward_to_type* element);
+
+  protected:
+    void AddAction(XMLElement* action) override;
+    void AddServiceElements(const ix_ns_xcap_ruleServiceType& service) override;
+
+  private:
+    void AddNotification(e_XmlStrRef name, int value);
+};
+
+class IX_XML_EXPORT CommunicationDiversionContext : public XmlBinderContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

@@ -1,0 +1,51 @@
+#include "CommunicationBarring.h"
+
+#include <iterator>
+
+#include "SimservsRules.h"
+#include "XMLCommunicationBarring.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/CommunicationBarring";
+
+constexpr XmlKnownName kIncoming = {IX_STR_INCOMING_COMMUNICATION_BARRING, XmlKnownName::Optional, IX_STR_SS};
+constexpr XmlKnownName kOutgoing = {IX_STR_OUTGOING_COMMUNICATION_BARRING, XmlKnownName::Optional, IX_STR_SS};
+constexpr XmlKnownName kAllow = {IX_STR_ALLOW, XmlKnownName::Optional, IX_STR_SS};
+
+constexpr XmlContainerRow kContainers[] = {
+    {kIncoming, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_incoming_communication_barring)},
+    {kOutgoing, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_outgoing_communication_barring)},
+    {kAllow, XmlContainerRow::Text, "ix_allow_action_type", IX_CREATOR(ix_allow_action_type)},
+};
+
+constexpr XmlAttributeRow kAttributes[] = {
+    {kIncoming, IX_STR_ACTIVE},
+    {kOutgoing, IX_STR_ACTIVE},
+};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.names = XmlNamePolicy::Mapped;
+    info.handsOnLocalNames = true;
+    info.takesFragments = true;
+    info.attributePolicy = XmlAttributePolicy::RootPairs;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    info.shared = &kRuleDecoderInfo;
+    info.namespaces = kSimservsNamespaces;
+    info.namespaceCount = kSimservsNamespaceCount;
+    info.pairLine = __LINE__;
+    // Required: the texts of the namespace operations name the diversion decoder.
+    IX_SERVICE_DECODER_TEXTS(info.texts, "XMLCommunicationBarringDecoder", "m_strDup",
+                             "XMLCommunicationDiversionDecoder");
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLCommunicationBarringDecoder::XMLCommunicationBarringDecoder() : XmlFamilyDecoder(kInfo) {}

@@ -1,0 +1,173 @@
+#include "XMLCommunicationBarring.h"
+
+#include <iterator>
+
+#include "CommunicationBarring.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLCommunicationBarring";
+
+constexpr char kIncomingClass[] = "incoming-communication-barring";
+constexpr char kOutgoingClass[] = "outgoing-communication-barring";
+constexpr char kForwardToClass[] = "ix_ns_xcap_forward_to_type";
+constexpr char kAllowClass[] = "ix_allow_action_type";
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCommunicationBarringDecoder); };
+    info.textTokenizerLine = info.textDecoderLine = __LINE__;
+    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
+    info.noCopy = {4, kSchemaCode, __LINE__,
+                   "<XML Module>: StrDup failed in CommunicationBarringUnMarshaller::UnMarshall"};
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+constexpr XmlWriterRow kWriters[] = {
+    {kIncomingClass,
+     IX_WRITER(Communication_barringMarshaller, AddIncoming_communication_barringElementToXml,
+               ix_incoming_communication_barring),
+     {2, kSchemaCode, __LINE__, "<XML Module>: Incoming_communication_barringMarshaller XML Failed!"}},
+    {kOutgoingClass,
+     IX_WRITER(Communication_barringMarshaller, AddOutgoing_communication_barringElementToXml,
+               ix_outgoing_communication_barring),
+     {2, kSchemaCode, __LINE__, "<XML Module>: outgoing_communication_barringMarshaller XML Failed!"}},
+    {"ix_ns_common_policy_ruleset", IX_WRITER(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},
+    {"ix_ns_common_policy_ruleType", IX_WRITER(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},
+    {"ix_ns_common_policy_conditionsType",
+     IX_WRITER(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)},
+    // Required: a transformations element has this class, too, and is written as actions.
+    {"ix_ns_common_policy_extensibleType",
+     IX_WRITER(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)},
+    {"ix_empty_element_type", IX_WRITER(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type)},
+    {"ix_ns_common_policy_exceptType",
+     IX_WRITER(XmlRuleMarshaller, AddExceptElementToXml, ix_ns_common_policy_exceptType)},
+};
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.deletesFirst = true;
+    info.writers = kWriters;
+    info.writerCount = std::size(kWriters);
+    info.namespaces = kSimservsNamespaces;
+    info.namespaceCount = kSimservsNamespaceCount;
+    info.noFirstNamespace = info.noNamespace = {
+        2, kSchemaCode, __LINE__,
+        "Communication_barringMarshaller :: Communication_barringMarshaller: Malloc cannot allocate memory"};
+    IX_MARSHALL_TEXTS(info, "Communication_barringMarshaller", "mCbXml");
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+// Required: unlike other entry lines, that of the actions names the marshaller and no module.
+constexpr XmlRuleWriterTexts kRuleTexts =
+    IX_RULE_WRITER_TEXTS("Communication_barringMarshaller", "Communication_barringMarshaller: AddActionsElementToXml");
+
+constexpr XmlLogText kAddIncoming = {2, kSchemaCode, __LINE__,
+                                     "<XML Module>: AddIncoming_communication_barringElementToXml"};
+// Required: a small "o".
+constexpr XmlLogText kAddOutgoing = {2, kSchemaCode, __LINE__,
+                                     "<XML Module>: Addoutgoing_communication_barringElementToXml"};
+constexpr XmlLogText kSetType = {4, kSchemaCode, __LINE__,
+                                 "<XML Module>: in CommunicationBarringDataBinder::setCBType  %d"};
+constexpr XmlLogText kInvalidType = {4, kSchemaCode, __LINE__, "<XML Module>: CB Type is invalid "};
+
+constexpr XmlField kAllowFields[] = {
+    {XmlFieldKind::Flag, IX_STR_IX_NULL, XmlIntMember(&ix_allow_action_type::mAllow), kXmlAlwaysSet, nullptr, "text"},
+};
+constexpr XmlFieldTable kAllowTable = {nullptr, kAllowFields, std::size(kAllowFields)};
+
+}  // namespace
+
+ix_allow_action_type::~ix_allow_action_type() {
+    XmlFields::Release(this, kAllowTable);
+}
+
+const XmlFieldTable* ix_allow_action_type::FieldTable() const {
+    return &kAllowTable;
+}
+
+int ix_allow_action_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    if (!ixEndNameIs(name, IX_STR_ALLOW)) return 1;
+    return child == nullptr ? setAllowValue(ixNameIs(text, IX_STR_TRUE) ? 1 : 0) : 0;
+}
+
+const char* ix_ns_communication_barringType::SourceFile() const {
+    return kSourceFile;
+}
+
+const char* ix_incoming_communication_barring::ClassName() const {
+    return kIncomingClass;
+}
+
+const char* ix_outgoing_communication_barring::ClassName() const {
+    return kOutgoingClass;
+}
+
+int CommunicationBarringDataBinder::setCBType(XML_COMMUNICATION_BARRING_TYPE type) {
+    ixLog(kSourceFile, kSetType, static_cast<int>(type));
+    if (type != XML_CB_INCOMING && type != XML_CB_OUTGOING) {
+        ixLog(kSourceFile, kInvalidType);
+        return 0;
+    }
+    m_type = type;
+    return 1;
+}
+
+XMLElement* CommunicationBarringDataBinder::CreateRootElement() {
+    if (m_type == XML_CB_INCOMING) return IX_NEW(ix_incoming_communication_barring);
+    if (m_type == XML_CB_OUTGOING) return IX_NEW(ix_outgoing_communication_barring);
+    return nullptr;
+}
+
+ix_allow_action_type* CommunicationBarringDataBinder::CreateAllowTypeElement() {
+    return IX_NEW(ix_allow_action_type);
+}
+
+const char* CommunicationBarringDataBinder::SourceFile() const {
+    return kSourceFile;
+}
+
+const XmlUnMarshallerInfo& CommunicationBarringUnMarshaller::Info() const {
+    return kUnMarshallerInfo;
+}
+
+Communication_barringMarshaller::Communication_barringMarshaller() : XmlRuleMarshaller(kMarshallerInfo, kRuleTexts) {}
+
+int Communication_barringMarshaller::AddIncoming_communication_barringElementToXml(
+    ix_incoming_communication_barring* element) {
+    ixLog(kSourceFile, kAddIncoming);
+    AddRuleService(IX_STR_INCOMING_COMMUNICATION_BARRING, *element);
+    return 1;
+}
+
+int Communication_barringMarshaller::AddOutgoing_communication_barringElementToXml(
+    ix_outgoing_communication_barring* element) {
+    ixLog(kSourceFile, kAddOutgoing);
+    AddRuleService(IX_STR_OUTGOING_COMMUNICATION_BARRING, *element);
+    return 1;
+}
+
+void Communication_barringMarshaller::AddAction(XMLElement* action) {
+    // Required: a target is written without its address and flags.
+    if (ixIsClass(action, kForwardToClass)) AddServiceText(IX_STR_FORWARD_TO, nullptr);
+    if (ixIsClass(action, kAllowClass)) {
+        const bool allow = static_cast<const ix_allow_action_type*>(action)->mAllow != 0;
+        AddServiceText(IX_STR_ALLOW, ix_xml_common_array_definition::getStringName(allow ? IX_STR_TRUE : IX_STR_FALSE));
+    }
+}
+
+XmlFamilyMarshaller* CommunicationBarringContext::NewMarshaller() {
+    return IX_NEW(Communication_barringMarshaller);
+}
+
+XmlFamilyUnMarshaller* CommunicationBarringContext::NewUnMarshaller() {
+    return IX_NEW(CommunicationBarringUnMarshaller);
+}
+
+XMLObjectFactory* CommunicationBarringContext::NewBinderFactory() {
+    return IX_NEW(CommunicationBarringDataBinder);
+}

@@ -1,0 +1,249 @@
+#include "XMLCommunicationDiversion.h"
+
+#include <iterator>
+
+#include "CommunicationDiversion.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLCommunicationDiversion";
+
+constexpr char kClass[] = "communication-diversion";
+constexpr char kTimerClass[] = "ix_NoReplyTimer";
+constexpr char kForwardToClass[] = "ix_ns_xcap_forward_to_type";
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* {
+        return IX_NEW_AT(line, XMLCommunicationDiversionDecoder);
+    };
+    info.textTokenizerLine = info.textDecoderLine = __LINE__;
+    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
+    info.noCopy = {4, kSchemaCode, __LINE__,
+                   "<XML Module>: StrDup failed in CommunicationDiversionUnMarshaller::UnMarshall"};
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+constexpr XmlWriterRow kWriters[] = {
+    {kClass,
+     IX_WRITER(Communication_diversionMarshaller, AddCommunication_diversionElementToXml, ix_communication_diversion)},
+    {kTimerClass, IX_WRITER(Communication_diversionMarshaller, AddNoReplyTimerElementToXml, ix_NoReplyTimer)},
+    {"ix_ns_common_policy_ruleset", IX_WRITER(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},
+    {"ix_ns_common_policy_ruleType", IX_WRITER(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},
+    {"ix_ns_common_policy_conditionsType",
+     IX_WRITER(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)},
+    // Required: a transformations element has this class, too, and is written as actions.
+    {"ix_ns_common_policy_extensibleType",
+     IX_WRITER(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)},
+    {kForwardToClass,
+     IX_WRITER(Communication_diversionMarshaller, AddForwardToElementtoXml, ix_ns_xcap_forward_to_type)},
+    {"ix_empty_element_type", IX_WRITER(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type)},
+};
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.writers = kWriters;
+    info.writerCount = std::size(kWriters);
+    info.namespaces = kSimservsNamespaces;
+    info.namespaceCount = kSimservsNamespaceCount;
+    info.noFirstNamespace = info.noNamespace = {
+        2, kSchemaCode, __LINE__,
+        "Communication_diversionMarshaller :: Communication_diversionMarshaller: Malloc cannot allocate memory"};
+    IX_MARSHALL_TEXTS(info, "Communication_diversionMarshaller", "mCdivXml");
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+constexpr XmlRuleWriterTexts kRuleTexts =
+    IX_RULE_WRITER_TEXTS("Communication_diversionMarshaller", "<XML Module>: AddActionsElementToXml");
+
+constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__, "<XML Module>: AddCommunication_diversionElementToXml"};
+
+constexpr unsigned int kShortestTimer = 5;
+constexpr unsigned int kLongestTimer = 180;
+
+constexpr char kRevealTexts[][100] = {"false", "not-reveal-GRUU", "true"};
+constexpr XmlEnumeration kReveal = {kRevealTexts[0], sizeof kRevealTexts[0], int{std::size(kRevealTexts)}};
+static_assert(kReveal.count == ix_ns_xcap_forward_to_type::kRevealNotSet, "not set is past the last text");
+
+constexpr XmlField kTimerFields[] = {
+    {XmlFieldKind::Unsigned, IX_STR_IX_NULL, XmlUnsignedMember(&ix_NoReplyTimer::mNoReplyTimer), kXmlAlwaysSet, nullptr,
+     "text"},
+};
+constexpr XmlFieldTable kTimerTable = {nullptr, kTimerFields, std::size(kTimerFields)};
+
+constexpr XmlField Notification(e_XmlStrRef name, int ix_ns_xcap_forward_to_type::*member) {
+    return {XmlFieldKind::Flag, name, XmlIntMember(member), ix_ns_xcap_forward_to_type::kNotifyNotSet};
+}
+
+constexpr XmlField Reveal(e_XmlStrRef name, int ix_ns_xcap_forward_to_type::*member) {
+    return {XmlFieldKind::Enumeration, name, XmlIntMember(member), ix_ns_xcap_forward_to_type::kRevealNotSet, &kReveal};
+}
+
+constexpr XmlField kForwardToFields[] = {
+    {XmlFieldKind::Text, IX_STR_TARGET, XmlTextMember(&ix_ns_xcap_forward_to_type::mTarget)},
+    Notification(IX_STR_NOTIFY_CALLER, &ix_ns_xcap_forward_to_type::mNotifyCaller),
+    Reveal(IX_STR_REVEAL_IDENTITY_TO_CALLER, &ix_ns_xcap_forward_to_type::mRevealIdentityToCaller),
+    Reveal(IX_STR_REVEAL_SERVED_USER_IDENTITY_TO_CALLER,
+           &ix_ns_xcap_forward_to_type::mRevealServedUserIdentityToCaller),
+    Notification(IX_STR_NOTIFY_SERVED_USER, &ix_ns_xcap_forward_to_type::mNotifyServedUser),
+    Notification(IX_STR_NOTIFY_SERVED_USER_ON_OUTBOUND_CALL,
+                 &ix_ns_xcap_forward_to_type::mNotifyServedUserOnOutboundCall),
+    Reveal(IX_STR_REVEAL_IDENTITY_TO_TARGET, &ix_ns_xcap_forward_to_type::mRevealIdentityToTarget),
+};
+constexpr XmlFieldTable kForwardToTable = {nullptr, kForwardToFields, std::size(kForwardToFields)};
+
+// The timer comes before the ruleset of the base class, which frees its field itself.
+constexpr XmlField kDiversionFields[] = {
+    {XmlFieldKind::Child, IX_STR_NOREPLYTIMER, IX_CHILD_MEMBER(ix_communication_diversion, mNoReplyTimer)},
+    {XmlFieldKind::Child, IX_STR_RULESET, IX_CHILD_MEMBER(ix_communication_diversion, mRuleset)},
+};
+constexpr XmlFieldTable kDiversionTable = {&kSimservTable, kDiversionFields, std::size(kDiversionFields)};
+constexpr XmlFieldTable kOwnDiversionTable = {nullptr, kDiversionFields, 1};
+
+}  // namespace
+
+ix_NoReplyTimer::~ix_NoReplyTimer() {
+    XmlFields::Release(this, kTimerTable);
+}
+
+const XmlFieldTable* ix_NoReplyTimer::FieldTable() const {
+    return &kTimerTable;
+}
+
+int ix_NoReplyTimer::setNoReplyTimerValue(unsigned int seconds) {
+    if (seconds < kShortestTimer || seconds > kLongestTimer) return 0;
+    mNoReplyTimer = seconds;
+    return 1;
+}
+
+ix_ns_xcap_forward_to_type::~ix_ns_xcap_forward_to_type() {
+    XmlFields::Release(this, kForwardToTable);
+}
+
+const XmlFieldTable* ix_ns_xcap_forward_to_type::FieldTable() const {
+    return &kForwardToTable;
+}
+
+int ix_ns_xcap_forward_to_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    if (name == nullptr || child != nullptr) return 0;
+    // Start tags are waited for, the text comes with the end tag.
+    const bool isEnd = *name == '/';
+    const char* const local = isEnd ? name + 1 : name;
+    for (const XmlField& field : kForwardToFields) {
+        if (!ixNameIs(local, field.name)) continue;
+        if (!isEnd || text == nullptr) return 1;
+        if (field.kind == XmlFieldKind::Text) return setTargetValue(text);
+        int& value = this->*static_cast<int ix_ns_xcap_forward_to_type::*>(field.member.number);
+        if (field.kind == XmlFieldKind::Flag) {
+            if (ixNameIs(text, IX_STR_TRUE)) value = 1;
+            if (ixNameIs(text, IX_STR_FALSE)) value = 0;
+        } else {
+            value = kReveal.IndexOf(text);
+        }
+        return 1;
+    }
+    return 0;
+}
+
+ix_communication_diversion::~ix_communication_diversion() {
+    XmlFields::Release(this, kOwnDiversionTable);
+}
+
+const char* ix_communication_diversion::ClassName() const {
+    return kClass;
+}
+
+const XmlFieldTable* ix_communication_diversion::FieldTable() const {
+    return &kDiversionTable;
+}
+
+int ix_communication_diversion::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    if (!ixEndNameIs(name, IX_STR_NOREPLYTIMER))
+        return ix_ns_xcap_ruleServiceType::ProcessUnMarshall(name, text, child);
+    if (child != nullptr) return 0;
+    ix_NoReplyTimer* const timer = IX_NEW(ix_NoReplyTimer);
+    if (timer == nullptr) return 0;
+    // A number that is refused leaves the timer at 0.
+    if (text != nullptr) timer->setNoReplyTimerValue(static_cast<unsigned int>(__atoi(text)));
+    return setNoReplyTimerValue(timer);
+}
+
+const char* ix_communication_diversion::SourceFile() const {
+    return kSourceFile;
+}
+
+XMLElement* CommunicationDiversionDataBinder::CreateRootElement() {
+    return IX_NEW(ix_communication_diversion);
+}
+
+ix_ns_xcap_forward_to_type* CommunicationDiversionDataBinder::CreateForwardToTypeElement() {
+    return IX_NEW(ix_ns_xcap_forward_to_type);
+}
+
+const char* CommunicationDiversionDataBinder::SourceFile() const {
+    return kSourceFile;
+}
+
+const XmlUnMarshallerInfo& CommunicationDiversionUnMarshaller::Info() const {
+    return kUnMarshallerInfo;
+}
+
+Communication_diversionMarshaller::Communication_diversionMarshaller()
+    : XmlRuleMarshaller(kMarshallerInfo, kRuleTexts) {}
+
+int Communication_diversionMarshaller::AddCommunication_diversionElementToXml(ix_communication_diversion* element) {
+    ixLog(kSourceFile, kAddElement);
+    AddRuleService(IX_STR_COMMUNICATION_DIVERSION, *element);
+    return 1;
+}
+
+void Communication_diversionMarshaller::AddServiceElements(const ix_ns_xcap_ruleServiceType& service) {
+    AddNoReplyTimerElementToXml(static_cast<const ix_communication_diversion&>(service).mNoReplyTimer);
+}
+
+int Communication_diversionMarshaller::AddNoReplyTimerElementToXml(ix_NoReplyTimer* element) {
+    if (element == nullptr) return 1;
+    SetElementPrefix(IX_STR_SS);
+    AddDecimalElement(IX_STR_NOREPLYTIMER, element->mNoReplyTimer);
+    return 1;
+}
+
+void Communication_diversionMarshaller::AddAction(XMLElement* action) {
+    if (ixIsClass(action, kForwardToClass)) AddForwardToElementtoXml(static_cast<ix_ns_xcap_forward_to_type*>(action));
+}
+
+int Communication_diversionMarshaller::AddForwardToElementtoXml(ix_ns_xcap_forward_to_type* element) {
+    StartPrefixed(IX_STR_SS, IX_STR_FORWARD_TO);
+    AddTextElement(IX_STR_TARGET, element->mTarget);
+    AddNotification(IX_STR_NOTIFY_CALLER, element->mNotifyCaller);
+    AddTextElement(IX_STR_REVEAL_IDENTITY_TO_CALLER, kReveal.TextOf(element->mRevealIdentityToCaller));
+    AddTextElement(IX_STR_REVEAL_SERVED_USER_IDENTITY_TO_CALLER,
+                   kReveal.TextOf(element->mRevealServedUserIdentityToCaller));
+    AddNotification(IX_STR_NOTIFY_SERVED_USER, element->mNotifyServedUser);
+    AddNotification(IX_STR_NOTIFY_SERVED_USER_ON_OUTBOUND_CALL, element->mNotifyServedUserOnOutboundCall);
+    AddTextElement(IX_STR_REVEAL_IDENTITY_TO_TARGET, kReveal.TextOf(element->mRevealIdentityToTarget));
+    EndElement(IX_STR_FORWARD_TO);
+    return 1;
+}
+
+/// Nothing when it is not set.
+void Communication_diversionMarshaller::AddNotification(e_XmlStrRef name, int value) {
+    if (value == ix_ns_xcap_forward_to_type::kNotifyNotSet) return;
+    AddTextElement(name, ix_xml_common_array_definition::getStringName(value == 1 ? IX_STR_TRUE : IX_STR_FALSE));
+}
+
+XmlFamilyMarshaller* CommunicationDiversionContext::NewMarshaller() {
+    return IX_NEW(Communication_diversionMarshaller);
+}
+
+XmlFamilyUnMarshaller* CommunicationDiversionContext::NewUnMarshaller() {
+    return IX_NEW(CommunicationDiversionUnMarshaller);
+}
+
+XMLObjectFactory* CommunicationDiversionContext::NewBinderFactory() {
+    return IX_NEW(CommunicationDiversionDataBinder);
+}

@@ -1,0 +1,407 @@
+#include "XMLSimservsRules.h"
+
+#include <iterator>
+
+namespace {
+
+constexpr char kRulesetClass[] = "ix_ns_common_policy_ruleset";
+constexpr char kFlagClass[] = "ix_empty_element_type";
+constexpr char kMediaClass[] = "ix_ns_xcap_media_type";
+
+constexpr XmlLogText kAddRuleset = {2, kSchemaCode, __LINE__, "<XML Module>: AddRuleSetElementToXml"};
+constexpr XmlLogText kRulesetFailed = {4, kSchemaCode, __LINE__,
+                                       "<XML Module>: AddRuleSetElementToXml Rule ID mandatory"};
+constexpr XmlLogText kAddRule = {2, kSchemaCode, __LINE__, "<XML Module>: AddRuleElementToXml"};
+constexpr XmlLogText kRuleWithoutId = {4, kSchemaCode, __LINE__, "<XML Module>: AddRuleElementToXml Rule ID mandatory"};
+constexpr XmlLogText kAddConditions = {2, kSchemaCode, __LINE__, "<XML Module>: AddConditionsElementToXml"};
+constexpr XmlLogText kEmptyIdentity = {4, kSchemaCode, __LINE__,
+                                       "<XML Module>: Identity element - m_OneListCount: %d, m_ManyListCount: %d"};
+constexpr XmlLogText kOneWithoutId = {4, kSchemaCode, __LINE__,
+                                      "<XML Module>: One element's - Id attribute is mandatory"};
+constexpr XmlLogText kSphereWithoutValue = {4, kSchemaCode, __LINE__,
+                                            "<XML Module>: Sphere element's - Value attribute is mandatory"};
+constexpr XmlLogText kUnevenValidity = {4, kSchemaCode, __LINE__,
+                                        "<XML Module>: Validity element - m_fromListCount: %d, m_untilListCount: %d"};
+constexpr XmlLogText kAddTransformations = {2, kSchemaCode, __LINE__, "<XML Module>: AddTransformationsElementToXml"};
+
+/// Size of the buffer in which the tag of a flag is put together; longer names are cut.
+constexpr std::size_t kFlagBufferSize = 100;
+
+constexpr XmlField kMediaFields[] = {
+    {XmlFieldKind::Text, IX_STR_IX_NULL, XmlTextMember(&ix_ns_xcap_media_type::mMedia), 0, nullptr, "text"},
+};
+constexpr XmlFieldTable kMediaTable = {nullptr, kMediaFields, std::size(kMediaFields)};
+
+constexpr XmlField kPresenceStatusFields[] = {
+    {XmlFieldKind::Text, IX_STR_IX_NULL, XmlTextMember(&ix_presence_status_activity_type::mPresenceStatus), 0, nullptr,
+     "text"},
+};
+constexpr XmlFieldTable kPresenceStatusTable = {nullptr, kPresenceStatusFields, std::size(kPresenceStatusFields)};
+
+constexpr XmlField kExternalListFields[] = {
+    {XmlFieldKind::Text, IX_STR_IX_NULL, XmlTextMember(&ix_external_list::mExternalList), 0, nullptr, "text"},
+};
+constexpr XmlFieldTable kExternalListTable = {nullptr, kExternalListFields, std::size(kExternalListFields)};
+
+constexpr XmlField kRuleServiceFields[] = {
+    {XmlFieldKind::Child, IX_STR_RULESET, IX_CHILD_MEMBER(ix_ns_xcap_ruleServiceType, mRuleset)},
+};
+constexpr XmlFieldTable kRuleServiceTable = {&kSimservTable, kRuleServiceFields, std::size(kRuleServiceFields)};
+
+/// The first node, or NULL for no list and an empty one.
+const IxSingleElementNode* HeadOf(const IxSingleElementList* list) {
+    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+}
+
+int CountOf(const IxSingleElementList* list) {
+    return list != nullptr ? list->GetCount() : 0;
+}
+
+/// Takes the text of the element's own end tag. @return 1, or 0 for an object or without memory.
+int TakeOwnText(char*& field, e_XmlStrRef own, const char* name, const char* text, const XMLElement* child) {
+    if (!ixEndNameIs(name, own)) return 1;
+    return child == nullptr ? ixOverwriteText(field, text) : 0;
+}
+
+}  // namespace
+
+ix_ns_xcap_media_type::~ix_ns_xcap_media_type() {
+    XmlFields::Release(this, kMediaTable);
+}
+
+const XmlFieldTable* ix_ns_xcap_media_type::FieldTable() const {
+    return &kMediaTable;
+}
+
+int ix_ns_xcap_media_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    return TakeOwnText(mMedia, IX_STR_MEDIA, name, text, child);
+}
+
+ix_presence_status_activity_type::~ix_presence_status_activity_type() {
+    XmlFields::Release(this, kPresenceStatusTable);
+}
+
+const XmlFieldTable* ix_presence_status_activity_type::FieldTable() const {
+    return &kPresenceStatusTable;
+}
+
+int ix_presence_status_activity_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    return TakeOwnText(mPresenceStatus, IX_STR_PRESENCE_STATUS, name, text, child);
+}
+
+ix_external_list::~ix_external_list() {
+    XmlFields::Release(this, kExternalListTable);
+}
+
+const XmlFieldTable* ix_external_list::FieldTable() const {
+    return &kExternalListTable;
+}
+
+ix_ns_xcap_ruleServiceType::~ix_ns_xcap_ruleServiceType() {
+    XmlFields::Release(this, kRuleServiceTable);
+}
+
+const XmlFieldTable* ix_ns_xcap_ruleServiceType::FieldTable() const {
+    return &kRuleServiceTable;
+}
+
+int ix_ns_xcap_ruleServiceType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
+    return ixNameIs(name, IX_STR_RULESET) ? ixTakeChild(mRuleset, child, kRulesetClass) : 1;
+}
+
+int ix_ns_xcap_ruleServiceType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    if (pair != nullptr) return TakeExtension(attribute, pair);
+    if (!ixNameIs(attribute, IX_STR_ACTIVE)) return 1;
+    if (ixNameIs(value, IX_STR_TRUE)) setActiveValue(1);
+    if (ixNameIs(value, IX_STR_FALSE)) setActiveValue(0);
+    return 1;
+}
+
+int ix_ns_xcap_ruleServiceType::setRulesetValue(ix_ns_common_policy_ruleset* ruleset) {
+    return ruleset != nullptr ? ixSetChild(mRuleset, ruleset) : 1;
+}
+
+int ix_ns_xcap_ruleServiceType::ExtensionListLine() const {
+    return __LINE__;
+}
+
+/// A new element, registered under the service's own source file.
+#define IX_NEW_RULE_ELEMENT(type) IX_TRACKED_NEW(kSchemaModule, SourceFile(), __LINE__, type, ())
+
+ix_ns_common_policy_ruleset* XmlRuleDataBinder::CreateRuleSetElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_ruleset);
+}
+
+ix_ns_common_policy_ruleType* XmlRuleDataBinder::CreateRuleTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_ruleType);
+}
+
+ix_ns_common_policy_conditionsType* XmlRuleDataBinder::CreateConditionsTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_conditionsType);
+}
+
+ix_ns_common_policy_identityType* XmlRuleDataBinder::CreateIdentityTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_identityType);
+}
+
+ix_ns_common_policy_oneType* XmlRuleDataBinder::CreateOneTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_oneType);
+}
+
+ix_ns_common_policy_manyType* XmlRuleDataBinder::CreateManyTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_manyType);
+}
+
+ix_ns_common_policy_exceptType* XmlRuleDataBinder::CreateExceptTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_exceptType);
+}
+
+ix_ns_common_policy_sphereType* XmlRuleDataBinder::CreateSphereTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_sphereType);
+}
+
+ix_ns_common_policy_validityType* XmlRuleDataBinder::CreateValidityTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_validityType);
+}
+
+ix_ns_common_policy_extensibleType* XmlRuleDataBinder::CreateActionsTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_extensibleType);
+}
+
+ix_ns_common_policy_extensibleType* XmlRuleDataBinder::CreateTransformationsTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_common_policy_extensibleType);
+}
+
+ix_empty_element_type* XmlRuleDataBinder::CreateEmptyTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_empty_element_type);
+}
+
+XmlRuleMarshaller::XmlRuleMarshaller(const XmlMarshallerInfo& info, const XmlRuleWriterTexts& texts)
+    : XmlServiceMarshaller(info), m_texts(texts) {}
+
+void XmlRuleMarshaller::StartPrefixed(e_XmlStrRef prefix, e_XmlStrRef name) {
+    SetElementPrefix(prefix);
+    StartElement(name);
+}
+
+void XmlRuleMarshaller::EndPrefixed(e_XmlStrRef prefix, e_XmlStrRef name) {
+    SetElementPrefix(prefix);
+    EndElement(name);
+}
+
+void XmlRuleMarshaller::AddServiceText(e_XmlStrRef name, const char* text) {
+    SetElementPrefix(IX_STR_SS);
+    AddTextOrEmptyElement(name, text);
+}
+
+void XmlRuleMarshaller::AddRuleService(e_XmlStrRef name, const ix_ns_xcap_ruleServiceType& service) {
+    AddServiceStart(name, service, Attribute::Closing);
+    AddServiceElements(service);
+    // Required: a ruleset that ends early does not fail the document.
+    if (service.mRuleset != nullptr) AddRuleSetElementToXml(service.mRuleset);
+    EndPrefixed(IX_STR_SS, name);
+}
+
+void XmlRuleMarshaller::AddServiceElements(const ix_ns_xcap_ruleServiceType& /*service*/) {}
+
+int XmlRuleMarshaller::AddRuleSetElementToXml(ix_ns_common_policy_ruleset* element) {
+    ixLog(Source(), kAddRuleset);
+    StartPrefixed(IX_STR_CP, IX_STR_RULESET);
+    for (const IxSingleElementNode* node = HeadOf(element->mRuleList); node != nullptr; node = node->next) {
+        auto* const rule = static_cast<ix_ns_common_policy_ruleType*>(node->key);
+        if (rule != nullptr && AddRuleElementToXml(rule) == 0) {
+            ixLog(Source(), kRulesetFailed);
+            return 0;
+        }
+    }
+    EndPrefixed(IX_STR_CP, IX_STR_RULESET);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddRuleElementToXml(ix_ns_common_policy_ruleType* element) {
+    ixLog(Source(), kAddRule);
+    SetElementPrefix(IX_STR_CP);
+    StartElementOpen(IX_STR_RULE);
+    if (element->mId == nullptr) {
+        ixLog(Source(), kRuleWithoutId);
+        return 0;
+    }
+    AddOnlyAttribute(IX_STR_ID, element->mId, Attribute::Closing);
+    // Required: parts that end early do not fail the rule.
+    if (element->mConditions != nullptr) AddConditionsElementToXml(element->mConditions);
+    if (element->mActions != nullptr) AddActionsElementToXml(element->mActions);
+    if (element->mTransformations != nullptr) AddTransformationsElementToXml(element->mTransformations);
+    EndPrefixed(IX_STR_CP, IX_STR_RULE);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddConditionsElementToXml(ix_ns_common_policy_conditionsType* element) {
+    ixLog(Source(), kAddConditions);
+    StartPrefixed(IX_STR_CP, IX_STR_CONDITIONS);
+    for (const IxSingleElementNode* node = HeadOf(element->mIdentityList); node != nullptr; node = node->next) {
+        const auto* const identity = static_cast<const ix_ns_common_policy_identityType*>(node->key);
+        if (identity != nullptr && AddIdentityElementToXml(*identity) == 0) return 0;
+    }
+    for (const IxSingleElementNode* node = HeadOf(element->mSphereList); node != nullptr; node = node->next) {
+        const auto* const sphere = static_cast<const ix_ns_common_policy_sphereType*>(node->key);
+        if (sphere != nullptr && AddSphereElementToXml(*sphere) == 0) return 0;
+    }
+    for (const IxSingleElementNode* node = HeadOf(element->mValidityList); node != nullptr; node = node->next) {
+        const auto* const validity = static_cast<const ix_ns_common_policy_validityType*>(node->key);
+        if (validity != nullptr && AddValidityElementToXml(*validity) == 0) return 0;
+    }
+    for (const IxSingleElementNode* node = HeadOf(element->mOtherConditionsList); node != nullptr; node = node->next) {
+        AddFlagOrMedia(static_cast<XMLElement*>(node->key));
+    }
+    EndPrefixed(IX_STR_CP, IX_STR_CONDITIONS);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddIdentityElementToXml(const ix_ns_common_policy_identityType& element) {
+    StartPrefixed(IX_STR_CP, IX_STR_IDENTITY);
+    if (HeadOf(element.mOneList) == nullptr && HeadOf(element.mManyList) == nullptr) {
+        ixLog(Source(), kEmptyIdentity, CountOf(element.mOneList), CountOf(element.mManyList));
+        return 0;
+    }
+    for (const IxSingleElementNode* node = HeadOf(element.mOneList); node != nullptr; node = node->next) {
+        const auto* const one = static_cast<const ix_ns_common_policy_oneType*>(node->key);
+        if (one == nullptr) continue;
+        StartElementOpen(IX_STR_ONE);
+        if (one->mId == nullptr) {
+            ixLog(Source(), kOneWithoutId);
+            return 0;
+        }
+        AddOnlyAttribute(IX_STR_ID, one->mId, Attribute::SelfClosing);
+    }
+    AddManyList(element.mManyList);
+    EndElement(IX_STR_IDENTITY);
+    return 1;
+}
+
+/// Required: the walk over the list shares its counter with the walk over the exceptions of each entry. After an entry
+/// with a list of n exceptions it goes on at the entry n + 1, which skips entries, or goes back and never ends. Senders
+/// and servers have settled on the documents that come out. IMSXML_WALKS_END makes the walk end where it would go back.
+void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
+    const IxSingleElementNode* node = HeadOf(list);
+    int index = 0;
+    while (node != nullptr) {
+        const auto* const many = static_cast<const ix_ns_common_policy_manyType*>(node->key);
+        int next = index + 1;
+        if (many != nullptr) {
+            StartElementOpen(IX_STR_MANY);
+            // Required: without a domain nothing closes the start tag.
+            if (many->mDomain != nullptr) AddOnlyAttribute(IX_STR_DOMAIN, many->mDomain, Attribute::Closing);
+            if (many->mExceptList != nullptr) next = 1;
+            for (const IxSingleElementNode* inner = HeadOf(many->mExceptList); inner != nullptr; inner = inner->next) {
+                if (inner->key != nullptr)
+                    AddExceptElementToXml(static_cast<ix_ns_common_policy_exceptType*>(inner->key));
+                ++next;
+            }
+            EndElement(IX_STR_MANY);
+        }
+        if (next <= index) {
+#ifdef IMSXML_WALKS_END
+            return;
+#endif
+            node = HeadOf(list);
+            index = 0;
+        }
+        for (; index < next && node != nullptr; ++index) node = node->next;
+    }
+}
+
+int XmlRuleMarshaller::AddSphereElementToXml(const ix_ns_common_policy_sphereType& element) {
+    SetElementPrefix(IX_STR_CP);
+    StartElementOpen(IX_STR_SPHERE);
+    if (element.mValue == nullptr) {
+        ixLog(Source(), kSphereWithoutValue);
+        return 0;
+    }
+    AddOnlyAttribute(IX_STR_VALUE, element.mValue, Attribute::Closing);
+    EndElement(IX_STR_SPHERE);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddValidityElementToXml(const ix_ns_common_policy_validityType& element) {
+    StartPrefixed(IX_STR_CP, IX_STR_VALIDITY);
+    const IxSingleElementNode* from = HeadOf(element.mFromList);
+    const IxSingleElementNode* until = HeadOf(element.mUntilList);
+    if (from == nullptr || CountOf(element.mFromList) != CountOf(element.mUntilList)) {
+        ixLog(Source(), kUnevenValidity, CountOf(element.mFromList), CountOf(element.mUntilList));
+        return 0;
+    }
+    for (; from != nullptr && until != nullptr; from = from->next, until = until->next) {
+        const auto* const begin = static_cast<const ix_string*>(from->key);
+        const auto* const end = static_cast<const ix_string*>(until->key);
+        AddTextOrEmptyElement(IX_STR_FROM, begin != nullptr ? begin->mValue : nullptr);
+        AddTextOrEmptyElement(IX_STR_UNTIL, end != nullptr ? end->mValue : nullptr);
+    }
+    EndElement(IX_STR_VALIDITY);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddExceptElementToXml(ix_ns_common_policy_exceptType* element) {
+    StartElementOpen(IX_STR_EXCEPT);
+    if (element->mDomain != nullptr) AddOnlyAttribute(IX_STR_DOMAIN, element->mDomain, Attribute::Open);
+    // Required: without an id nothing closes the start tag.
+    if (element->mId != nullptr && element->mDomain != nullptr) {
+        AddAttribute(IX_STR_ID, element->mId, Attribute::Closing);
+    } else if (element->mId != nullptr) {
+        AddOnlyAttribute(IX_STR_ID, element->mId, Attribute::Closing);
+    }
+    EndElement(IX_STR_EXCEPT);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddActionsElementToXml(ix_ns_common_policy_extensibleType* element) {
+    ixLog(Source(), m_texts.addActions);
+    StartPrefixed(IX_STR_CP, IX_STR_ACTIONS);
+    for (const IxSingleElementNode* node = HeadOf(element->mElementList); node != nullptr; node = node->next) {
+        auto* const action = static_cast<XMLElement*>(node->key);
+        AddFlagOrMedia(action);
+        AddAction(action);
+    }
+    EndPrefixed(IX_STR_CP, IX_STR_ACTIONS);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddTransformationsElementToXml(ix_ns_common_policy_extensibleType* /*element*/) {
+    ixLog(Source(), kAddTransformations);
+    SetElementPrefix(IX_STR_CP);
+    AddTextOrEmptyElement(IX_STR_TRANSFORMATIONS, nullptr);
+    return 1;
+}
+
+int XmlRuleMarshaller::AddEmptyElementtoXml(ix_empty_element_type* element) {
+    if (element == nullptr) {
+        ixLog(Source(), m_texts.noFlag);
+        return 0;
+    }
+    if (element->mPresent == 0) {
+        ixLog(Source(), m_texts.flagNotPresent);
+        return 0;
+    }
+    char* const tag = static_cast<char*>(__malloc(kFlagBufferSize));
+    if (tag == nullptr) {
+        ixLog(Source(), m_texts.noFlagBuffer);
+        GiveUp();
+        return 0;
+    }
+    const char* const name = element->mName != nullptr ? element->mName : "";
+    std::size_t length = __strlen(name);
+    if (length > kFlagBufferSize - 2) length = kFlagBufferSize - 2;
+    std::memcpy(tag, name, length);
+    std::memcpy(tag + length, "/", 2);
+    SetElementPrefix(IX_STR_SS);
+    m_generator.ixStartElement(tag, 0);
+    __free(tag);
+    return 1;
+}
+
+void XmlRuleMarshaller::AddFlagOrMedia(XMLElement* element) {
+    if (ixIsClass(element, kFlagClass)) {
+        AddEmptyElementtoXml(static_cast<ix_empty_element_type*>(element));
+    } else if (ixIsClass(element, kMediaClass)) {
+        AddServiceText(IX_STR_MEDIA, static_cast<const ix_ns_xcap_media_type*>(element)->mMedia);
+    }
+}
