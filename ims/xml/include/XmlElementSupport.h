@@ -7,11 +7,14 @@
 
 #include "XMLCommonDef.h"
 
+/// True when `name` is exactly `expected`, which is not NULL.
+inline bool ixNameIs(const char* name, const char* expected) {
+    return name != nullptr && *name == *expected && std::strcmp(name, expected) == 0;
+}
+
 /// True when `name` is exactly the fixed string `entry`.
 inline bool ixNameIs(const char* name, e_XmlStrRef entry) {
-    if (name == nullptr) return false;
-    const char* const expected = ix_xml_common_array_definition::arrXmlStrRef[entry];
-    return *name == *expected && std::strcmp(name, expected) == 0;
+    return ixNameIs(name, ix_xml_common_array_definition::arrXmlStrRef[entry]);
 }
 
 /// True when `name` is the end tag of the element `entry`: "/" and the fixed string.
@@ -22,6 +25,11 @@ inline bool ixEndNameIs(const char* name, e_XmlStrRef entry) {
 /// True when `element` is an object of the class `className`. NULL is of no class.
 IX_XML_EXPORT bool ixIsClass(const XMLElement* element, const char* className);
 
+/// True for an object that has no class name, which a hook answers with 1 and does not take.
+inline bool ixIsNameless(const XMLElement* element) {
+    return element != nullptr && element->ClassName() == nullptr;
+}
+
 /// `attribute` as a pair, or NULL when it is none.
 IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
 
@@ -29,9 +37,19 @@ IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
 /// @return 1, or 0 without memory, the earlier text kept.
 IX_XML_EXPORT int ixSetText(char*& field, const char* text);
 
-/// Stores a number. @return 1.
-template <class Number>
-int ixSetNumber(Number& field, Number value) {
+/// Copies the text or value that a hook was offered into `field`; `object` is what it was offered with.
+/// @return 1, also for NULL, which changes nothing; 0 with an object, or without memory.
+inline int ixTakeText(char*& field, const char* text, const void* object) {
+    if (object != nullptr) return 0;
+    return text != nullptr ? ixSetText(field, text) : 1;
+}
+
+/// Decimal text to number as `__atoi` does it, within the limits of the type: 0 for a negative one.
+IX_XML_EXPORT unsigned int ixToUnsigned(const char* text);
+
+/// Stores a flag, a number or an enumerator. @return 1.
+template <class Field, class Value>
+int ixSetNumber(Field& field, Value value) {
     field = value;
     return 1;
 }
@@ -72,11 +90,23 @@ IX_XML_EXPORT int ixSetElementList(IxSingleElementList*& field, IxSingleElementL
 /// clears the field. @return 1.
 IX_XML_EXPORT int ixSetAttributeList(IxSingleElementList*& field, IxSingleElementList* list);
 
+/// Replaces an owned list of owned texts by `list`, which passes to the element; the earlier one is deleted. NULL
+/// clears the field. @return 1.
+IX_XML_EXPORT int ixSetTextList(IxSingleElementList*& field, IxSingleElementList* list);
+
 /// Appends `entry` to a list that is created on first use and registered under `source` and `line`.
 /// @return 1, or 0 without memory, when the entry stays with the caller.
 IX_XML_EXPORT int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line);
 
+/// Appends a copy of the `length` characters at `text` as `ixAppend` does. @return 1, or 0 for NULL or without memory.
+IX_XML_EXPORT int ixAppendText(IxSingleElementList*& list, const char* text, std::size_t length, const char* source,
+                               int line);
+
 /// A pair with copies of both texts, NULL for NULL, registered under `source` and `line`; NULL without memory.
 IX_XML_EXPORT ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line);
+
+/// An element without content that is present under the name `name` (copied), registered under `source` and `line`;
+/// NULL without memory.
+IX_XML_EXPORT ix_empty_element_type* ixCreateEmptyElement(const char* name, const char* source, int line);
 
 #endif

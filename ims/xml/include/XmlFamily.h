@@ -34,7 +34,12 @@ struct XmlKnownName {
     e_XmlStrRef local;
     Prefix use = None;
     e_XmlStrRef prefix = IX_STR_IX_NULL;
+    const char* spelling = nullptr;  ///< The local name itself, where the string table does not have it.
 
+    static constexpr XmlKnownName Of(const char* spelling) { return {IX_STR_IX_NULL, None, IX_STR_IX_NULL, spelling}; }
+    const char* Local() const {
+        return spelling != nullptr ? spelling : ix_xml_common_array_definition::getStringName(local);
+    }
     bool Matches(const char* name) const;
 };
 
@@ -65,7 +70,8 @@ struct XmlContainerRow {
 struct XmlAttributeRow {
     XmlKnownName element;
     e_XmlStrRef attribute;
-    bool ignored = false;  ///< It is not given to anybody.
+    bool ignored = false;             ///< It is not given to anybody.
+    const char* className = nullptr;  ///< The row counts only for an object of this class; NULL: for any.
 };
 
 /// Who gets the attributes of an element.
@@ -94,7 +100,8 @@ struct XmlDecoderTexts {
     XmlLogText changeEndTagNoMemory{};  ///< ... and end tags.
     XmlLogText mappedTagNoMemory{};     ///< XMLChangeNamespaceTag, for the mapped name: start tags ...
     XmlLogText mappedEndTagNoMemory{};  ///< ... and end tags.
-    XmlLogText removeTagNoMemory{};     ///< XMLRemoveNameSpaceTag.
+    XmlLogText removeTagNoMemory{};     ///< XMLRemoveNameSpaceTag ...
+    XmlLogText removeTagNoTag{};        ///< ... and without a tag.
 };
 
 /// What is particular to the decoder of a schema.
@@ -103,6 +110,7 @@ struct XmlDecoderInfo {
     XmlNamePolicy names = XmlNamePolicy::Raw;
     bool handsOnLocalNames = false;  ///< Elements without an object are handed on without prefix, mapped or not.
     bool takesFragments = false;     ///< Any container may be the outermost element and is the result then.
+    bool wrapsNameSize = false;      ///< Room for a name without prefix is counted in 16 bits: a longer one is cut.
     XmlAttributePolicy attributePolicy = XmlAttributePolicy::Own;
     XmlDecoderTexts texts{};
     const XmlContainerRow* containers = nullptr;
@@ -160,13 +168,20 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
 
     /// The object on top of the stack, or NULL.
     XMLElement* Top() const { return m_stack.empty() ? nullptr : static_cast<XMLElement*>(m_stack.top()); }
+    /// Puts a new object on the stack; the attributes that follow are its own. A full stack drops it.
+    void Push(XMLElement* object);
+    /// Takes the object on top off the stack, if it is of the class `className`.
+    void Pop(const char* className);
+    /// Offers a new object to `receiver`, under the name `name`. One that is refused is deleted, and goes off the stack
+    /// if it was pushed before. @return true when it was taken.
+    bool Offer(XMLElement& receiver, char* name, XMLElement* object);
     /// Makes `root` the result in place of an earlier one, which the decoder then frees when it ends. @return false
     /// without memory, when the earlier one stays and `root` is deleted.
     bool SetSessionData(XMLElement* root);
 
   private:
     const XmlContainerRow* FindContainer(const char* name) const;
-    const XmlAttributeRow* FindAttribute(const char* element, const char* attribute) const;
+    const XmlAttributeRow* FindAttribute(const char* element, const char* attribute, const XMLElement* receiver) const;
     bool EndContainer(const XmlContainerRow& row, char* name, char* text, bool& offered);
     char* ComparedName(char* element);
     bool OfferToTop(const XmlContainerRow& row, XMLElement* object);
@@ -325,7 +340,9 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     void AddDecimalAttribute(e_XmlStrRef name, std::int64_t value, Attribute end);
     /// The only attribute of its tag, one blank before it.
     void AddOnlyAttribute(e_XmlStrRef name, const char* value, Attribute end);
-    /// Each pair as an attribute, the last one with `end`.
+    /// The last pair of a list that has a name, so that it can be written; NULL: none.
+    static const ix_AttributeValuePair* LastAttribute(const IxSingleElementList* list);
+    /// Each pair that has a name as an attribute, the last one with `end`.
     void AddAttributeList(const IxSingleElementList* list, Attribute end = Attribute::Open);
     /// Calls `add` for each entry in order until one answers 0, whose index `failedChild` then logs. @return 1, or 0.
     int AddChildList(const IxSingleElementList* list, XmlWriter add, const XmlLogText& failedChild = {});

@@ -9,6 +9,7 @@
 #define IX_XML_FIELDS_H
 
 #include <climits>
+#include <cstring>
 
 #include "XMLCommonDef.h"
 
@@ -37,8 +38,22 @@ struct XmlEnumeration {
         return value >= 0 && value < count ? rows + static_cast<std::size_t>(value) * width : nullptr;
     }
 
-    /// The first row that is exactly `text`, or `count`.
-    int IndexOf(const char* text) const;
+    /// The first row that is exactly `text`; `count` for none, and for NULL.
+    int IndexOf(const char* text) const {
+        int index = 0;
+        while (index < count && (text == nullptr || std::strcmp(text, TextOf(index)) != 0)) ++index;
+        return index;
+    }
+
+    /// The first row that `text` begins with; `count` for none, and for NULL.
+    int IndexOfPrefix(const char* text) const {
+        int index = 0;
+        while (index < count &&
+               (text == nullptr || std::strncmp(text, TextOf(index), std::strlen(TextOf(index))) != 0)) {
+            ++index;
+        }
+        return index;
+    }
 };
 
 /// Pointers to data members, as the table holds them.

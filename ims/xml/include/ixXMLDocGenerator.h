@@ -73,6 +73,17 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
     /// True when text was cut off since the buffer was last empty.
     bool IsTruncated() const { return m_bTruncated; }
 
+    /// A place in the text, to come back to.
+    struct Place {
+        std::size_t length;
+        int startTagOpen;
+        bool truncated;
+    };
+    /// The end of the text as it is now.
+    Place Here() const { return {m_length, m_iStartTagOpen, m_bTruncated}; }
+    /// Takes away what was written behind `place`.
+    void CutBack(const Place& place);
+
     /// A copy of `value` with its double quotes replaced, to be freed by the caller (`FreeElement`); NULL for NULL or
     /// without memory.
     char* escapeString(const char* value) const;

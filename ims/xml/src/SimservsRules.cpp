@@ -17,13 +17,8 @@ constexpr XmlKnownName Service(e_XmlStrRef local) {
 
 /// A flag is known by its presence; the object keeps its local name.
 XMLElement* CreateFlag(const char* name, const char* source) {
-    auto* const flag = IX_TRACKED_NEW(kSchemaModule, source, __LINE__, ix_empty_element_type, ());
-    if (flag == nullptr) return nullptr;
     const char* const colon = __strchr(name, ':');
-    flag->setPresentValue(1);
-    if (flag->setNameValue(colon != nullptr ? colon + 1 : name) != 0) return flag;
-    IX_DELETE(flag);
-    return nullptr;
+    return ixCreateEmptyElement(colon != nullptr ? colon + 1 : name, source, __LINE__);
 }
 
 constexpr char kFlagClass[] = "ix_empty_element_type";

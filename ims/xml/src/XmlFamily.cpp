@@ -29,10 +29,11 @@ bool XmlKnownName::Matches(const char* name) const {
     if (use != None) {
         const char* const expected = ix_xml_common_array_definition::getStringName(prefix);
         const std::size_t length = std::strlen(expected);
-        if (std::strncmp(name, expected, length) == 0 && name[length] == ':') return ixNameIs(name + length + 1, local);
-        if (use == Required) return false;
+        const bool prefixed = std::strncmp(name, expected, length) == 0 && name[length] == ':';
+        if (!prefixed && use == Required) return false;
+        if (prefixed) name += length + 1;
     }
-    return ixNameIs(name, local);
+    return ixNameIs(name, Local());
 }
 
 XmlFamilyDecoder::XmlFamilyDecoder(const XmlDecoderInfo& info) : m_info(info) {
@@ -84,16 +85,26 @@ int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
 
 int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
     m_pPassName = nullptr;
-    if (tag == nullptr) return 0;
-    if (!m_passText.Reserve(std::strlen(tag) + 2)) {
+    if (tag == nullptr) {
+        ixLog(m_info.source, m_info.texts.removeTagNoTag);
+        return 0;
+    }
+    const std::size_t length = std::strlen(tag);
+    std::size_t size = length + 2;
+    // Required: some decoders count the size in 16 bits, so that of a name of 65534 characters and more only the
+    // beginning is there. It is cut to its room, never written past it.
+    if (m_info.wrapsNameSize) size = static_cast<std::uint16_t>(size);
+    if (!m_passText.Reserve(size)) {
         ixLog(m_info.source, m_info.texts.removeTagNoMemory);
         return 0;
     }
+    const char* const end = tag + (length < size ? length : size - (size != 0 ? 1 : 0));
     char* to = m_passText.Text();
-    if (*tag == '/') *to++ = *tag++;
-    const char* const colon = std::strchr(tag, ':');
-    if (colon != nullptr) tag = colon + 1;
-    std::memcpy(to, tag, std::strlen(tag) + 1);
+    if (*tag == '/' && tag != end) *to++ = *tag++;
+    const void* const colon = std::memchr(tag, ':', static_cast<std::size_t>(end - tag));
+    if (colon != nullptr) tag = static_cast<const char*>(colon) + 1;
+    std::memcpy(to, tag, static_cast<std::size_t>(end - tag));
+    to[end - tag] = '\0';
     m_pPassName = m_passText.Text();
     return 1;
 }
@@ -151,7 +162,7 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     const bool toTop = policy == XmlAttributePolicy::Top || policy == XmlAttributePolicy::TopTwice;
     XMLElement* const receiver = toTop ? Top() : m_pOwn;
     if (receiver == nullptr) return 0;
-    const XmlAttributeRow* const known = FindAttribute(name, attribute);
+    const XmlAttributeRow* const known = FindAttribute(name, attribute, receiver);
     if (known != nullptr) {
         if (value != nullptr && !known->ignored) receiver->ProcessUnMarshallAttribute(attribute, value, nullptr);
         if (policy != XmlAttributePolicy::TopTwice) return 0;
@@ -177,11 +188,13 @@ const XmlContainerRow* XmlFamilyDecoder::FindContainer(const char* name) const {
     return nullptr;
 }
 
-const XmlAttributeRow* XmlFamilyDecoder::FindAttribute(const char* element, const char* attribute) const {
+const XmlAttributeRow* XmlFamilyDecoder::FindAttribute(const char* element, const char* attribute,
+                                                       const XMLElement* receiver) const {
     for (const XmlDecoderInfo* info = &m_info; info != nullptr; info = info->shared) {
         for (std::size_t i = 0; i < info->attributeCount; ++i) {
             const XmlAttributeRow& row = info->attributes[i];
-            if (ixNameIs(attribute, row.attribute) && row.element.Matches(element)) return &row;
+            if (!ixNameIs(attribute, row.attribute) || !row.element.Matches(element)) continue;
+            if (row.className == nullptr || ixIsClass(receiver, row.className)) return &row;
         }
     }
     return nullptr;
@@ -200,8 +213,7 @@ int XmlFamilyDecoder::StartElement(char* name) {
     }
     if (isResult ? !SetSessionData(object) : !OfferToTop(*row, object)) return 0;
     if (row->role == XmlContainerRow::Leaf && !isResult) return 0;
-    m_stack.push(object);
-    m_pOwn = Top() == object ? object : nullptr;
+    Push(object);
     m_bOwnIsRoot = isRoot;
     return 0;
 }
@@ -252,6 +264,16 @@ int XmlFamilyDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char
     return 0;
 }
 
+void XmlFamilyDecoder::Push(XMLElement* object) {
+    m_stack.push(object);
+    m_pOwn = Top() == object ? object : nullptr;
+    m_bOwnIsRoot = false;
+}
+
+void XmlFamilyDecoder::Pop(const char* className) {
+    if (!m_stack.empty() && ixIsClass(Top(), className)) m_stack.pop();
+}
+
 bool XmlFamilyDecoder::SetSessionData(XMLElement* root) {
     // An earlier root may still be on the stack, so it can go only with the decoder.
     if (m_pSessionData != nullptr && !KeepOrphan(m_pSessionData)) {
@@ -262,13 +284,18 @@ bool XmlFamilyDecoder::SetSessionData(XMLElement* root) {
     return true;
 }
 
-/// Offers a new object to the one on top, and deletes it when that does not take it. @return true when it was taken.
+/// Offers a new object to the one on top, under its local name. @return true when it was taken.
 bool XmlFamilyDecoder::OfferToTop(const XmlContainerRow& row, XMLElement* object) {
     char local[sizeof ix_xml_common_array_definition::arrXmlStrRef[0]];
-    std::memcpy(local, ix_xml_common_array_definition::getStringName(row.name.local), sizeof local);
-    XMLElement* const top = Top();
-    const bool taken = top->ProcessUnMarshall(local, nullptr, object) != 0;
-    if (taken && (XmlFields::HoldsChild(*top, object) || KeepOrphan(object))) return true;
+    __strlcpy(local, row.name.Local(), sizeof local);
+    return Offer(*Top(), local, object);
+}
+
+bool XmlFamilyDecoder::Offer(XMLElement& receiver, char* name, XMLElement* object) {
+    const bool taken = receiver.ProcessUnMarshall(name, nullptr, object) != 0;
+    if (taken && (XmlFields::HoldsChild(receiver, object) || KeepOrphan(object))) return true;
+    if (Top() == object) m_stack.pop();
+    m_pOwn = nullptr;
     IX_DELETE(object);
     return false;
 }
@@ -452,12 +479,23 @@ void XmlFamilyMarshaller::AddOnlyAttribute(e_XmlStrRef name, const char* value, 
                                  end == Attribute::SelfClosing ? 1 : 0, end == Attribute::Closing ? 1 : 0);
 }
 
+const ix_AttributeValuePair* XmlFamilyMarshaller::LastAttribute(const IxSingleElementList* list) {
+    const ix_AttributeValuePair* last = nullptr;
+    if (list == nullptr || list->LastNode() == nullptr) return last;
+    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
+        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+        if (pair != nullptr && pair->mName != nullptr) last = pair;
+    }
+    return last;
+}
+
 void XmlFamilyMarshaller::AddAttributeList(const IxSingleElementList* list, Attribute end) {
-    if (list == nullptr || list->LastNode() == nullptr) return;
+    const ix_AttributeValuePair* const last = LastAttribute(list);
+    if (last == nullptr) return;
     for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
         const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
         if (pair == nullptr) continue;
-        const Attribute ending = node->next == nullptr ? end : Attribute::Open;
+        const Attribute ending = pair == last ? end : Attribute::Open;
         m_generator.ixAddNameSpacePrefixToXml(pair->mName, pair->mValue, nullptr,
                                               ending == Attribute::SelfClosing ? 1 : 0,
                                               ending == Attribute::Closing ? 1 : 0);

@@ -61,12 +61,6 @@ bool FieldsEqual(const XMLElement& left, const XMLElement& right, const XmlField
 
 }  // namespace
 
-int XmlEnumeration::IndexOf(const char* text) const {
-    int index = 0;
-    while (index < count && std::strcmp(rows + static_cast<std::size_t>(index) * width, text) != 0) ++index;
-    return index;
-}
-
 const char* XmlFields::Text(const XMLElement& element, const XmlField& field) {
     return field.kind == XmlFieldKind::Text ? element.*field.member.text : nullptr;
 }

@@ -174,6 +174,14 @@ void IxXMLDocGenerator::ixEndXmlElementNs(const char* name, const char* prefix) 
     m_iStartTagOpen = 0;
 }
 
+void IxXMLDocGenerator::CutBack(const Place& place) {
+    if (m_pBuffer == nullptr || place.length > m_length) return;
+    m_length = place.length;
+    m_pBuffer[m_length] = '\0';
+    m_iStartTagOpen = place.startTagOpen;
+    m_bTruncated = place.truncated;
+}
+
 char* IxXMLDocGenerator::escapeString(const char* value) const {
     if (value == nullptr) return nullptr;
     std::size_t size = 1;
