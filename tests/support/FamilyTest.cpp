@@ -1,6 +1,7 @@
 #include "FamilyTest.h"
 
 #include "../../ims/tools/imsxml/Json.h"
+#include "XmlFields.h"
 
 std::string Sample(const std::string& name) {
     return ReadFile(PROJECT_DIR "/samples/" + name + ".xml");
@@ -18,6 +19,44 @@ Strings Pairs(const IxSingleElementList* list) {
 
 nlohmann::ordered_json TreeOf(const XMLElement* root) {
     return root != nullptr ? ToJson(*root) : nlohmann::ordered_json();
+}
+
+int FamilyTest::Offer(XMLElement& element, const char* name, const char* text, XMLElement* child) {
+    return element.ProcessUnMarshall(const_cast<char*>(name), const_cast<char*>(text), child);
+}
+
+int FamilyTest::OfferAttribute(XMLElement& element, const char* attribute, const char* value, XMLAttribute* pair) {
+    return element.ProcessUnMarshallAttribute(const_cast<char*>(attribute), const_cast<char*>(value), pair);
+}
+
+void FamilyTest::ExpectTakesItsChildOnly(XMLElement& element, const std::string& name) {
+    SCOPED_TRACE(element.ClassName() + (": " + name));
+    ix_string other;
+    NamelessElement nameless;
+    EXPECT_EQ(Offer(element, name.c_str(), nullptr, nullptr), 0);
+    EXPECT_EQ(Offer(element, name.c_str(), nullptr, &other), 0);
+    EXPECT_EQ(Offer(element, name.c_str(), nullptr, &nameless), 1);
+    EXPECT_EQ(Offer(element, (name + "s").c_str(), nullptr, &other), 1);
+    EXPECT_EQ(Offer(element, nullptr, nullptr, nullptr), 1);
+    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) EXPECT_FALSE(XmlFields::IsSet(element, table->fields[i])) << i;
+    }
+}
+
+void FamilyTest::ExpectTakesText(XMLElement& element, const std::string& name, char* const& field) {
+    SCOPED_TRACE(element.ClassName() + (": " + name));
+    const std::string end = "/" + name;
+    ix_string other;
+    EXPECT_EQ(Offer(element, end.c_str(), "replaced", nullptr), 1);
+    EXPECT_EQ(Offer(element, end.c_str(), "kept", nullptr), 1);
+    EXPECT_EQ(Offer(element, end.c_str(), nullptr, nullptr), 1);
+    EXPECT_EQ(Offer(element, end.c_str(), "refused", &other), 0);
+    EXPECT_EQ(Offer(element, name.c_str(), "ignored", nullptr), 1);
+    EXPECT_EQ(Offer(element, (end + "s").c_str(), "ignored", nullptr), 1);
+    ixDplHostFailAllocation(1);
+    EXPECT_EQ(Offer(element, end.c_str(), "no memory", nullptr), 0);
+    ixDplHostStopCounting();
+    EXPECT_STREQ(field, "kept");
 }
 
 XMLElement* FamilyTest::Decode(eXMLSchemaID id, const std::string& text, XMLObject* binder) {

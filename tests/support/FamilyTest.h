@@ -20,8 +20,27 @@ Strings Pairs(const IxSingleElementList* list);
 /// The tree as the command prints it; null for NULL.
 nlohmann::ordered_json TreeOf(const XMLElement* root);
 
+/// An element without class name.
+class NamelessElement : public ix_string {
+  public:
+    const char* ClassName() const override { return nullptr; }
+};
+
 class FamilyTest : public XmlTest {
   protected:
+    /// Calls `ProcessUnMarshall`, which changes none of the texts.
+    static int Offer(XMLElement& element, const char* name, const char* text, XMLElement* child);
+
+    /// Calls `ProcessUnMarshallAttribute`, which changes none of the texts.
+    static int OfferAttribute(XMLElement& element, const char* attribute, const char* value,
+                              XMLAttribute* pair = nullptr);
+
+    /// Checks that a hook takes no child `name` but of its class, and answers 1 to what it does not know.
+    static void ExpectTakesItsChildOnly(XMLElement& element, const std::string& name);
+
+    /// Checks that a hook copies the text of the element `name` into `field`, at its end tag only.
+    static void ExpectTakesText(XMLElement& element, const std::string& name, char* const& field);
+
     /// Decodes with a fresh context, and with a namespace binder when there is one.
     static XMLElement* Decode(eXMLSchemaID id, const std::string& text, XMLObject* binder = nullptr);
 

@@ -49,6 +49,13 @@ std::vector<LogLine> XmlTest::LogOf(const std::string& file) {
     return lines;
 }
 
+std::vector<std::string> XmlTest::NewLinesOf(const std::string& file) {
+    std::vector<std::string> lines;
+    for (const LogLine& line : LogOf(file)) lines.push_back(std::to_string(line.level) + ' ' + line.text);
+    ClearLog();
+    return lines;
+}
+
 std::vector<std::string> XmlTest::Texts() {
     std::vector<std::string> texts;
     for (const LogLine& line : Log()) texts.push_back(line.text);

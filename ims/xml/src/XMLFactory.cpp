@@ -1,5 +1,7 @@
 #include "XMLFactory.h"
 
+#include "XMLCWIndication.h"
+#include "XMLCallWaitingIndication.h"
 #include "XMLCommunicationBarring.h"
 #include "XMLCommunicationDiversion.h"
 #include "XMLCommunicationWaiting.h"
@@ -8,6 +10,8 @@
 #include "XMLSchemaNameSpaceRetrieval.h"
 #include "XMLSimservs.h"
 #include "XMLTerminatingIdentityPresentation.h"
+#include "XMLXcapDirectory.h"
+#include "XMLXcapError.h"
 
 namespace {
 
@@ -37,7 +41,8 @@ constexpr XmlSchemaInfo kSchemas[] = {
      []() -> XMLContext* { return IX_NEW(CommunicationBarringContext); }},
     {IX_XML_SCHEMA_SIMSERVS, "simservs", "simservs", kSimservs, true, true,
      []() -> XMLContext* { return IX_NEW(SimservsContext); }},
-    {IX_XML_SCHEMA_XCAP_ERROR, "xcap-error", "xcap-error", "urn:ietf:params:xml:ns:xcap-error", true, false, nullptr},
+    {IX_XML_SCHEMA_XCAP_ERROR, "xcap-error", "xcap-error", "urn:ietf:params:xml:ns:xcap-error", true, false,
+     []() -> XMLContext* { return IX_NEW(XcapErrorContext); }},
     {IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "wap-provisioning", "wap-provisioningdoc", "", false, false, nullptr},
     {IX_XML_SCHEMA_VOLTE_CONFIG_INFO, "volte-config-info", "volte-config-info", "", false, false, nullptr},
     {IX_XML_SCHEMA_PRESENCE, "presence", "presence", "urn:ietf:params:xml:ns:pidf", true, false, nullptr},
@@ -45,11 +50,13 @@ constexpr XmlSchemaInfo kSchemas[] = {
      nullptr},
     {IX_XML_SCHEMA_LIST, "rlmi", "list", "urn:ietf:params:xml:ns:rlmi", true, false, nullptr},
     {IX_XML_SCHEMA_XCAP_DIRECTORY, "xcap-directory", "xcap-directory", "urn:oma:xml:xdm:xcap-directory", true, false,
-     nullptr},
+     []() -> XMLContext* { return IX_NEW(XcapDirectoryContext); }},
     {IX_XML_SCHEMA_FILE, "file-transfer", "file", "", true, false, nullptr},
     {IX_XML_SCHEMA_MEDIA_CONTROL, "media-control", "media_control", "", true, false, nullptr},
-    {IX_XML_SCHEMA_CALL_WAITING_INDICATION, "call-waiting-indication", "3gpp-ims", "", true, false, nullptr},
-    {IX_XML_SCHEMA_CW_INDICATION, "cw-indication", "ims-3gpp", "", true, false, nullptr},
+    {IX_XML_SCHEMA_CALL_WAITING_INDICATION, "call-waiting-indication", "3gpp-ims", "", true, false,
+     []() -> XMLContext* { return IX_NEW(CallWaitingIndicationContext); }},
+    {IX_XML_SCHEMA_CW_INDICATION, "cw-indication", "ims-3gpp", "", true, false,
+     []() -> XMLContext* { return IX_NEW(CWIndicationContext); }},
     {IX_XML_SCHEMA_RCS_TERMS_INFO, "rcs-terms-info", "rcs-terms-info", "", true, false, nullptr},
     {IX_XML_SCHEMA_BOOTSTRAPPING_INFO, "bootstrapping-info", "BootstrappingInfo", "uri:3gpp-gba", true, false, nullptr},
     {IX_XML_SCHEMA_GRUU, "gruu", "pub-gruu temp-gruu", "urn:ietf:params:xml:ns:gruuinfo", true, false,

@@ -1,0 +1,13 @@
+/// @file
+/// Decoder of the CW indication (XMLCWIndication.h).
+#ifndef IX_CW_INDICATION_H
+#define IX_CW_INDICATION_H
+
+#include "XmlFamily.h"
+
+class IX_XML_EXPORT XMLCWIndicationDecoder : public XmlFamilyDecoder {
+  public:
+    XMLCWIndicationDecoder();
+};
+
+#endif

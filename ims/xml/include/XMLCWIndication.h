@@ -1,0 +1,94 @@
+/// @file
+/// CW indication, the other form of the IM CN subsystem XML body (3GPP TS 24.229): tells a client what an alternative
+/// service of the network wants it to do, for example to register again.
+///
+/// - Root element: `ims-3gpp`, with the attribute `version`, one `alternative-service` with the texts `type`, `reason`
+///   and `action`, and the text `service-info`. XMLImsBody.h tells what the document shares with the call waiting
+///   indication.
+/// - Namespace: none is expected or written.
+/// - Prefixes: removed.
+/// - Read and written. The three texts are always written, one that was not set without content. Lost: other attributes
+///   and elements, and all but the last `alternative-service`.
+#ifndef IX_XML_CW_INDICATION_H
+#define IX_XML_CW_INDICATION_H
+
+#include "XMLImsBody.h"
+
+/// The element `alternative-service`.
+class IX_XML_EXPORT ix_alternative_service : public XMLElement {
+  public:
+    ~ix_alternative_service() override;
+    const char* ClassName() const override;
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "AlternativeService"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// @name Each copies its text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
+    /// @{
+    int setActionValue(const char* action) { return ixSetText(mAction, action); }
+    int setTypeValue(const char* type) { return ixSetText(mType, type); }
+    int setReasonValue(const char* reason) { return ixSetText(mReason, reason); }
+    /// @}
+
+    char* mAction = nullptr;  ///< Owned; what is to be done. NULL: not set.
+    char* mType = nullptr;    ///< Owned; the kind of service. NULL: not set.
+    char* mReason = nullptr;  ///< Owned; why, for people. NULL: not set.
+};
+
+/// The element `ims-3gpp`.
+class IX_XML_EXPORT ix_ims_3gpp : public ix_imsBodyType {
+  public:
+    ~ix_ims_3gpp() override;
+    const char* ClassName() const override;
+    const char* TypeName() const override { return "Ims3gpp"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Takes over the service in place of an earlier one, which is deleted; NULL: none. @return 1.
+    int setAlternativeServiceValue(ix_alternative_service* service) { return ixSetChild(mAlternativeService, service); }
+    /// Copies `info`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
+    int setServiceInfoValue(const char* info) { return ixSetText(mServiceInfo, info); }
+
+    ix_alternative_service* mAlternativeService = nullptr;  ///< Owned; NULL: not set.
+    char* mServiceInfo = nullptr;                           ///< Owned; NULL: not set.
+
+  protected:
+    const char* SourceFile() const override;
+};
+
+/// Creates the elements of the schema; each creator yields NULL without memory.
+class IX_XML_EXPORT CWIndicationDataBinder : public XMLObjectFactory {
+  public:
+    /// A new `ix_ims_3gpp`.
+    XMLElement* CreateRootElement() override;
+    ix_alternative_service* CreateAlternativeServiceElement();
+};
+
+class IX_XML_EXPORT CWIndicationUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes the document without XML declaration.
+class IX_XML_EXPORT CWIndicationMarshaller : public XmlImsBodyMarshaller {
+  public:
+    CWIndicationMarshaller();
+
+    /// @name Each answers 1, or 0 for NULL.
+    /// @{
+    int AddIms3gppElementToXml(ix_ims_3gpp* element);
+    int AddAlternativeServiceElementToXml(ix_alternative_service* service);
+    /// @}
+};
+
+class IX_XML_EXPORT CWIndicationContext : public XmlFamilyContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

@@ -1,0 +1,276 @@
+/// @file
+/// XCAP error (RFC 4825, section 11.2): why an XCAP server refused a change, the body of a 409 response.
+///
+/// - Root element: `xcap-error`, with one element for the error condition, which may carry a `phrase` for people. Two
+///   conditions have details: `no-parent` an `ancestor`, `uniqueness-failure` the values that `exists` already.
+/// - Namespace: urn:ietf:params:xml:ns:xcap-error. It is not expected; it is written as the default namespace.
+/// - Prefixes: removed. An element `error-element` is seen through: what is in it counts as if it were not there.
+/// - Read and written, with XML declaration. A phrase of the root is read and not written. The contents of `extension`,
+///   and all other attributes and elements, are lost. Of several conditions the last one is kept.
+///
+/// `kClass` of a class is what its `ClassName` answers.
+#ifndef IX_XML_XCAP_ERROR_H
+#define IX_XML_XCAP_ERROR_H
+
+#include "XmlElementSupport.h"
+#include "XmlFamily.h"
+#include "XmlFields.h"
+
+class ix_exists;
+
+/// What carries a phrase: the root, and every error condition but `extension`.
+class IX_XML_EXPORT ix_phraseType : public XMLElement {
+  public:
+    ~ix_phraseType() override;
+    const char* BaseClassName() const override { return "XMLElement"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `phrase`; NULL clears it. @return 1, or 0 without memory, the earlier phrase kept.
+    int setPhraseValue(const char* phrase) { return ixSetText(mPhrase, phrase); }
+
+    char* mPhrase = nullptr;  ///< Owned: the error in words for people; NULL: not set.
+};
+
+/// The element `xcap-error`.
+class IX_XML_EXPORT ix_xcap_error : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_xcap_error";
+
+    ~ix_xcap_error() override;
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "XcapError"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Takes over an object of one of the classes below; an earlier one is deleted. NULL: none. @return 1.
+    int setErrorValue(XMLElement* error) { return ixSetChild(mError, error); }
+
+    XMLElement* mError =
+        nullptr;  ///< Owned: the error condition, an object of one of the classes below; NULL: not set.
+};
+
+/// The element `extension`: a condition of the server's own, of which nothing but its presence is kept.
+class IX_XML_EXPORT ix_extension : public XMLElement {
+  public:
+    static constexpr char kClass[] = "ix_extension";
+
+    const char* ClassName() const override { return kClass; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "Extension"; }
+    int Reserved() const override { return 0; }
+    /// A table without fields: an extension keeps nothing that it is offered.
+    const XmlFieldTable* FieldTable() const override;
+};
+
+/// The element `schema-validation-error`: the document would not fit its schema.
+class IX_XML_EXPORT ix_schema_validation_error : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_schema_validation_error";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "SchemaValidationError"; }
+};
+
+/// The element `not-xml-frag`: the body is no XML element.
+class IX_XML_EXPORT ix_not_xml_frag : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_not_xml_frag";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "NotXmlFrag"; }
+};
+
+/// The element `no-parent`: there is nothing into which the element or document could be put.
+class IX_XML_EXPORT ix_no_parent : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_no_parent";
+
+    ~ix_no_parent() override;
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "NoParent"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Copies `ancestor`; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
+    int setAncestorValue(const char* ancestor) { return ixSetText(mAncestor, ancestor); }
+
+    char* mAncestor = nullptr;  ///< Owned: URI of the closest ancestor that does exist; NULL: not set.
+};
+
+/// The element `cannot-insert`: the request would not be idempotent.
+class IX_XML_EXPORT ix_cannot_insert : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_cannot_insert";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "CannotInsert"; }
+};
+
+/// The element `not-xml-att-value`: the body is no attribute value.
+class IX_XML_EXPORT ix_not_xml_att_value : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_not_xml_att_value";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "NotXmlAttValue"; }
+};
+
+/// The element `uniqueness-failure`: values that have to be unique are in use.
+class IX_XML_EXPORT ix_uniqueness_failure : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_uniqueness_failure";
+
+    ~ix_uniqueness_failure() override;
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "UniquenessFailure"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Takes over a list of `ix_exists`; an earlier one is deleted. NULL: none. @return 1.
+    int setExistsListValue(IxSingleElementList* list) { return ixSetElementList(mExistsList, list); }
+    /// Appends an object, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
+    /// caller.
+    int addExists(ix_exists* exists);
+
+    IxSingleElementList* mExistsList = nullptr;  ///< Owned `ix_exists`; NULL: none.
+};
+
+/// The element `exists` of a uniqueness failure: one value in use.
+class IX_XML_EXPORT ix_exists : public XMLElement {
+  public:
+    static constexpr char kClass[] = "ix_exists";
+
+    ~ix_exists() override;
+    const char* ClassName() const override { return kClass; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "Exists"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `field`; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
+    int setFieldValue(const char* field) { return ixSetText(mField, field); }
+    /// Takes over a list of texts; an earlier one is deleted. NULL: none. @return 1.
+    int setAltValueListValue(IxSingleElementList* list) { return ixSetTextList(mAltValueList, list); }
+    /// Appends a copy of `value`. @return 1, or 0 for NULL or without memory.
+    int addAltValue(const char* value);
+
+    char* mField = nullptr;  ///< Owned: node selector of the element or attribute that has the value; NULL: not set.
+    IxSingleElementList* mAltValueList = nullptr;  ///< Owned texts: values that are free; NULL: none.
+};
+
+/// The element `not-well-formed`: the body is no well-formed XML.
+class IX_XML_EXPORT ix_not_well_formed : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_not_well_formed";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "NotWellFormed"; }
+};
+
+/// The element `constraint-failure`: the document would break a rule of its application usage.
+class IX_XML_EXPORT ix_constraint_failure : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_constraint_failure";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "ConstraintFailure"; }
+};
+
+/// The element `cannot-delete`: the request would not be idempotent.
+class IX_XML_EXPORT ix_cannot_delete : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_cannot_delete";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "CannotDelete"; }
+};
+
+/// The element `not-utf-8`: the body is in another encoding.
+class IX_XML_EXPORT ix_not_utf_8 : public ix_phraseType {
+  public:
+    static constexpr char kClass[] = "ix_not_utf_8";
+
+    const char* ClassName() const override { return kClass; }
+    const char* TypeName() const override { return "NotUtf8"; }
+};
+
+class IX_XML_EXPORT XcapErrorDataBinder : public XMLObjectFactory {
+  public:
+    /// A new `ix_xcap_error`.
+    XMLElement* CreateRootElement() override;
+    ix_extension* CreateExtensionElement();
+    ix_not_utf_8* CreateNot_utf_8Element();
+    ix_cannot_delete* CreateCannot_deleteElement();
+    ix_constraint_failure* CreateConstraint_failureElement();
+    ix_not_well_formed* CreateNot_well_formedElement();
+    ix_exists* CreateExistsElement();
+    ix_uniqueness_failure* CreateUniqueness_failureElement();
+    ix_not_xml_att_value* CreateNot_xml_att_valueElement();
+    ix_cannot_insert* CreateCannot_insertElement();
+    ix_no_parent* CreateNo_parentElement();
+    ix_not_xml_frag* CreateNot_xml_fragElement();
+    ix_schema_validation_error* CreateSchema_validation_errorElement();
+    /// An empty list, for objects that exist or for alternative values.
+    IxSingleElementList* CreateList();
+};
+
+class IX_XML_EXPORT XcapErrorUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes the XML declaration and `<xcap-error  xmlns="..."  ...>` with the error condition in it, as in
+/// `<cannot-delete  phrase="...">`, `</cannot-delete>`. A condition of any other class is left out.
+///
+/// The writers answer 1, or 0 for NULL.
+class IX_XML_EXPORT Xcap_ErrorMarshall : public XmlFamilyMarshaller {
+  public:
+    Xcap_ErrorMarshall();
+
+    int AddXcap_errorElementToXml(ix_xcap_error* element);
+    int AddSchema_validation_errorElementToXml(ix_schema_validation_error* element) {
+        return AddError(__func__, IX_STR_SCHEMA_VALIDATION_ERROR, element);
+    }
+    int AddNot_xml_fragElementToXml(ix_not_xml_frag* element) {
+        return AddError(__func__, IX_STR_NOT_XML_FRAG, element);
+    }
+    int AddNo_parentElementToXml(ix_no_parent* element);
+    int AddCannot_insertElementToXml(ix_cannot_insert* element) {
+        return AddError(__func__, IX_STR_CANNOT_INSERT, element);
+    }
+    int AddNot_xml_att_valueElementToXml(ix_not_xml_att_value* element) {
+        return AddError(__func__, IX_STR_NOT_XML_ATT_VALUE, element);
+    }
+    int AddUniqueness_failureElementToXml(ix_uniqueness_failure* element);
+    int AddExistsElementToXml(ix_exists* element);
+    int AddNot_well_formedElementToXml(ix_not_well_formed* element) {
+        return AddError(__func__, IX_STR_NOT_WELL_FORMED, element);
+    }
+    int AddConstraint_failureElementToXml(ix_constraint_failure* element) {
+        return AddError(__func__, IX_STR_CONSTRAINT_FAILURE, element);
+    }
+    int AddCannot_deleteElementToXml(ix_cannot_delete* element) {
+        return AddError(__func__, IX_STR_CANNOT_DELETE, element);
+    }
+    int AddNot_utf_8ElementToXml(ix_not_utf_8* element) { return AddError(__func__, IX_STR_NOT_UTF_8, element); }
+    /// Without contents.
+    int AddExtensionElementToXml(ix_extension* element);
+
+  private:
+    int StartError(const char* writer, e_XmlStrRef name, const ix_phraseType* element);
+    int AddError(const char* writer, e_XmlStrRef name, const ix_phraseType* element);
+    void StartElementWith(e_XmlStrRef name, e_XmlStrRef attribute, const char* value);
+};
+
+class IX_XML_EXPORT XcapErrorContext : public XmlFamilyContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

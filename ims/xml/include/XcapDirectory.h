@@ -1,0 +1,13 @@
+/// @file
+/// Decoder of the XCAP directory (XMLXcapDirectory.h).
+#ifndef IX_XCAP_DIRECTORY_H
+#define IX_XCAP_DIRECTORY_H
+
+#include "XmlFamily.h"
+
+class IX_XML_EXPORT XMLXcapDirectoryDecoder : public XmlFamilyDecoder {
+  public:
+    XMLXcapDirectoryDecoder();
+};
+
+#endif

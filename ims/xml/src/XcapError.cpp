@@ -1,0 +1,83 @@
+#include "XcapError.h"
+
+#include <iterator>
+
+#include "XMLXcapError.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XcapError";
+
+constexpr XmlKnownName kRoot = {IX_STR_XCAP_ERROR};
+constexpr XmlKnownName kExtension = {IX_STR_EXTENSION};
+constexpr XmlKnownName kSchemaValidationError = {IX_STR_SCHEMA_VALIDATION_ERROR};
+constexpr XmlKnownName kNotXmlFrag = {IX_STR_NOT_XML_FRAG};
+constexpr XmlKnownName kNoParent = {IX_STR_NO_PARENT};
+constexpr XmlKnownName kCannotInsert = {IX_STR_CANNOT_INSERT};
+constexpr XmlKnownName kNotXmlAttValue = {IX_STR_NOT_XML_ATT_VALUE};
+constexpr XmlKnownName kUniquenessFailure = {IX_STR_UNIQUENESS_FAILURE};
+constexpr XmlKnownName kExists = {IX_STR_EXISTS};
+constexpr XmlKnownName kNotWellFormed = {IX_STR_NOT_WELL_FORMED};
+constexpr XmlKnownName kConstraintFailure = {IX_STR_CONSTRAINT_FAILURE};
+constexpr XmlKnownName kCannotDelete = {IX_STR_CANNOT_DELETE};
+constexpr XmlKnownName kNotUtf8 = {IX_STR_NOT_UTF_8};
+
+// An element `error-element` has no row: nobody knows it, so what is in it reaches the root.
+constexpr XmlContainerRow kContainers[] = {
+    {kRoot, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_xcap_error)},
+    {kExtension, XmlContainerRow::Child, ix_extension::kClass, IX_CREATOR(ix_extension)},
+    {kSchemaValidationError, XmlContainerRow::Child, ix_schema_validation_error::kClass,
+     IX_CREATOR(ix_schema_validation_error)},
+    {kNotXmlFrag, XmlContainerRow::Child, ix_not_xml_frag::kClass, IX_CREATOR(ix_not_xml_frag)},
+    {kNoParent, XmlContainerRow::Child, ix_no_parent::kClass, IX_CREATOR(ix_no_parent)},
+    {kCannotInsert, XmlContainerRow::Child, ix_cannot_insert::kClass, IX_CREATOR(ix_cannot_insert)},
+    {kNotXmlAttValue, XmlContainerRow::Child, ix_not_xml_att_value::kClass, IX_CREATOR(ix_not_xml_att_value)},
+    {kUniquenessFailure, XmlContainerRow::Child, ix_uniqueness_failure::kClass, IX_CREATOR(ix_uniqueness_failure)},
+    {kExists, XmlContainerRow::Child, ix_exists::kClass, IX_CREATOR(ix_exists)},
+    {kNotWellFormed, XmlContainerRow::Child, ix_not_well_formed::kClass, IX_CREATOR(ix_not_well_formed)},
+    {kConstraintFailure, XmlContainerRow::Child, ix_constraint_failure::kClass, IX_CREATOR(ix_constraint_failure)},
+    {kCannotDelete, XmlContainerRow::Child, ix_cannot_delete::kClass, IX_CREATOR(ix_cannot_delete)},
+    {kNotUtf8, XmlContainerRow::Child, ix_not_utf_8::kClass, IX_CREATOR(ix_not_utf_8)},
+};
+
+constexpr XmlAttributeRow kAttributes[] = {
+    {kRoot, IX_STR_PHRASE},
+    {kSchemaValidationError, IX_STR_PHRASE},
+    {kNotXmlFrag, IX_STR_PHRASE},
+    {kNoParent, IX_STR_PHRASE},
+    {kCannotInsert, IX_STR_PHRASE},
+    {kNotXmlAttValue, IX_STR_PHRASE},
+    {kUniquenessFailure, IX_STR_PHRASE},
+    {kExists, IX_STR_FIELD},
+    {kNotWellFormed, IX_STR_PHRASE},
+    {kConstraintFailure, IX_STR_PHRASE},
+    {kCannotDelete, IX_STR_PHRASE},
+    {kNotUtf8, IX_STR_PHRASE},
+};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.names = XmlNamePolicy::Stripped;
+    info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    info.texts.noElement = {3, kSchemaCode, __LINE__,
+                            "<XML Module>XMLXcapErrorDecoder :: ProcessElement: n_strElement is NULL"};
+    info.texts.noElementName = {3, kSchemaCode, __LINE__,
+                                "<XML Module>XMLXcapErrorDecoder :: ProcessElement: m_strDup or m_PassName is NULL"};
+    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
+                              "<XML Module>XMLXcapErrorDecoder :: ProcessAttribute: n_strElement is NULL"};
+    info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
+                                  "<XML Module>XMLXcapErrorDecoder :: ProcessAttribute: m_strDup is NULL"};
+    info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,
+                                    "XMLXcapErrorDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLXcapErrorDecoder::XMLXcapErrorDecoder() : XmlFamilyDecoder(kInfo) {}
