@@ -7,6 +7,7 @@
 #include "XMLCommunicationWaiting.h"
 #include "XMLGruu.h"
 #include "XMLOriginatingIdentityPresentation.h"
+#include "XMLReginfo.h"
 #include "XMLSchemaNameSpaceRetrieval.h"
 #include "XMLSimservs.h"
 #include "XMLTerminatingIdentityPresentation.h"
@@ -61,7 +62,8 @@ constexpr XmlSchemaInfo kSchemas[] = {
     {IX_XML_SCHEMA_BOOTSTRAPPING_INFO, "bootstrapping-info", "BootstrappingInfo", "uri:3gpp-gba", true, false, nullptr},
     {IX_XML_SCHEMA_GRUU, "gruu", "pub-gruu temp-gruu", "urn:ietf:params:xml:ns:gruuinfo", true, false,
      []() -> XMLContext* { return IX_NEW(GruuContext); }},
-    {IX_XML_SCHEMA_REGINFO, "reginfo", "reginfo", "urn:ietf:params:xml:ns:reginfo", true, false, nullptr},
+    {IX_XML_SCHEMA_REGINFO, "reginfo", "reginfo", "urn:ietf:params:xml:ns:reginfo", true, false,
+     []() -> XMLContext* { return IX_NEW(ReginfoContext); }},
     {IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL, "namespaces", "*", "", false, false,
      []() -> XMLContext* { return IX_NEW(SchemaNamespaceRetrievalContext); }},
 };

@@ -526,7 +526,14 @@ const char* XmlFamilyMarshaller::AddNameSpaceChange(e_XmlStrRef canonicalPrefix)
 }
 
 void XmlFamilyMarshaller::SetElementPrefix(e_XmlStrRef canonicalPrefix) {
-    const char* const prefix = AddNameSpaceChange(canonicalPrefix);
+    SetPrefix(AddNameSpaceChange(canonicalPrefix));
+}
+
+void XmlFamilyMarshaller::SetFixedElementPrefix(e_XmlStrRef prefix) {
+    SetPrefix(ix_xml_common_array_definition::getStringName(prefix));
+}
+
+void XmlFamilyMarshaller::SetPrefix(const char* prefix) {
     m_generator.ixSetXmlNamespace(prefix);
     if (prefix != nullptr && m_generator.XmlNamespace() == nullptr) GiveUp();
 }
