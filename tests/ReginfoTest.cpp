@@ -9,27 +9,11 @@
 
 namespace {
 
-/// A name or value for a hook, which writes to none.
-char* Mutable(const char* text) {
-    return const_cast<char*>(text);
-}
-
-class Nameless : public ix_string {
-  public:
-    const char* ClassName() const override { return nullptr; }
-};
-
 class ReginfoTest : public FamilyTest {
   protected:
     static XMLElement* Decode(const std::string& text) { return FamilyTest::Decode(IX_XML_SCHEMA_REGINFO, text); }
     static std::string Field(const std::string& text, const std::string& pointer) {
         return FamilyTest::Field(IX_XML_SCHEMA_REGINFO, text, pointer);
-    }
-    static int Set(XMLElement& element, const char* attribute, const char* value) {
-        return element.ProcessUnMarshallAttribute(Mutable(attribute), Mutable(value), nullptr);
-    }
-    static int Offer(XMLElement& element, const char* name, const char* text, XMLElement* child) {
-        return element.ProcessUnMarshall(Mutable(name), Mutable(text), child);
     }
     /// A document with one registration, and one contact in it.
     static std::string Document(const std::string& content) {
@@ -79,11 +63,11 @@ TEST_F(ReginfoTest, WordsAreLookedForInTheRowsOfTheirReach) {
         std::istringstream words(c.words);
         for (std::string word; std::getline(words, word, ',');) {
             const std::size_t end = word.find('=');
-            EXPECT_EQ(Set(c.element, c.attribute, word.substr(0, end).c_str()), 1);
+            EXPECT_EQ(OfferAttribute(c.element, c.attribute, word.substr(0, end).c_str()), 1);
             EXPECT_EQ(c.field, std::stoi(word.substr(end + 1))) << c.element.ClassName() << ' ' << word;
         }
         const int without = c.field;
-        EXPECT_EQ(Set(c.element, c.attribute, nullptr), 1);
+        EXPECT_EQ(OfferAttribute(c.element, c.attribute, nullptr), 1);
         EXPECT_EQ(c.field, without);
     }
 }
@@ -102,11 +86,11 @@ TEST_F(ReginfoTest, NumbersHave64BitsAndVersionsThoseOfAnUnsigned) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.text);
         ix_reginfo reginfo;
-        EXPECT_EQ(Set(reginfo, "version", c.text) + Set(reginfo, "version", nullptr), 2);
+        EXPECT_EQ(OfferAttribute(reginfo, "version", c.text) + OfferAttribute(reginfo, "version", nullptr), 2);
         EXPECT_EQ(reginfo.mVersion, c.version);
         ix_ns_reginfo_contact contact;
         const char* const names[] = {"duration-registered", "expires", "retry-after", "cseq"};
-        for (const char* const name : names) EXPECT_EQ(Set(contact, name, c.text), 1);
+        for (const char* const name : names) EXPECT_EQ(OfferAttribute(contact, name, c.text), 1);
         for (const std::int64_t number :
              {contact.mDurationRegistered, contact.mExpires, contact.mRetryAfter, contact.mCseq}) {
             EXPECT_EQ(number, c.number);
@@ -119,7 +103,7 @@ TEST_F(ReginfoTest, WhatAClassDoesNotTakeIsLogged) {
     ix_registration registration;
     ix_ns_reginfo_contact contact;
     ix_unknown_param param;
-    Nameless nameless;
+    NamelessElement nameless;
     ix_string other;
     const struct {
         XMLElement& element;
@@ -142,8 +126,8 @@ TEST_F(ReginfoTest, WhatAClassDoesNotTakeIsLogged) {
             EXPECT_EQ(NewLines(), expected);
         }
         EXPECT_EQ(Offer(c.element, "/vendor", "text", nullptr), c.unknown);
-        EXPECT_EQ(Set(c.element, "path", ""), 0);
-        EXPECT_EQ(Set(c.element, nullptr, ""), 0);
+        EXPECT_EQ(OfferAttribute(c.element, "path", ""), 0);
+        EXPECT_EQ(OfferAttribute(c.element, nullptr, ""), 0);
         const Strings expected = {hook + " Cannot accommodate the element /vendor",
                                   hook + "Attribute Cannot accommodate the attribute path",
                                   hook + "Attribute n_strAttribute is NULL"};
@@ -303,11 +287,11 @@ TEST_F(ReginfoTest, WritersSayWhatIsMissing) {
          {"1 AddRegistrationElementToXml state is required"},
          1,
          ""},
-        {[](Tree& t) { Set(t.contact, "state", "registered"); },
+        {[](Tree& t) { OfferAttribute(t.contact, "state", "registered"); },
          {"1 AddReginfoContactElementToXml state is required"},
          2,
          ""},
-        {[](Tree& t) { Set(t.contact, "event", "init"); },
+        {[](Tree& t) { OfferAttribute(t.contact, "event", "init"); },
          {"1 AddReginfoContactElementToXml event is required"},
          2,
          ""},

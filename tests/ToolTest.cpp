@@ -1,11 +1,13 @@
 // The command imsxml, run as a user runs it.
 #ifdef IMSXML_TOOL
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -52,6 +54,23 @@ class ToolTest : public testing::Test {
         const int status =
             std::system(("( " + command + " ) >'" + m_folder + "/out' 2>'" + m_folder + "/err'").c_str());
         return {WEXITSTATUS(status), ReadFile(m_folder + "/out"), ReadFile(m_folder + "/err")};
+    }
+
+    /// What the tool prints to a terminal.
+    std::string OnTerminal(const std::string& arguments) {
+        const int screen = posix_openpt(O_RDWR | O_NOCTTY);
+        if (screen < 0 || grantpt(screen) != 0 || unlockpt(screen) != 0) return "no terminal";
+        const std::string name = ptsname(screen);
+        // Held open, so that nothing is lost when the tool has ended.
+        const int terminal = open(name.c_str(), O_RDWR | O_NOCTTY);
+        Run(arguments + " >" + name);
+        char text[4096];
+        const ssize_t length = read(screen, text, sizeof text);
+        close(terminal);
+        close(screen);
+        std::string printed(text, length > 0 ? static_cast<std::size_t>(length) : 0);
+        printed.erase(std::remove(printed.begin(), printed.end(), '\r'), printed.end());
+        return printed;
     }
 
     /// The message for a document, without the file name.
@@ -111,6 +130,58 @@ TEST_F(ToolTest, TreeHasNoColourInAFile) {
               "# gruu (gruu)\nix_pub_gruu  uri = \"sip:a@b;gr=1&2\"\n");
 }
 
+TEST_F(ToolTest, TreeOfAProvisioningDocument) {
+    Write("provisioning", R"(<wap-provisioningdoc version="1.1"><characteristic type="IMS">
+        <characteristic type="auth"><parm name="realm" value="ims.example.net"/></characteristic>
+        <parm name="appid" value="ap2001"/><parm name="INTERNET"/><characteristic type="ext"/></characteristic>
+        </wap-provisioningdoc>)");
+    const Result result = Run("decode --format tree provisioning");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output,
+              "ix_wap_provisioning_doc\n"
+              "  version = \"1.1\"\n"
+              "  characteristic \"IMS\"\n"
+              "    appid = \"ap2001\"\n"
+              "    parm \"INTERNET\"\n"
+              "    characteristic \"auth\"\n"
+              "      realm = \"ims.example.net\"\n"
+              "    characteristic \"ext\"\n");
+}
+
+TEST_F(ToolTest, ColourIsForTerminalsUnlessAskedFor) {
+    const std::string plain = "ix_pub_gruu  uri = \"sip:a@b;gr=1&2\"\n";
+    const std::string coloured = "\033[1mix_pub_gruu\033[0m  \033[36muri\033[0m = \"sip:a@b;gr=1&2\"\n";
+    unsetenv("NO_COLOR");
+    setenv("TERM", "xterm", 1);
+    EXPECT_EQ(Run("decode --format tree gruu").output, plain);
+    EXPECT_EQ(Run("decode --format tree --color always gruu").output, coloured);
+    EXPECT_EQ(Run("decode --format json --color always gruu gruu").output, std::string(kGruuLine) + kGruuLine);
+    setenv("NO_COLOR", "1", 1);
+    EXPECT_EQ(Run("decode --format tree --color always gruu").output, coloured);
+    EXPECT_EQ(OnTerminal("decode --format tree gruu"), plain);
+    setenv("NO_COLOR", "", 1);
+    EXPECT_EQ(OnTerminal("decode --format tree gruu"), coloured);
+    EXPECT_EQ(OnTerminal("decode --format tree --color never gruu"), plain);
+    unsetenv("NO_COLOR");
+    EXPECT_EQ(OnTerminal("decode --format tree gruu"), coloured);
+    setenv("TERM", "dumb", 1);
+    EXPECT_EQ(OnTerminal("decode --format tree gruu"), plain);
+}
+
+TEST_F(ToolTest, WarnsOfElementsBelowTheStack) {
+    std::string text;
+    for (int i = 0; i < 99; ++i) text = "<characteristic>" + text + "</characteristic>";
+    Write("deep", "<volte-config-info>" + text + "</volte-config-info>");
+    Write("deeper", "<volte-config-info><characteristic>" + text + "</characteristic></volte-config-info>");
+    EXPECT_EQ(Run("decode deep").errors, "");
+    const Result result = Run("decode deeper");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors,
+              "deeper: warning: nested too deep: 100 elements are under construction at a time; what lies deeper is "
+              "filed in another element or lost\n");
+}
+
 TEST_F(ToolTest, BytesThatAreNotUtf8AreReplaced) {
     Write("bytes", "<pub-gruu uri=\"a\xff\"/>");
     const Result result = Run("decode --format tree bytes");
@@ -146,6 +217,10 @@ TEST_F(ToolTest, ConvertTellsWhyADocumentCannotBeWritten) {
     EXPECT_EQ(result.errors,
               "empty: schema gruu cannot write the document: "
               "<XML Module>: AddPubGruuElementToXml: Uri is a mandatory attribute\n");
+    Write("volte", "<volte-config-info/>");
+    const Result readOnly = Run("convert volte gruu");
+    EXPECT_EQ(readOnly.status, 3);
+    EXPECT_EQ(readOnly.errors, "volte: documents of schema volte-config-info are only read\n");
     EXPECT_EQ(Run("convert --schema namespaces gruu").status, 3);
 }
 
@@ -216,8 +291,8 @@ TEST_F(ToolTest, TheTimeLimitEndsAFile) {
 }
 
 TEST_F(ToolTest, WrongUsage) {
-    for (const char* arguments : {"", "decode", "encode gruu", "decode --format yaml gruu", "decode --timeout x gruu",
-                                  "decode --schema gru gruu"}) {
+    for (const char* arguments : {"", "decode", "encode gruu", "decode --format yaml gruu", "decode --color maybe gruu",
+                                  "decode --timeout x gruu", "decode --schema gru gruu"}) {
         const Result result = Run(arguments);
         EXPECT_EQ(result.status, 2) << arguments;
         EXPECT_EQ(result.output, "") << arguments;

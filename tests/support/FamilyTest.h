@@ -29,7 +29,7 @@ class NamelessElement : public ix_string {
 class FamilyTest : public XmlTest {
   protected:
     /// Calls `ProcessUnMarshall`, which changes none of the texts.
-    static int Offer(XMLElement& element, const char* name, const char* text, XMLElement* child);
+    static int Offer(XMLElement& element, const char* name, const char* text, XMLElement* child = nullptr);
 
     /// Calls `ProcessUnMarshallAttribute`, which changes none of the texts.
     static int OfferAttribute(XMLElement& element, const char* attribute, const char* value,

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <optional>
+#include <cstring>
 
 #include "Diagnosis.h"
 #include "Json.h"
@@ -36,10 +36,16 @@ OwnContext NewContext(const XmlSchemaInfo& schema) {
 }
 
 OwnElement UnMarshall(XMLContext& context, const Document& document, bool log) {
-    std::optional<LogWatch> watch;
-    if (log) watch.emplace(true);
+    constexpr unsigned kResults = 1U << 2U;
+    const LogWatch watch(log, log ? kIxDplHostAllLevels : kResults);
     XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
-    return OwnElement(unMarshaller != nullptr ? unMarshaller->UnMarshall(document.text.c_str()) : nullptr);
+    OwnElement root(unMarshaller != nullptr ? unMarshaller->UnMarshall(document.text.c_str()) : nullptr);
+    if (root != nullptr && watch.IsTooDeep()) {
+        Warn(document,
+             "nested too deep: 100 elements are under construction at a time; what lies deeper is filed in another "
+             "element or lost");
+    }
+    return root;
 }
 
 /// The declarations of a document; not decoded: NULL.
@@ -82,6 +88,15 @@ std::string MarshallText(const Decoded& decoded, const Document& document, bool 
     return text;
 }
 
+bool HasColour(Colour colour) {
+    if (colour != Colour::Auto) return colour == Colour::Always;
+    const char* const none = std::getenv("NO_COLOR");
+    const char* const terminal = std::getenv("TERM");
+    if (none != nullptr && *none != '\0') return false;
+    if (terminal != nullptr && std::strcmp(terminal, "dumb") == 0) return false;
+    return isatty(STDOUT_FILENO) == 1;
+}
+
 const char* TextOrEmpty(const char* text) {
     return text != nullptr ? text : "";
 }
@@ -94,7 +109,7 @@ std::string DecodeDocument(const Document& document, const Options& options) {
     bool replaced = false;
     std::string text;
     if (options.tree) {
-        Outline outline(isatty(STDOUT_FILENO) == 1 && std::getenv("NO_COLOR") == nullptr);
+        Outline outline(HasColour(options.colour));
         if (options.HasManyFiles()) outline.AddTitle(document.name, decoded.schema->name);
         outline.AddTree(root);
         text = outline.Text();

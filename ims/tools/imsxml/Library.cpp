@@ -1,6 +1,7 @@
 #include "Library.h"
 
 #include <cstdio>
+#include <cstring>
 #include <string_view>
 
 namespace {
@@ -27,10 +28,9 @@ std::string OnOneLine(std::string_view text) {
 
 }  // namespace
 
-LogWatch::LogWatch(bool print) : m_print(print) {
+LogWatch::LogWatch(bool print, unsigned levels) : m_print(print) {
     ixDplHostSetLogSink(
-        [](const ixDplHostLogLine& line, void* context) { static_cast<LogWatch*>(context)->Take(line); }, this,
-        kIxDplHostAllLevels);
+        [](const ixDplHostLogLine& line, void* context) { static_cast<LogWatch*>(context)->Take(line); }, this, levels);
 }
 
 LogWatch::~LogWatch() {
@@ -38,6 +38,7 @@ LogWatch::~LogWatch() {
 }
 
 void LogWatch::Take(const ixDplHostLogLine& line) {
+    if (std::strcmp(line.text, "stack overflow\n") == 0) m_tooDeep = true;
     const std::string text = OnOneLine(line.text);
     if (m_print) std::fprintf(stderr, "%d %d %s:%d %s\n", line.level, line.code, line.source, line.line, text.c_str());
     // Progress has the level of refusals, too, but only the entry of a marshaller is logged where one fails.

@@ -23,18 +23,22 @@ using OwnElement = std::unique_ptr<XMLElement, ElementDeleter>;
 class LogWatch {
   public:
     /// @param print whether each line goes to the standard error.
-    explicit LogWatch(bool print);
+    /// @param levels bit n stands for level n.
+    explicit LogWatch(bool print, unsigned levels = kIxDplHostAllLevels);
     ~LogWatch();
     LogWatch(const LogWatch&) = delete;
     LogWatch& operator=(const LogWatch&) = delete;
 
     /// The last line that tells of a failure; "" when there was none.
     const std::string& Reason() const { return m_refusal.empty() ? m_failure : m_refusal; }
+    /// True when a document had more objects under construction than a decoder holds. The line has level 2.
+    bool IsTooDeep() const { return m_tooDeep; }
 
   private:
     void Take(const ixDplHostLogLine& line);
 
     bool m_print;
+    bool m_tooDeep = false;
     std::string m_refusal;
     std::string m_failure;
 };

@@ -34,11 +34,15 @@ Prints an object a file: its schema, its name and the root element. An element h
 set. One file is spread over lines; of several files each has one line. The schema follows from the root element and
 its namespace, unless --schema names one.
 
+The tree has a line for each field. An element stands on one line when its fields are few and short; otherwise its
+fields are below it, and what tells it from others of its name stands behind the name.
+
 Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time limit.
 
 Examples:
   imsxml decode gruu.xml
   imsxml decode --format tree --schema communication-waiting --binder waiting.xml
+  imsxml decode --format tree --color always provisioning.xml | less -R
   curl -s http://xcap.example/waiting.xml | imsxml decode --log -)help";
 
 constexpr char kConvertFooter[] = R"help(
@@ -87,6 +91,7 @@ class CommandLine {
     Options m_options;
     std::string m_schema;
     std::string m_format = "json";
+    std::string m_colour = "auto";
     CLI::App m_app{kAbout, "imsxml"};
     CLI::App* m_decode;
     CLI::App* m_convert;
@@ -104,6 +109,10 @@ CommandLine::CommandLine() {
     AddDecoding(m_decode);
     m_decode->add_option("--format", m_format, "json, or tree, an outline for people")
         ->check(CLI::IsMember({"json", "tree"}))
+        ->capture_default_str();
+    m_decode
+        ->add_option("--color", m_colour, "Colours in the tree: auto (on a terminal, unless NO_COLOR), always or never")
+        ->check(CLI::IsMember({"auto", "always", "never"}))
         ->capture_default_str();
     m_convert = AddFileCommand("convert", "Decode documents and write them again", kConvertFooter);
     AddDecoding(m_convert);
@@ -142,6 +151,7 @@ int CommandLine::Run(int argc, char** argv) {
     }
     if (m_schemas->parsed()) return Print(ListSchemas());
     m_options.tree = m_format == "tree";
+    if (m_colour != "auto") m_options.colour = m_colour == "always" ? Colour::Always : Colour::Never;
     if (m_decode->parsed()) return RunOnFiles(DecodeDocument, m_options);
     return RunOnFiles(m_convert->parsed() ? ConvertDocument : ListNamespaces, m_options);
 }

@@ -8,10 +8,18 @@
 
 #include "XMLFactory.h"
 
+/// When the outline has colours.
+enum class Colour {
+    Auto,  ///< On a terminal, unless the environment has NO_COLOR.
+    Always,
+    Never
+};
+
 struct Options {
     std::vector<std::string> files;
     const XmlSchemaInfo* schema = nullptr;  ///< NULL: chosen by the root element of each document.
     bool tree = false;                      ///< The outline for people in place of JSON.
+    Colour colour = Colour::Auto;
     bool binder = false;
     bool log = false;
     bool leaks = false;

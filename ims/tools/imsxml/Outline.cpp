@@ -1,78 +1,167 @@
 #include "Outline.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
 constexpr std::size_t kIndent = 2;
+constexpr std::size_t kMostColumns = 100;
 
-/// True for a list of attribute pairs, which are the only objects without a class.
-bool HasPairs(const Json& list) {
-    return std::any_of(list.begin(), list.end(),
-                       [](const Json& entry) { return entry.is_object() && !entry.contains("class"); });
+// What stands between ESC "[" and "m".
+constexpr char kHeading[] = "1";
+constexpr char kName[] = "36";
+constexpr char kAside[] = "2";
+
+/// Fields that tell an element from others of its name, where they come first.
+constexpr std::string_view kIdentities[] = {"type", "id", "name", "uri", "entity", "aor"};
+
+bool IsString(const Json& object, const char* key) {
+    const auto field = object.find(key);
+    return field != object.end() && field->is_string();
+}
+
+/// True for an element that is no more than a text.
+bool IsText(const Json& value) {
+    return value.is_object() && value.size() == 2 && value.contains("class") && IsString(value, "text");
+}
+
+/// True for an element that is no more than a name and a value.
+bool IsSetting(const Json& value) {
+    return value.is_object() && value.size() == 3 && value.contains("class") && IsString(value, "name") &&
+           IsString(value, "value") && value["name"] != "";
+}
+
+/// True when a class says no more than the name of the element: "ix_display_name" for "display-name".
+bool IsImplied(std::string_view className, std::string_view name) {
+    if (className.size() < name.size()) return false;
+    const std::string_view end = className.substr(className.size() - name.size());
+    const bool whole = end.size() == className.size() || className[className.size() - name.size() - 1] == '_';
+    return whole && std::equal(end.begin(), end.end(), name.begin(),
+                               [](char left, char right) { return left == (right == '-' ? '_' : right); });
+}
+
+/// The columns that a text takes, its colours left out.
+std::size_t Columns(std::string_view text) {
+    std::size_t columns = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\033')
+            i = text.find('m', i);
+        else if ((static_cast<unsigned char>(text[i]) & 0xc0U) != 0x80U)
+            ++columns;
+    }
+    return columns;
+}
+
+/// What a terminal obeys or reorders the line for, although JSON lets it stand: DEL, the control characters above
+/// ASCII, separators of lines, changes of the direction.
+bool IsControl(unsigned code) {
+    return (code >= 0x7f && code < 0xa0) || (code >= 0x2028 && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
+}
+
+/// Such characters as JSON escapes. `text` is UTF-8.
+std::string WithoutControls(const std::string& text) {
+    std::string clean;
+    clean.reserve(text.size());
+    const auto byte = [&text](std::size_t at) { return static_cast<unsigned char>(at < text.size() ? text[at] : 0); };
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        unsigned code = byte(i);
+        std::size_t more = 0;
+        if (code == 0xc2) {
+            code = byte(i + 1);
+            more = 1;
+        } else if (code == 0xe2) {
+            code = 0x2000U + ((byte(i + 1) & 0x3fU) << 6U) + (byte(i + 2) & 0x3fU);
+            more = 2;
+        }
+        if (!IsControl(code) || (more == 0 && code != 0x7f)) {
+            clean += text[i];
+            continue;
+        }
+        constexpr char kDigits[] = "0123456789abcdef";
+        clean += "\\u";
+        for (unsigned shift = 16; shift != 0;) clean += kDigits[(code >> (shift -= 4)) & 0xfU];
+        i += more;
+    }
+    return clean;
 }
 
 }  // namespace
 
 void Outline::AddTitle(const std::string& file, const std::string& schema) {
-    AddLine(Dim("# " + Name(file) + " (" + schema + ')'), 0);
+    AddLine(Styled(kAside, "# " + Unquoted(file) + " (" + schema + ')'), 0);
 }
 
 void Outline::AddTree(const Json& root) {
-    AddObject("", root, 0);
+    auto field = root.begin();
+    const std::string head = Styled(kHeading, Unquoted(*field++));
+    AddObject(head, root, field, 0);
 }
 
-void Outline::AddObject(const std::string& label, const Json& object, std::size_t depth) {
-    const std::string name = Name(object["class"]);
-    const std::string head = label.empty() ? Bold(name) : label + ": " + Bold(name);
-    if (FitsOnLine(object, depth * kIndent + label.size() + name.size())) {
-        std::string line = head;
-        for (const auto& [key, value] : object.items()) {
-            if (key != "class") line += "  " + Name(key) + " = " + Value(value);
-        }
+/// @param field the first field that is not part of the head.
+void Outline::AddObject(const std::string& head, const Json& object, Json::const_iterator field, std::size_t depth) {
+    std::string line = head;
+    bool fits = true;
+    for (auto next = field; next != object.end() && fits; ++next) {
+        fits = !next->is_structured();
+        if (fits) line += "  " + Assignment(next.key(), *next);
+    }
+    if (fits && depth * kIndent + Columns(line) <= kMostColumns) {
         AddLine(line, depth);
         return;
     }
     AddLine(head, depth);
-    for (const auto& [key, value] : object.items()) {
-        if (key != "class") AddField(Name(key), value, depth + 1);
-    }
+    for (; field != object.end(); ++field) AddField(field.key(), *field, depth + 1);
 }
 
-/// True when the fields are few and plain, and the line stays readable.
-bool Outline::FitsOnLine(const Json& object, std::size_t used) {
-    constexpr std::size_t kMostFields = 3;
-    constexpr std::size_t kMostColumns = 100;
-    if (object.size() - 1 > kMostFields) return false;
-    for (const auto& [key, value] : object.items()) {
-        if (value.is_structured()) return false;
-        if (key != "class") used += key.size() + Value(value).size() + 5;
+void Outline::AddElement(const std::string& name, const Json& element, std::size_t depth) {
+    auto field = element.begin();
+    const std::string className = field->is_string() ? field->get<std::string>() : "";
+    ++field;
+    std::string head = Styled(kName, name);
+    if (!IsImplied(className, name)) head += Styled(kAside, ": " + Unquoted(className));
+    if (field != element.end() && field->is_string() &&
+        std::find(std::begin(kIdentities), std::end(kIdentities), field.key()) != std::end(kIdentities)) {
+        head += ' ' + Styled(kHeading, Value(*field));
+        ++field;
     }
-    return used <= kMostColumns;
+    AddObject(head, element, field, depth);
 }
 
-void Outline::AddField(const std::string& label, const Json& value, std::size_t depth) {
+void Outline::AddField(const std::string& name, const Json& value, std::size_t depth) {
     if (value.is_array()) {
-        AddList(label, value, depth);
+        AddList(name, value, depth);
+    } else if (IsText(value)) {
+        AddLine(Assignment(name, value["text"]), depth);
     } else if (value.is_object()) {
-        AddObject(label, value, depth);
+        AddElement(name, value, depth);
     } else {
-        AddLine(label + " = " + Value(value), depth);
+        AddLine(Assignment(name, value), depth);
     }
 }
 
-void Outline::AddList(const std::string& label, const Json& list, std::size_t depth) {
-    if (HasPairs(list)) {
-        AddLine(label, depth);
-        for (const Json& entry : list) {
-            // Only the default namespace has no name.
-            const std::string name = entry.is_null() || entry["name"].is_null() ? "(default)" : Name(entry["name"]);
-            AddLine(name + " = " + (entry.is_null() ? "null" : Value(entry["value"])), depth + 1);
+void Outline::AddList(const std::string& name, const Json& list, std::size_t depth) {
+    // Attribute pairs are the only objects without a class.
+    const bool hasAttributes = std::any_of(
+        list.begin(), list.end(), [](const Json& entry) { return entry.is_object() && !entry.contains("class"); });
+    if (hasAttributes) AddLine(Styled(kName, name), depth);
+    for (const Json& entry : list) {
+        if (hasAttributes) {
+            AddAttribute(entry, depth + 1);
+        } else if (IsSetting(entry)) {
+            AddLine(Assignment(entry["name"], entry["value"]), depth);
+        } else {
+            AddField(name, entry, depth);
         }
-        return;
     }
-    std::size_t number = 0;
-    for (const Json& entry : list) AddField(label + '[' + std::to_string(++number) + ']', entry, depth);
+}
+
+/// Only the default namespace has no name.
+void Outline::AddAttribute(const Json& pair, std::size_t depth) {
+    const bool isNamed = pair.is_object() && pair["name"].is_string();
+    AddLine(
+        Assignment(isNamed ? pair["name"].get<std::string>() : "(default)", pair.is_object() ? pair["value"] : pair),
+        depth);
 }
 
 void Outline::AddLine(const std::string& line, std::size_t depth) {
@@ -81,21 +170,21 @@ void Outline::AddLine(const std::string& line, std::size_t depth) {
     m_text += '\n';
 }
 
-/// JSON's escapes keep a text on its line, and a terminal from obeying it.
+std::string Outline::Assignment(const std::string& name, const Json& value) {
+    return Styled(kName, Unquoted(name)) + " = " + Value(value);
+}
+
+/// Escapes keep a text on its line, and a terminal from obeying it.
 std::string Outline::Value(const Json& value) {
-    return ToText(value, -1, m_replaced);
+    return WithoutControls(ToText(value, -1, m_replaced));
 }
 
 /// The same without quotes.
-std::string Outline::Name(const Json& name) {
-    const std::string text = Value(name);
-    return name.is_string() ? text.substr(1, text.size() - 2) : text;
+std::string Outline::Unquoted(const Json& text) {
+    const std::string quoted = Value(text);
+    return text.is_string() ? quoted.substr(1, quoted.size() - 2) : quoted;
 }
 
-std::string Outline::Bold(const std::string& text) const {
-    return m_colour ? "\033[1m" + text + "\033[0m" : text;
-}
-
-std::string Outline::Dim(const std::string& text) const {
-    return m_colour ? "\033[2m" + text + "\033[0m" : text;
+std::string Outline::Styled(const char* style, const std::string& text) const {
+    return m_colour ? std::string("\033[") + style + 'm' + text + "\033[0m" : text;
 }

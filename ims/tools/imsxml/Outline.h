@@ -7,8 +7,14 @@
 
 #include "Json.h"
 
-/// Writes trees as indented lines: an object's class in bold, its fields below it, or on the same line when they are
-/// few and short.
+/// Writes trees as indented lines.
+///
+/// - A field is `name = value`. So is a child that is no more than a text, and an entry of a list that is no more than
+/// a
+///   name and a value.
+/// - Any other element begins with its XML name, its class where the name does not tell it, and the field that tells it
+///   from others of its name. Its fields follow on the same line when all of them are plain and fit, otherwise below
+///   it.
 class Outline {
   public:
     explicit Outline(bool colour) : m_colour(colour) {}
@@ -23,15 +29,16 @@ class Outline {
     bool HasReplaced() const { return m_replaced; }
 
   private:
-    void AddObject(const std::string& label, const Json& object, std::size_t depth);
-    void AddField(const std::string& label, const Json& value, std::size_t depth);
-    void AddList(const std::string& label, const Json& list, std::size_t depth);
+    void AddObject(const std::string& head, const Json& object, Json::const_iterator field, std::size_t depth);
+    void AddElement(const std::string& name, const Json& element, std::size_t depth);
+    void AddField(const std::string& name, const Json& value, std::size_t depth);
+    void AddList(const std::string& name, const Json& list, std::size_t depth);
+    void AddAttribute(const Json& pair, std::size_t depth);
     void AddLine(const std::string& line, std::size_t depth);
-    bool FitsOnLine(const Json& object, std::size_t used);
+    std::string Assignment(const std::string& name, const Json& value);
     std::string Value(const Json& value);
-    std::string Name(const Json& name);
-    std::string Bold(const std::string& text) const;
-    std::string Dim(const std::string& text) const;
+    std::string Unquoted(const Json& text);
+    std::string Styled(const char* style, const std::string& text) const;
 
     bool m_colour;
     bool m_replaced = false;

@@ -8,7 +8,7 @@
 /// refused; what has no place at all is logged.
 ///
 /// Required: setting a field a second time, by setter or by a document that has a child or an attribute twice, does not
-/// free the earlier value (`ixOverwriteText`, `ixOverwriteChild`). Each field is meant to be set once.
+/// free the earlier value (`ixOverwriteWithText`, `ixOverwriteChild`). Each field is meant to be set once.
 #ifndef IX_XML_COMMON_POLICY_H
 #define IX_XML_COMMON_POLICY_H
 
@@ -50,8 +50,8 @@ class IX_XML_EXPORT ix_ns_common_policy_exceptType : public ix_ns_common_policy_
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setDomainValue(const char* domain) { return ixOverwriteText(mDomain, domain); }
-    int setIdValue(const char* id) { return ixOverwriteText(mId, id); }
+    int setDomainValue(const char* domain) { return ixOverwriteWithText(mDomain, domain); }
+    int setIdValue(const char* id) { return ixOverwriteWithText(mId, id); }
 
     char* mDomain = nullptr;  ///< Owned; a whole domain. NULL: not set.
     char* mId = nullptr;      ///< Owned; one identity, a URI. NULL: not set.
@@ -68,7 +68,7 @@ class IX_XML_EXPORT ix_ns_common_policy_oneType : public ix_ns_common_policy_typ
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setIdValue(const char* id) { return ixOverwriteText(mId, id); }
+    int setIdValue(const char* id) { return ixOverwriteWithText(mId, id); }
     /// Appends an element, which then belongs to the list. @return 1, or 0 without memory.
     int addExtension(XMLElement* element);
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
@@ -93,7 +93,7 @@ class IX_XML_EXPORT ix_ns_common_policy_manyType : public ix_ns_common_policy_ty
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setExceptValue(IxSingleElementList* list) { return ixOverwriteChild(mExceptList, list); }
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setDomainValue(const char* domain) { return ixOverwriteText(mDomain, domain); }
+    int setDomainValue(const char* domain) { return ixOverwriteWithText(mDomain, domain); }
     /// Appends an element, which then belongs to the list. @return 1, or 0 without memory.
     int addExtension(XMLElement* element);
     int setExtensionValue(IxSingleElementList* list) { return ixOverwriteChild(mExtensionList, list); }
@@ -136,7 +136,7 @@ class IX_XML_EXPORT ix_ns_common_policy_sphereType : public ix_ns_common_policy_
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setValueValue(const char* value) { return ixOverwriteText(mValue, value); }
+    int setValueValue(const char* value) { return ixOverwriteWithText(mValue, value); }
 
     char* mValue = nullptr;  ///< Owned; NULL: not set. Mandatory in a written document.
 };
@@ -199,7 +199,7 @@ class IX_XML_EXPORT ix_ns_common_policy_ruleType : public ix_ns_common_policy_ty
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setIdValue(const char* id) { return ixOverwriteText(mId, id); }
+    int setIdValue(const char* id) { return ixOverwriteWithText(mId, id); }
     /// Stores a child, which passes to this element. NULL is ignored. @return 1.
     int setConditionsValue(ix_ns_common_policy_conditionsType* child) { return ixOverwriteChild(mConditions, child); }
     int setActionsValue(ix_ns_common_policy_extensibleType* child) { return ixOverwriteChild(mActions, child); }

@@ -19,7 +19,7 @@ class IX_XML_EXPORT ix_ns_xcap_media_type : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setMediaValue(const char* media) { return ixOverwriteText(mMedia, media); }
+    int setMediaValue(const char* media) { return ixOverwriteWithText(mMedia, media); }
 
     char* mMedia = nullptr;  ///< Owned; NULL: not set.
 };
@@ -36,7 +36,7 @@ class IX_XML_EXPORT ix_presence_status_activity_type : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setPresenceStatusValue(const char* status) { return ixOverwriteText(mPresenceStatus, status); }
+    int setPresenceStatusValue(const char* status) { return ixOverwriteWithText(mPresenceStatus, status); }
 
     char* mPresenceStatus = nullptr;  ///< Owned; NULL: not set.
 };
@@ -52,7 +52,7 @@ class IX_XML_EXPORT ix_external_list : public XMLElement {
     const XmlFieldTable* FieldTable() const override;
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
-    int setExternalListValue(const char* list) { return ixOverwriteText(mExternalList, list); }
+    int setExternalListValue(const char* list) { return ixOverwriteWithText(mExternalList, list); }
 
     char* mExternalList = nullptr;  ///< Owned; NULL: not set.
 };

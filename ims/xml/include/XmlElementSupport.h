@@ -54,9 +54,14 @@ int ixSetNumber(Field& field, Value value) {
     return 1;
 }
 
-/// Stores a copy of `text` in an owned field; NULL changes nothing.
+/// Puts a copy of `text`, or NULL for NULL, in the place of an owned text.
 /// Required: an earlier text is not freed, for callers that still hold it. @return 1, or 0 without memory.
 IX_XML_EXPORT int ixOverwriteText(char*& field, const char* text);
+
+/// `ixOverwriteText`, unless `text` is NULL. @return 1, or 0 without memory.
+inline int ixOverwriteWithText(char*& field, const char* text) {
+    return text != nullptr ? ixOverwriteText(field, text) : 1;
+}
 
 /// Stores a child or list, which passes to the element; NULL changes nothing.
 /// Required: an earlier one is not freed, for callers that still hold it. @return 1.

@@ -353,8 +353,8 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     /// Makes the document prefix of a canonical prefix, if it has one, that of the elements that follow. Without memory
     /// the names would be others, so the document is given up.
     void SetElementPrefix(e_XmlStrRef canonicalPrefix);
-    /// The same for a prefix that no binder changes.
-    void SetFixedElementPrefix(e_XmlStrRef prefix);
+    /// The same for a prefix that no binder changes. @return 1, or 0 without memory.
+    int SetFixedElementPrefix(e_XmlStrRef prefix);
     /// The elements that follow have no prefix.
     void ClearElementPrefix() { m_generator.ixSetXmlNamespace(nullptr); }
 
@@ -374,7 +374,7 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     IxXMLDocGenerator m_generator;
 
   private:
-    void SetPrefix(const char* prefix);
+    int SetPrefix(const char* prefix);
     const XmlWriterRow* FindWriter(const XMLElement* root) const;
     int KeepGeneratedText();
 

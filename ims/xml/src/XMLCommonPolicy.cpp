@@ -87,7 +87,7 @@ int TakeOf(const char* className, IxSingleElementList*& list, XMLElement* child,
 
 /// Takes the value of an attribute. @return 1, or 0 when it comes as a pair, or without memory.
 int TakeText(char*& field, const char* value, const XMLAttribute* pair) {
-    return pair == nullptr ? ixOverwriteText(field, value) : 0;
+    return pair == nullptr ? ixOverwriteWithText(field, value) : 0;
 }
 
 /// Takes the text of an end tag as an element of its own.

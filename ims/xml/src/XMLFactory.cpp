@@ -5,9 +5,14 @@
 #include "XMLCommunicationBarring.h"
 #include "XMLCommunicationDiversion.h"
 #include "XMLCommunicationWaiting.h"
+#include "XMLConferenceInfo.h"
 #include "XMLGruu.h"
 #include "XMLOriginatingIdentityPresentation.h"
+#include "XMLPresence.h"
 #include "XMLReginfo.h"
+#include "XMLResourceList.h"
+#include "XMLRlmi.h"
+#include "XMLRlsServices.h"
 #include "XMLSchemaNameSpaceRetrieval.h"
 #include "XMLSimservs.h"
 #include "XMLTerminatingIdentityPresentation.h"
@@ -25,9 +30,9 @@ constexpr XmlSchemaInfo kSchemas[] = {
     {IX_XML_SCHEMA_IS_COMPOSING, "is-composing", "isComposing", "urn:ietf:params:xml:ns:im-iscomposing", true, false,
      nullptr},
     {IX_XML_SCHEMA_RESOURCE_LISTS, "resource-lists", "resource-lists", "urn:ietf:params:xml:ns:resource-lists", true,
-     false, nullptr},
+     false, []() -> XMLContext* { return IX_NEW(ResourceListsContext); }},
     {IX_XML_SCHEMA_CONFERENCE_INFO, "conference-info", "conference-info", "urn:ietf:params:xml:ns:conference-info",
-     true, false, nullptr},
+     true, false, []() -> XMLContext* { return IX_NEW(ConferenceInfoContext); }},
     {IX_XML_SCHEMA_IMDN, "imdn", "imdn", "urn:ietf:params:xml:ns:imdn", true, false, nullptr},
     {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting", "communication-waiting", kSimservs, true, true,
      []() -> XMLContext* { return IX_NEW(CommunicationWaitingContext); }},
@@ -46,10 +51,12 @@ constexpr XmlSchemaInfo kSchemas[] = {
      []() -> XMLContext* { return IX_NEW(XcapErrorContext); }},
     {IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "wap-provisioning", "wap-provisioningdoc", "", false, false, nullptr},
     {IX_XML_SCHEMA_VOLTE_CONFIG_INFO, "volte-config-info", "volte-config-info", "", false, false, nullptr},
-    {IX_XML_SCHEMA_PRESENCE, "presence", "presence", "urn:ietf:params:xml:ns:pidf", true, false, nullptr},
+    {IX_XML_SCHEMA_PRESENCE, "presence", "presence", "urn:ietf:params:xml:ns:pidf", true, false,
+     []() -> XMLContext* { return IX_NEW(PresenceContext); }},
     {IX_XML_SCHEMA_RLS_SERVICES, "rls-services", "rls-services", "urn:ietf:params:xml:ns:rls-services", true, false,
-     nullptr},
-    {IX_XML_SCHEMA_LIST, "rlmi", "list", "urn:ietf:params:xml:ns:rlmi", true, false, nullptr},
+     []() -> XMLContext* { return IX_NEW(RlsServicesContext); }},
+    {IX_XML_SCHEMA_LIST, "rlmi", "list", "urn:ietf:params:xml:ns:rlmi", true, false,
+     []() -> XMLContext* { return IX_NEW(ListContext); }},
     {IX_XML_SCHEMA_XCAP_DIRECTORY, "xcap-directory", "xcap-directory", "urn:oma:xml:xdm:xcap-directory", true, false,
      []() -> XMLContext* { return IX_NEW(XcapDirectoryContext); }},
     {IX_XML_SCHEMA_FILE, "file-transfer", "file", "", true, false, nullptr},

@@ -60,7 +60,7 @@ int CountOf(const IxSingleElementList* list) {
 /// Takes the text of the element's own end tag. @return 1, or 0 for an object or without memory.
 int TakeOwnText(char*& field, e_XmlStrRef own, const char* name, const char* text, const XMLElement* child) {
     if (!ixEndNameIs(name, own)) return 1;
-    return child == nullptr ? ixOverwriteText(field, text) : 0;
+    return child == nullptr ? ixOverwriteWithText(field, text) : 0;
 }
 
 }  // namespace

@@ -25,9 +25,8 @@ int ixSetText(char*& field, const char* text) {
 }
 
 int ixOverwriteText(char*& field, const char* text) {
-    if (text == nullptr) return 1;
-    char* const copy = __strdup(text);
-    if (copy == nullptr) return 0;
+    char* const copy = text != nullptr ? __strdup(text) : nullptr;
+    if (text != nullptr && copy == nullptr) return 0;
     field = copy;
     return 1;
 }

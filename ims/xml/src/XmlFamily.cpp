@@ -529,13 +529,15 @@ void XmlFamilyMarshaller::SetElementPrefix(e_XmlStrRef canonicalPrefix) {
     SetPrefix(AddNameSpaceChange(canonicalPrefix));
 }
 
-void XmlFamilyMarshaller::SetFixedElementPrefix(e_XmlStrRef prefix) {
-    SetPrefix(ix_xml_common_array_definition::getStringName(prefix));
+int XmlFamilyMarshaller::SetFixedElementPrefix(e_XmlStrRef prefix) {
+    return SetPrefix(ix_xml_common_array_definition::getStringName(prefix));
 }
 
-void XmlFamilyMarshaller::SetPrefix(const char* prefix) {
+int XmlFamilyMarshaller::SetPrefix(const char* prefix) {
     m_generator.ixSetXmlNamespace(prefix);
-    if (prefix != nullptr && m_generator.XmlNamespace() == nullptr) GiveUp();
+    if (prefix == nullptr || m_generator.XmlNamespace() != nullptr) return 1;
+    GiveUp();
+    return 0;
 }
 
 char* XmlFamilyMarshaller::TakeText() {

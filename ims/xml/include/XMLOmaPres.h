@@ -1,0 +1,121 @@
+/// @file
+/// The OMA presence extensions (OMA-TS-Presence_SIMPLE) of a presence document (XMLPresence.h).
+///
+/// - Elements: `service-description` inside a tuple; `willingness`, `session-participation`, `overriding-willingness`,
+///   `registration-state` and `barring-state` as values.
+/// - Namespace: urn:oma:xml:prs:pidf:oma-pres.
+/// - Prefixes: removed when read; written with `op`.
+/// - The service description is read and written. The value classes parse what they are offered, but no document is
+///   decoded into them, and none is written from them.
+#ifndef IX_XML_OMA_PRES_H
+#define IX_XML_OMA_PRES_H
+
+#include "XmlElementSupport.h"
+#include "XmlFields.h"
+
+/// The element `service-description`: which service a tuple stands for.
+class IX_XML_EXPORT ix_ns_oma_pres_service_description : public XMLElement {
+  public:
+    static constexpr char kClassName[] = "ix_ns_oma_pres_service_description";
+
+    ~ix_ns_oma_pres_service_description() override;
+    const char* ClassName() const override { return kClassName; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "ServiceDescription"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Each copies its text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
+    int setServiceIdValue(const char* serviceId) { return ixSetText(mServiceId, serviceId); }
+    int setVersionValue(const char* version) { return ixSetText(mVersion, version); }
+    int setDescriptionValue(const char* description) { return ixSetText(mDescription, description); }
+
+    char* mServiceId = nullptr;  ///< Element `service-id`, "org.openmobilealliance:PoC-session". Owned; NULL: not set.
+    char* mVersion = nullptr;    ///< Element `version`, of the service. Owned; NULL: not set.
+    char* mDescription = nullptr;  ///< Element `description`, for people. Owned; NULL: not set.
+};
+
+/// What the elements share whose content is one `basic`.
+class IX_XML_EXPORT ix_ns_oma_pres_basicType : public XMLElement {
+  public:
+    ~ix_ns_oma_pres_basicType() override;
+    const char* BaseClassName() const override { return "XMLElement"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// @return 1.
+    int setBasicValue(int basic) {
+        mBasic = basic;
+        return 1;
+    }
+
+    int mBasic = 2;  ///< Element `basic`: 0 "open", 1 "closed", 2 not set.
+};
+
+/// The element `willingness`: whether the user wants to be reached by a service.
+class IX_XML_EXPORT ix_ns_oma_pres_willingness : public ix_ns_oma_pres_basicType {
+  public:
+    const char* ClassName() const override { return "ix_ns_oma_pres_willingness"; }
+    const char* TypeName() const override { return "Willingness"; }
+};
+
+/// The element `session-participation`: whether the user takes part in a session of a service.
+class IX_XML_EXPORT ix_ns_oma_pres_session_participation : public ix_ns_oma_pres_basicType {
+  public:
+    const char* ClassName() const override { return "ix_ns_oma_pres_session_participation"; }
+    const char* TypeName() const override { return "SessionParticipation"; }
+};
+
+/// The element `overriding-willingness`: whether the user wants to be reached at all.
+class IX_XML_EXPORT ix_ns_oma_pres_overriding_willingness : public ix_ns_oma_pres_basicType {
+  public:
+    const char* ClassName() const override { return "ix_ns_oma_pres_overriding_willingness"; }
+    const char* TypeName() const override { return "OverridingWillingness"; }
+};
+
+/// What the elements share whose content is a state.
+class IX_XML_EXPORT ix_ns_oma_pres_stateType : public XMLElement {
+  public:
+    ~ix_ns_oma_pres_stateType() override;
+    const char* BaseClassName() const override { return "XMLElement"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// @return 1.
+    int setStateValue(int state) {
+        mState = state;
+        return 1;
+    }
+
+    int mState = 2;  ///< The element's own text: 0 "active", 1 "terminated", 2 not set.
+
+  protected:
+    /// The only name whose text is taken.
+    virtual const char* EndTag() const = 0;
+};
+
+/// The element `registration-state`: whether the user is registered for a service.
+class IX_XML_EXPORT ix_ns_oma_pres_registration_state : public ix_ns_oma_pres_stateType {
+  public:
+    const char* ClassName() const override { return "ix_ns_oma_pres_registration_state"; }
+    const char* TypeName() const override { return "RegistrationState"; }
+
+  protected:
+    const char* EndTag() const override { return "/registration-state"; }
+};
+
+/// The element `barring-state`: whether the user bars incoming sessions of a service. Required: it takes its text at
+/// the end tag of `barring`, not at that of its own name, which it ignores like any other.
+class IX_XML_EXPORT ix_ns_oma_pres_barring_state : public ix_ns_oma_pres_stateType {
+  public:
+    const char* ClassName() const override { return "ix_ns_oma_pres_barring_state"; }
+    const char* TypeName() const override { return "BarringState"; }
+
+  protected:
+    const char* EndTag() const override { return "/barring"; }
+};
+
+#endif

@@ -1,0 +1,208 @@
+/// @file
+/// Resource lists (RFC 4826): lists of contacts that a user keeps on an XCAP server.
+///
+/// - Root element: `resource-lists`, with `list` elements. A list holds, in any order and to any depth, `entry`,
+///   `entry-ref`, `external` and further `list` elements; each of the four may have a `display-name`.
+/// - Namespace: urn:ietf:params:xml:ns:resource-lists. It is written, and not expected.
+/// - Prefixes: names are compared as they stand, so an element with a prefix is not recognised.
+/// - Read and written. The attributes of `resource-lists` and of `display-name` and unknown elements are lost. Of
+///   lists more than 99 levels deep in a document the attributes are lost, and their content is filed in outer lists
+///   (XmlCodeGenStack).
+#ifndef IX_XML_RESOURCE_LIST_H
+#define IX_XML_RESOURCE_LIST_H
+
+#include "XmlElementSupport.h"
+#include "XmlFamily.h"
+#include "XmlFields.h"
+
+/// @name Class names, as `ClassName()` returns them.
+/// @{
+constexpr char kListTypeClass[] = "ix_listType";
+constexpr char kEntryTypeClass[] = "ix_entryType";
+constexpr char kEntryRefTypeClass[] = "ix_entry_refType";
+constexpr char kExternalTypeClass[] = "ix_externalType";
+constexpr char kDisplayNameTypeClass[] = "ix_display_nameType";
+/// @}
+
+/// The element `display-name`: a name for people, its text. It takes no attributes.
+class IX_XML_EXPORT ix_display_nameType : public ix_string {
+  public:
+    const char* ClassName() const override { return kDisplayNameTypeClass; }
+    const char* TypeName() const override { return "display-nameType"; }
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+};
+
+/// What a list and its members share. Content that has no place is logged and ignored.
+class IX_XML_EXPORT ix_listMemberType : public XMLElement {
+  public:
+    const char* BaseClassName() const override { return "XMLElement"; }
+    int Reserved() const override { return 0; }
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    IxSingleElementList* getAnyAttributeValue() const { return mAnyAttribute; }
+    /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
+    /// @return 1.
+    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttribute, list); }
+    /// Appends a pair, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addAnyAttribute(ix_AttributeValuePair* pair);
+    /// Takes over `name` in place of an earlier one, which is deleted; NULL: none. @return 1.
+    int setDisplayNameValue(ix_display_nameType* name) { return ixSetChild(mDisplayName, name); }
+
+    IxSingleElementList* mAnyAttribute = nullptr;  ///< Owned `ix_AttributeValuePair`s: all other attributes. NULL:
+                                                   ///< none. A list that is empty leaves the written start tag open.
+    ix_display_nameType* mDisplayName = nullptr;   ///< Owned; NULL: none.
+};
+
+/// The element `entry`: one contact.
+class IX_XML_EXPORT ix_entryType : public ix_listMemberType {
+  public:
+    ~ix_entryType() override;
+    const char* ClassName() const override { return kEntryTypeClass; }
+    const char* TypeName() const override { return "entryType"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
+    int setUriValue(const char* uri) { return ixSetText(mUri, uri); }
+
+    char* mUri = nullptr;  ///< Owned; NULL: not set. An entry without it is not written.
+};
+
+/// The element `entry-ref`: a contact by reference to an entry of another list.
+class IX_XML_EXPORT ix_entry_refType : public ix_listMemberType {
+  public:
+    ~ix_entry_refType() override;
+    const char* ClassName() const override { return kEntryRefTypeClass; }
+    const char* TypeName() const override { return "entry-refType"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `ref`; NULL clears it. @return 1, or 0 without memory, the earlier reference kept.
+    int setRefValue(const char* ref) { return ixSetText(mRef, ref); }
+
+    char* mRef = nullptr;  ///< Owned; a relative XCAP URI. NULL: not set. A reference without it is not written.
+};
+
+/// The element `external`: a list of another server.
+class IX_XML_EXPORT ix_externalType : public ix_listMemberType {
+  public:
+    ~ix_externalType() override;
+    const char* ClassName() const override { return kExternalTypeClass; }
+    const char* TypeName() const override { return "externalType"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `anchor`; NULL clears it. @return 1, or 0 without memory, the earlier anchor kept.
+    int setAnchorValue(const char* anchor) { return ixSetText(mAnchor, anchor); }
+
+    char* mAnchor = nullptr;  ///< Owned; the absolute URI of the list. NULL: not set.
+};
+
+/// The element `list`.
+class IX_XML_EXPORT ix_listType : public ix_listMemberType {
+  public:
+    ~ix_listType() override;
+    const char* ClassName() const override { return kListTypeClass; }
+    const char* TypeName() const override { return "listType"; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+
+    /// Copies `name`; NULL clears it. @return 1, or 0 without memory, the earlier name kept.
+    int setNameValue(const char* name) { return ixSetText(mName, name); }
+    /// Takes over a list of children in place of an earlier one, which is deleted; NULL: none. @return 1.
+    int setChildrenValue(IxSingleElementList* list) { return ixSetElementList(mChildren, list); }
+    /// Appends `child`, an `ix_entryType`, `ix_entry_refType`, `ix_externalType` or `ix_listType`, which then belongs
+    /// to the list. @return 1, or 0 for NULL, any other class, or without memory, when it stays with the caller.
+    int addChild(XMLElement* child);
+    /// Takes over a list of elements in place of an earlier one, which is deleted; NULL: none. @return 1.
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
+    /// Appends `element`, which then belongs to the list. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addAnyElement(XMLElement* element);
+
+    char* mName = nullptr;                           ///< Owned; unique among its sisters. NULL: not set.
+    IxSingleElementList* mChildren = nullptr;        ///< Owned, as are the entries, which are of the four classes above
+                                                     ///< in document order. NULL: none. Its count has 16 bits, so that
+                                                     ///< a list of more than 65535 is read whole only by its nodes.
+    IxSingleElementList* mAnyElementList = nullptr;  ///< Owned, as are the entries: children of other classes, which
+                                                     ///< only the RLS services yield. Never written. NULL: none.
+};
+
+/// The element `resource-lists`. Anything but lists is refused.
+class IX_XML_EXPORT ix_resource_lists : public XMLObject {
+  public:
+    ~ix_resource_lists() override;
+    const char* ClassName() const override { return "ix_resource_lists"; }
+    const char* BaseClassName() const override { return "XMLObject"; }
+    const char* TypeName() const override { return "resource-lists"; }
+    int Reserved() const override { return 0; }
+    int IsRootElement() const override { return 1; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Takes over a list of `ix_listType`s in place of an earlier one, which is deleted; NULL: none. @return 1.
+    int setListListValue(IxSingleElementList* list) { return ixSetElementList(mListList, list); }
+    /// Appends `list`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addList(ix_listType* list);
+
+    IxSingleElementList* mListList = nullptr;  ///< Owned, as are its `ix_listType`s, in document order. NULL: none.
+};
+
+/// Creates the elements, which the caller links; NULL without memory.
+class IX_XML_EXPORT ResourceListsDataBinder : public XMLObjectFactory {
+  public:
+    /// A new `ix_resource_lists`.
+    XMLElement* CreateRootElement() override;
+    ix_listType* CreateListType();
+    ix_entryType* CreateEntryType();
+    ix_entry_refType* CreateEntryRefType();
+    ix_externalType* CreateExternalType();
+    ix_display_nameType* CreateDisplayNameType();
+};
+
+class IX_XML_EXPORT ResourceListsUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes the XML declaration and the document, always with the namespaces `xsi` and `cp` declared. An entry or
+/// reference that lacks its mandatory attribute is logged and left out.
+///
+/// Lists are written by a call for each level, but only as long as the text has room: each level takes at least the
+/// seven characters of its start tag, so there are never more than 4,681 calls, however deep a tree is.
+class IX_XML_EXPORT Resource_listsMarshall : public XmlFamilyMarshaller {
+  public:
+    Resource_listsMarshall();
+
+    /// @return 1, or 0 for NULL.
+    int AddResource_listsElementToXml(ix_resource_lists* lists);
+    /// @return 1, or 0 for NULL.
+    int AddListElementToXml(ix_listType* list);
+    /// @return 1, or 0 for NULL or without a URI, when nothing is written.
+    int AddEntryElementToXml(ix_entryType* entry);
+    /// @return 1, or 0 for NULL or without a reference, when nothing is written.
+    int AddEntryRefElementToXml(ix_entry_refType* reference);
+    /// @return 1, or 0 for NULL.
+    int AddExternalElementToXml(ix_externalType* external);
+
+  private:
+    void AddStartTag(e_XmlStrRef name, e_XmlStrRef attribute, const char* value, const ix_listMemberType& member);
+    void AddChild(XMLElement* child);
+};
+
+class IX_XML_EXPORT ResourceListsContext : public XmlFamilyContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+/// Builds and writes a fixed document that has every element once. @return a text that the caller frees
+/// (`FreeElement`); NULL without memory.
+IX_XML_EXPORT char* TestResource_listsMarshall();
+
+#endif

@@ -1,0 +1,124 @@
+#include "Presence.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "XMLPresence.h"
+
+using PresenceNameSpace::ix_status;
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/Presence";
+
+constexpr XmlLogText kDropped = {3, kSchemaCode, __LINE__, "<XML Module>XMLPresenceDecoder :: m_any is NULL when %s"};
+constexpr XmlLogText kUnknown = {3, kSchemaCode, __LINE__,
+                                 "<XML Module>XMLPresenceDecoder :: ProcessAnyElement is not supported when %s"};
+constexpr XmlLogText kNoName = {3, kSchemaCode, __LINE__,
+                                "XMLPresenceDecoder :: ProcessAnyElement: n_strElement is NULL"};
+
+constexpr XmlKnownName kPresence = {IX_STR_PRESENCE};
+constexpr XmlKnownName kTuple = {IX_STR_TUPLE};
+constexpr XmlKnownName kContact = {IX_STR_CONTACT};
+
+constexpr XmlContainerRow kContainers[] = {
+    {kPresence, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_presence)},
+    {kTuple, XmlContainerRow::Text, ix_tuple::kClassName, IX_CREATOR(ix_tuple)},
+    {{IX_STR_STATUS}, XmlContainerRow::Text, ix_status::kClassName, IX_CREATOR(ix_status)},
+    {kContact, XmlContainerRow::Text, ix_contact::kClassName, IX_CREATOR(ix_contact)},
+    {{IX_STR_NOTE}, XmlContainerRow::Text, ix_note::kClassName, IX_CREATOR(ix_note)},
+    {{IX_STR_SERVICE_DESCRIPTION},
+     XmlContainerRow::Child,
+     ix_ns_oma_pres_service_description::kClassName,
+     IX_CREATOR(ix_ns_oma_pres_service_description)},
+    {{IX_STR_SERVCAPS}, XmlContainerRow::Child, ix_ns_caps_servcaps::kClassName, IX_CREATOR(ix_ns_caps_servcaps)},
+    {{IX_STR_DUPLEX}, XmlContainerRow::Child, ix_ns_caps_duplextype::kClassName, IX_CREATOR(ix_ns_caps_duplextype)},
+    {{IX_STR_SUPPORTED},
+     XmlContainerRow::Child,
+     ix_ns_caps_duplextypes::kClassName,
+     IX_CREATOR(ix_ns_caps_duplextypes)},
+};
+
+constexpr XmlAttributeRow kAttributes[] = {
+    {kPresence, IX_STR_ENTITY},
+    {kTuple, IX_STR_ID},
+    {kContact, IX_STR_PRIORITY},
+};
+
+/// The elements of PIDF, objects and texts. Everything else is an extension.
+constexpr e_XmlStrRef kPidfNames[] = {IX_STR_PRESENCE, IX_STR_TUPLE, IX_STR_STATUS,   IX_STR_CONTACT,
+                                      IX_STR_NOTE,     IX_STR_BASIC, IX_STR_TIMESTAMP};
+
+/// The elements of extensions that are known.
+constexpr e_XmlStrRef kExtensionNames[] = {IX_STR_SERVICE_DESCRIPTION,
+                                           IX_STR_SERVICE_ID,
+                                           IX_STR_DESCRIPTION,
+                                           IX_STR_VERSION,
+                                           IX_STR_SERVCAPS,
+                                           IX_STR_AUDIO,
+                                           IX_STR_DUPLEX,
+                                           IX_STR_SUPPORTED,
+                                           IX_STR_FULL};
+
+template <std::size_t Count>
+bool IsOneOf(const char* name, const e_XmlStrRef (&names)[Count]) {
+    return std::any_of(std::begin(names), std::end(names), [name](e_XmlStrRef entry) { return ixNameIs(name, entry); });
+}
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.names = XmlNamePolicy::Stripped;
+    info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    info.texts.noElement = {3, kSchemaCode, __LINE__,
+                            "<XML Module>XMLPresenceDecoder :: ProcessElement: n_strElement is NULL"};
+    info.texts.noElementName = {3, kSchemaCode, __LINE__,
+                                "<XML Module>XMLPresenceDecoder :: ProcessElement: m_PassName is NULL"};
+    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
+                              "<XML Module>XMLPresenceDecoder :: ProcessAttribute: n_strElement is NULL"};
+    info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
+                                  "<XML Module>XMLPresenceDecoder :: ProcessAttribute: m_PassName is NULL "};
+    info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,
+                                    "XMLPresenceDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLPresenceDecoder::XMLPresenceDecoder() : XmlFamilyDecoder(kInfo) {}
+
+int XMLPresenceDecoder::StartElement(char* name) {
+    return IsOneOf(name, kPidfNames) ? XmlFamilyDecoder::StartElement(name) : AnyElement(name, nullptr);
+}
+
+int XMLPresenceDecoder::EndElement(char* name, char* text) {
+    return IsOneOf(name + 1, kPidfNames) ? XmlFamilyDecoder::EndElement(name, text) : AnyElement(name, text);
+}
+
+int XMLPresenceDecoder::AnyElement(char* name, char* data) {
+    if (ProcessAnyElement(name, data) == nullptr) ixLog(kSourceFile, kDropped, name);
+    return 0;
+}
+
+XMLElement* XMLPresenceDecoder::ProcessAnyElement(char* name, char* data) {
+    if (name == nullptr) {
+        ixLog(kSourceFile, kNoName);
+        return nullptr;
+    }
+    const bool isEnd = *name == '/';
+    if (!IsOneOf(isEnd ? name + 1 : name, kExtensionNames)) {
+        ixLog(kSourceFile, kUnknown, name);
+        return nullptr;
+    }
+    if (isEnd) {
+        XmlFamilyDecoder::EndElement(name, data);
+    } else {
+        XmlFamilyDecoder::StartElement(name);
+    }
+    return Top();
+}

@@ -1,0 +1,50 @@
+#include "ResourceLists.h"
+
+#include <iterator>
+
+#include "XMLResourceList.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/ResourceLists";
+
+constexpr XmlKnownName kList = {IX_STR_LIST};
+constexpr XmlKnownName kExternal = {IX_STR_EXTERNAL};
+constexpr XmlKnownName kEntry = {IX_STR_ENTRY};
+constexpr XmlKnownName kEntryRef = {IX_STR_ENTRY_REF};
+
+constexpr XmlContainerRow kContainers[] = {
+    {{IX_STR_RESOURCE_LISTS}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_resource_lists)},
+    {kList, XmlContainerRow::Text, kListTypeClass, IX_CREATOR(ix_listType)},
+    {kExternal, XmlContainerRow::Text, kExternalTypeClass, IX_CREATOR(ix_externalType)},
+    {kEntry, XmlContainerRow::Text, kEntryTypeClass, IX_CREATOR(ix_entryType)},
+    {kEntryRef, XmlContainerRow::Text, kEntryRefTypeClass, IX_CREATOR(ix_entry_refType)},
+    {{IX_STR_DISPLAY_NAME}, XmlContainerRow::Text, kDisplayNameTypeClass, IX_CREATOR(ix_display_nameType)},
+};
+
+constexpr XmlAttributeRow kAttributes[] = {
+    {kList, IX_STR_NAME},
+    {kExternal, IX_STR_ANCHOR},
+    {kEntry, IX_STR_URI},
+    {kEntryRef, IX_STR_REF},
+};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    info.pairLine = __LINE__;
+    info.texts.noElement = {3, kSchemaCode, __LINE__,
+                            "<XML Module>XMLResourceListsDecoder :: ProcessElement: n_strElement is NULL"};
+    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
+                              "<XML Module>XMLResourceListsDecoder :: ProcessAttribute: n_strElement is NULL"};
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLResourceListsDecoder::XMLResourceListsDecoder() : XmlFamilyDecoder(kInfo) {}

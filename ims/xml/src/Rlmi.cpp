@@ -1,0 +1,46 @@
+#include "Rlmi.h"
+
+#include <iterator>
+
+#include "XMLRlmi.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/Rlmi";
+
+constexpr XmlKnownName kList = {IX_STR_LIST};
+constexpr XmlKnownName kResource = {IX_STR_RESOURCE};
+constexpr XmlKnownName kInstance = {IX_STR_INSTANCE};
+
+constexpr XmlContainerRow kContainers[] = {
+    {kList, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_list)},
+    {{IX_STR_NAME}, XmlContainerRow::Text, kRlmiNameClass, IX_CREATOR(ix_name)},
+    {kResource, XmlContainerRow::Child, kRlmiResourceClass, IX_CREATOR(ix_resource)},
+    {kInstance, XmlContainerRow::Child, kRlmiInstanceClass, IX_CREATOR(ix_instance)},
+};
+
+constexpr XmlAttributeRow kAttributes[] = {
+    {kList, IX_STR_URI},       {kList, IX_STR_VERSION},    {kList, IX_STR_FULLSTATE},
+    {kList, IX_STR_CID},       {kResource, IX_STR_URI},    {kInstance, IX_STR_ID},
+    {kInstance, IX_STR_STATE}, {kInstance, IX_STR_REASON}, {kInstance, IX_STR_CID},
+};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    info.pairLine = __LINE__;
+    info.texts.noElement = {3, kSchemaCode, __LINE__,
+                            "<XML Module>XMLListDecoder :: ProcessElement: n_strElement is NULL"};
+    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
+                              "<XML Module>XMLListDecoder :: ProcessAttribute: n_strElement is NULL"};
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLListDecoder::XMLListDecoder() : XmlFamilyDecoder(kInfo) {}
