@@ -1,0 +1,13 @@
+/// @file
+/// Decoder of the indication of message composition (XMLIsComposing.h).
+#ifndef IX_IS_COMPOSING_H
+#define IX_IS_COMPOSING_H
+
+#include "XmlFamily.h"
+
+class IX_XML_EXPORT XMLIsComposingDecoder : public XmlFamilyDecoder {
+  public:
+    XMLIsComposingDecoder();
+};
+
+#endif

@@ -1,0 +1,13 @@
+/// @file
+/// Decoder of the VoLTE configuration information (XMLVolteConfigInfo.h).
+#ifndef IX_VOLTE_CONFIG_INFO_H
+#define IX_VOLTE_CONFIG_INFO_H
+
+#include "XmlFamily.h"
+
+class IX_XML_EXPORT XMLVolteConfigInfoDecoder : public XmlFamilyDecoder {
+  public:
+    XMLVolteConfigInfoDecoder();
+};
+
+#endif

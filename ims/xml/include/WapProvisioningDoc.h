@@ -1,0 +1,13 @@
+/// @file
+/// Decoder of the WAP provisioning document (XMLWapProvisioningDoc.h).
+#ifndef IX_WAP_PROVISIONING_DOC_H
+#define IX_WAP_PROVISIONING_DOC_H
+
+#include "XmlFamily.h"
+
+class IX_XML_EXPORT XMLWapProvisioningDocDecoder : public XmlFamilyDecoder {
+  public:
+    XMLWapProvisioningDocDecoder();
+};
+
+#endif

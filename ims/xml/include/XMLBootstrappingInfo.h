@@ -1,0 +1,74 @@
+/// @file
+/// Bootstrapping information (3GPP TS 24.109, generic bootstrapping architecture): the answer of the bootstrapping
+/// server.
+///
+/// - Root element: `BootstrappingInfo`, with the texts `btid` and `lifetime`.
+/// - Namespace: uri:3gpp-gba. It is not expected; it is written as the default namespace.
+/// - Prefixes: removed. Of an element name of 65534 characters or more only the beginning is looked at.
+/// - Read and written. Other elements are logged and lost; attributes are lost.
+#ifndef IX_XML_BOOTSTRAPPING_INFO_H
+#define IX_XML_BOOTSTRAPPING_INFO_H
+
+#include "XmlElementSupport.h"
+#include "XmlFamily.h"
+#include "XmlFields.h"
+
+/// The element `BootstrappingInfo`.
+class IX_XML_EXPORT ix_bootstrappinginfo : public XMLObject {
+  public:
+    ~ix_bootstrappinginfo() override;
+    const char* ClassName() const override;
+    const char* BaseClassName() const override { return "XMLObject"; }
+    const char* TypeName() const override { return "BootstrappingInfo"; }
+    int Reserved() const override { return 0; }
+    int IsRootElement() const override { return 1; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Copies `btid`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
+    int setBtidValue(const char* btid) { return ixSetText(mBtid, btid); }
+    /// Copies `lifetime`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
+    int setLifetimeValue(const char* lifetime) { return ixSetText(mLifetime, lifetime); }
+    /// Takes over a list of elements in place of an earlier one, which is deleted; NULL: none. @return 1.
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
+    /// Appends `element`, which then belongs to the root. @return 1, or 0 without memory, when it stays with the
+    /// caller.
+    int addAnyElement(XMLElement* element);
+
+    char* mBtid = nullptr;      ///< Owned; the identifier of the bootstrapping transaction. NULL: not set.
+    char* mLifetime = nullptr;  ///< Owned; date and time of its expiry, as in the text. NULL: not set.
+    IxSingleElementList* mAnyElementList = nullptr;  ///< Owned elements that a caller added, not written; NULL: none.
+};
+
+class IX_XML_EXPORT BootstrappingInfoDataBinder : public XMLObjectFactory {
+  public:
+    /// A new `ix_bootstrappinginfo`; NULL without memory.
+    XMLElement* CreateRootElement() override;
+};
+
+class IX_XML_EXPORT BootstrappingInfoUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+/// Writes the XML declaration and the document. A text that is not set is logged and left out.
+class IX_XML_EXPORT BootstrappingInfoMarshaller : public XmlFamilyMarshaller {
+  public:
+    BootstrappingInfoMarshaller();
+
+    /// @return 1, or 0 for NULL.
+    int AddBootstrappingInfoElementToXml(ix_bootstrappinginfo* element);
+    /// Nothing for NULL. @return 1.
+    int AddBtidElementToXml(const char* btid);
+    /// Nothing for NULL. @return 1.
+    int AddLifetimeElementToXml(const char* lifetime);
+};
+
+class IX_XML_EXPORT BootstrappingInfoContext : public XmlFamilyContext {
+  protected:
+    XmlFamilyMarshaller* NewMarshaller() override;
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

@@ -1,0 +1,40 @@
+/// @file
+/// VoLTE configuration information (shaped like the WAP provisioning document of OMA Client Provisioning): the settings
+/// of an operator for voice over LTE.
+///
+/// - Root element: `volte-config-info`, with the attribute `version` and `characteristic`s. XMLCharacteristic.h tells
+///   what is in them, how it is decoded, and what is lost.
+/// - Namespace: none. Names are compared as they stand in the document, prefix included.
+/// - Read only.
+#ifndef IX_XML_VOLTE_CONFIG_INFO_H
+#define IX_XML_VOLTE_CONFIG_INFO_H
+
+#include "XMLCharacteristic.h"
+
+/// The element `volte-config-info`.
+class IX_XML_EXPORT ix_volte_config_info : public ix_characteristicDocType {
+  public:
+    const char* ClassName() const override { return "ix_volte_config_info"; }
+    const char* TypeName() const override { return "VolteConfigInfo"; }
+};
+
+class IX_XML_EXPORT VolteConfigInfoDataBinder : public XmlCharacteristicDataBinder {
+  public:
+    /// A new `ix_volte_config_info`.
+    XMLElement* CreateRootElement() override;
+};
+
+class IX_XML_EXPORT VolteConfigInfoUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+class IX_XML_EXPORT VolteConfigInfoMarshall : public XmlCharacteristicMarshaller {};
+
+class IX_XML_EXPORT VolteConfigInfoContext : public XmlCharacteristicContext {
+  protected:
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

@@ -1,0 +1,40 @@
+/// @file
+/// WAP provisioning document (OMA Client Provisioning, provisioning content): the settings with which an operator or a
+/// device manager configures a device.
+///
+/// - Root element: `wap-provisioningdoc`, with the attribute `version` and `characteristic`s. XMLCharacteristic.h tells
+///   what is in them, how it is decoded, and what is lost.
+/// - Namespace: none. Names are compared as they stand in the document, prefix included.
+/// - Read only.
+#ifndef IX_XML_WAP_PROVISIONING_DOC_H
+#define IX_XML_WAP_PROVISIONING_DOC_H
+
+#include "XMLCharacteristic.h"
+
+/// The element `wap-provisioningdoc`.
+class IX_XML_EXPORT ix_wap_provisioning_doc : public ix_characteristicDocType {
+  public:
+    const char* ClassName() const override { return "ix_wap_provisioning_doc"; }
+    const char* TypeName() const override { return "WapProvisioningDoc"; }
+};
+
+class IX_XML_EXPORT WapProvisioningDocDataBinder : public XmlCharacteristicDataBinder {
+  public:
+    /// A new `ix_wap_provisioning_doc`.
+    XMLElement* CreateRootElement() override;
+};
+
+class IX_XML_EXPORT WapProvisioningDocUnMarshaller : public XmlFamilyUnMarshaller {
+  protected:
+    const XmlUnMarshallerInfo& Info() const override;
+};
+
+class IX_XML_EXPORT WapProvisioningDocMarshall : public XmlCharacteristicMarshaller {};
+
+class IX_XML_EXPORT WapProvisioningDocContext : public XmlCharacteristicContext {
+  protected:
+    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XMLObjectFactory* NewBinderFactory() override;
+};
+
+#endif

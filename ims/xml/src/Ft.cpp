@@ -1,0 +1,43 @@
+#include "Ft.h"
+
+#include <iterator>
+
+#include "XMLFt.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/Ft";
+
+constexpr XmlKnownName kFileInfo = {IX_STR_FILE_INFO};
+constexpr XmlKnownName kData = {IX_STR_DATA};
+
+constexpr XmlContainerRow kContainers[] = {
+    {{IX_STR_FILE}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_file)},
+    {kFileInfo, XmlContainerRow::Child, "ix_ns_ft_file_info", IX_CREATOR(ix_ns_ft_file_info)},
+    {kData, XmlContainerRow::Child, "ix_ns_ft_data", IX_CREATOR(ix_ns_ft_data)},
+};
+
+constexpr XmlAttributeRow kAttributes[] = {
+    {kFileInfo, IX_STR_TYPE},
+    {kData, IX_STR_URL},
+    {kData, IX_STR_ETAG},
+    {kData, IX_STR_UNTIL},
+};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.names = XmlNamePolicy::Stripped;
+    info.attributePolicy = XmlAttributePolicy::Top;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    info.attributes = kAttributes;
+    info.attributeCount = std::size(kAttributes);
+    info.pairLine = __LINE__;
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLFileDecoder::XMLFileDecoder() : XmlFamilyDecoder(kInfo) {}

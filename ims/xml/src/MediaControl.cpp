@@ -1,0 +1,53 @@
+#include "MediaControl.h"
+
+#include <iterator>
+
+#include "XMLMediaControl.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/MediaControl";
+
+constexpr XmlContainerRow kContainers[] = {
+    {{IX_STR_MEDIA_CONTROL}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_media_control)},
+    {{IX_STR_VC_PRIMITIVE}, XmlContainerRow::Child, "ix_vc_primitive", IX_CREATOR(ix_vc_primitive)},
+    {{IX_STR_TO_ENCODER}, XmlContainerRow::Child, "ix_to_encoder", IX_CREATOR(ix_to_encoder)},
+};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info;
+    info.source = kSourceFile;
+    info.names = XmlNamePolicy::Stripped;
+    info.containers = kContainers;
+    info.containerCount = std::size(kContainers);
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
+
+}  // namespace
+
+XMLMediaControlDecoder::XMLMediaControlDecoder() : XmlFamilyDecoder(kInfo) {}
+
+int XMLMediaControlDecoder::ProcessElement(char* element, char* text) {
+    m_pWrittenName = element;
+    return XmlFamilyDecoder::ProcessElement(element, text);
+}
+
+int XMLMediaControlDecoder::ProcessAttribute(char* /*element*/, char* /*attribute*/, char* /*value*/) {
+    return 0;
+}
+
+int XMLMediaControlDecoder::StartElement(char* name) {
+    if (!ixNameIs(name, IX_STR_PICTURE_FAST_UPDATE)) return XmlFamilyDecoder::StartElement(name);
+    XMLElement* const top = Top();
+    if (top == nullptr) return 0;
+    ix_empty_element_type* const request = ixCreateEmptyElement(m_pWrittenName, kSourceFile, __LINE__);
+    if (request == nullptr) return 0;
+    const bool taken = top->ProcessUnMarshall(name, nullptr, request) != 0;
+    if (!taken || !XmlFields::HoldsChild(*top, request)) IX_DELETE(request);
+    return 0;
+}
+
+int XMLMediaControlDecoder::EndElement(char* name, char* text) {
+    return ixEndNameIs(name, IX_STR_PICTURE_FAST_UPDATE) ? 0 : XmlFamilyDecoder::EndElement(name, text);
+}

@@ -1,0 +1,139 @@
+#include "XMLBootstrappingInfo.h"
+
+#include <iterator>
+
+#include "BootstrappingInfo.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLBootstrappingInfo";
+
+constexpr char kClass[] = "ix_bootstrappinginfo";
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLBootstrappingInfoDecoder); };
+    info.textTokenizerLine = info.textDecoderLine = __LINE__;
+    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
+    info.noCopy = {4, kSchemaCode, __LINE__,
+                   "<XML Module>: StrDup failed in BootstrappingInfoUnMarshaller::UnMarshall"};
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+constexpr XmlWriterRow kWriters[] = {
+    {kClass, IX_WRITER(BootstrappingInfoMarshaller, AddBootstrappingInfoElementToXml, ix_bootstrappinginfo)},
+};
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.writesDeclaration = true;
+    info.entersFirst = true;
+    info.writers = kWriters;
+    info.writerCount = std::size(kWriters);
+    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller :: Marshall"};
+    info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller pObj is NULL"};
+    info.deleting = {3, kSchemaCode, __LINE__,
+                     "<XML Module>: BootstrappingInfoMarshaller :: Marshall: Deleting mBootstrappingInfoXml"};
+    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller XML %s"};
+    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller XML Failed!"};
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+constexpr XmlLogText kUnknownElement = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
+constexpr XmlLogText kAddRoot = {2, kSchemaCode, __LINE__, "<XML Module>: AddBootstrappingInfoElementToXml"};
+constexpr XmlLogText kAddBtid = {2, kSchemaCode, __LINE__, "<XML Module>: AddBtidElementToXml"};
+constexpr XmlLogText kAddLifetime = {2, kSchemaCode, __LINE__, "<XML Module>: AddLifetimeElementToXml"};
+constexpr XmlLogText kNoBtid = {1, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoElement btid not present"};
+constexpr XmlLogText kNoLifetime = {1, kSchemaCode, __LINE__,
+                                    "<XML Module>: BootstrappingInfoElement lifetime not present"};
+
+constexpr XmlField kFields[] = {
+    {XmlFieldKind::Text, IX_STR_BTID, XmlTextMember(&ix_bootstrappinginfo::mBtid)},
+    {XmlFieldKind::Text, IX_STR_LIFETIME, XmlTextMember(&ix_bootstrappinginfo::mLifetime)},
+    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_bootstrappinginfo::mAnyElementList), 0, nullptr, "any"},
+};
+constexpr XmlFieldTable kTable = {nullptr, kFields, std::size(kFields)};
+
+}  // namespace
+
+ix_bootstrappinginfo::~ix_bootstrappinginfo() {
+    XmlFields::Release(this, kTable);
+}
+
+const char* ix_bootstrappinginfo::ClassName() const {
+    return kClass;
+}
+
+const XmlFieldTable* ix_bootstrappinginfo::FieldTable() const {
+    return &kTable;
+}
+
+int ix_bootstrappinginfo::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    if (ixEndNameIs(name, IX_STR_BTID)) return child == nullptr ? setBtidValue(text) : 0;
+    if (ixEndNameIs(name, IX_STR_LIFETIME)) return child == nullptr ? setLifetimeValue(text) : 0;
+    if (ixNameIs(name, IX_STR_BTID) || ixNameIs(name, IX_STR_LIFETIME)) return 1;
+    if (child != nullptr) return addAnyElement(child);
+    ixLog(kSourceFile, kUnknownElement, name, text);
+    return 1;
+}
+
+int ix_bootstrappinginfo::addAnyElement(XMLElement* element) {
+    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
+}
+
+XMLElement* BootstrappingInfoDataBinder::CreateRootElement() {
+    return IX_NEW(ix_bootstrappinginfo);
+}
+
+const XmlUnMarshallerInfo& BootstrappingInfoUnMarshaller::Info() const {
+    return kUnMarshallerInfo;
+}
+
+BootstrappingInfoMarshaller::BootstrappingInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+
+int BootstrappingInfoMarshaller::AddBootstrappingInfoElementToXml(ix_bootstrappinginfo* element) {
+    ixLog(kSourceFile, kAddRoot);
+    if (element == nullptr) return 0;
+    StartElementOpen(IX_STR_BOOTSTRAPPINGINFO);
+    AddAttribute(IX_STR_XMLNS, ix_xml_common_array_definition::getStringName(IX_STR_URI_3GPP_GBA), Attribute::Closing);
+    if (element->mBtid != nullptr) {
+        AddBtidElementToXml(element->mBtid);
+    } else {
+        ixLog(kSourceFile, kNoBtid);
+    }
+    if (element->mLifetime != nullptr) {
+        AddLifetimeElementToXml(element->mLifetime);
+    } else {
+        ixLog(kSourceFile, kNoLifetime);
+    }
+    EndElement(IX_STR_BOOTSTRAPPINGINFO);
+    return 1;
+}
+
+int BootstrappingInfoMarshaller::AddBtidElementToXml(const char* btid) {
+    ixLog(kSourceFile, kAddBtid);
+    AddTextElement(IX_STR_BTID, btid);
+    return 1;
+}
+
+int BootstrappingInfoMarshaller::AddLifetimeElementToXml(const char* lifetime) {
+    ixLog(kSourceFile, kAddLifetime);
+    AddTextElement(IX_STR_LIFETIME, lifetime);
+    return 1;
+}
+
+XmlFamilyMarshaller* BootstrappingInfoContext::NewMarshaller() {
+    return IX_NEW(BootstrappingInfoMarshaller);
+}
+
+XmlFamilyUnMarshaller* BootstrappingInfoContext::NewUnMarshaller() {
+    return IX_NEW(BootstrappingInfoUnMarshaller);
+}
+
+XMLObjectFactory* BootstrappingInfoContext::NewBinderFactory() {
+    return IX_NEW(BootstrappingInfoDataBinder);
+}

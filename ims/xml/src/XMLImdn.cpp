@@ -1,0 +1,373 @@
+#include "XMLImdn.h"
+
+#include <cstring>
+#include <iterator>
+
+#include "Imdn.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLImdn";
+
+constexpr char kImdnClass[] = "ix_imdn";
+constexpr char kStatusClass[] = "ix_status";
+constexpr char kDeliveryClass[] = "ix_delivery_notification";
+constexpr char kDisplayClass[] = "ix_display_notification";
+constexpr char kProcessingClass[] = "ix_processing_notification";
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLImdnDecoder); };
+    info.textTokenizerLine = info.textDecoderLine = __LINE__;
+    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
+    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in IMDNUnMarshaller::UnMarshall"};
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+constexpr XmlWriterRow kWriters[] = {
+    {kImdnClass, IX_WRITER(IMDNMarshaller, AddIMDNElementToXml, ix_imdn)},
+};
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.writesDeclaration = true;
+    info.writers = kWriters;
+    info.writerCount = std::size(kWriters);
+    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: IMDNMarshaller :: Marshall"};
+    info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: IMDNMarshaller :: Marshall: Deleting mIMDNXml"};
+    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: Marshall XML %s"};
+    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: Marshall XML Failed!"};
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+constexpr XmlLogText kUnknownElement = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
+constexpr XmlLogText kAddImdn = {2, kSchemaCode, __LINE__, "<XML Module>: AddIMDNElementToXml"};
+constexpr XmlLogText kAddDelivery = {2, kSchemaCode, __LINE__, "<XML Module>: AddDeliverNotificationElementToXml"};
+constexpr XmlLogText kAddDisplay = {2, kSchemaCode, __LINE__, "<XML Module>: AddDisplayNotificationElementToXml"};
+constexpr XmlLogText kAddProcessing = {2, kSchemaCode, __LINE__, "<XML Module>: AddProcessingNotificationElementToXml"};
+constexpr XmlLogText kAddNotification = {2, kSchemaCode, __LINE__, "<XML Module>: AddNotificationXML"};
+constexpr XmlLogText kDeliveryFailed = {3, kSchemaCode, __LINE__,
+                                        "<XML Module>: AddIMDNElementToXml, failed to add Delivery Notification."};
+constexpr XmlLogText kDisplayFailed = {3, kSchemaCode, __LINE__,
+                                       "<XML Module>: AddIMDNElementToXml, failed to add Display Notification."};
+constexpr XmlLogText kProcessingFailed = {3, kSchemaCode, __LINE__,
+                                          "<XML Module>: AddIMDNElementToXml, failed to add Processing Notification."};
+
+constexpr XmlField kStatusFields[] = {
+    {XmlFieldKind::Presence, IX_STR_DELIVERED, IX_CHILD_MEMBER(ix_status, mDelivered)},
+    {XmlFieldKind::Presence, IX_STR_FAILED, IX_CHILD_MEMBER(ix_status, mFailed)},
+    {XmlFieldKind::Presence, IX_STR_DISPLAYED, IX_CHILD_MEMBER(ix_status, mDisplayed)},
+    {XmlFieldKind::Presence, IX_STR_PROCESSED, IX_CHILD_MEMBER(ix_status, mProcessed)},
+    {XmlFieldKind::Presence, IX_STR_STORED, IX_CHILD_MEMBER(ix_status, mStored)},
+    {XmlFieldKind::Presence, IX_STR_FORBIDDEN, IX_CHILD_MEMBER(ix_status, mForbidden)},
+    {XmlFieldKind::Presence, IX_STR_ERROR, IX_CHILD_MEMBER(ix_status, mError)},
+    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_status::mAnyElementList), 0, nullptr, "any"},
+    {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_status::mAnyAttributeList), 0, nullptr,
+     "attributes"},
+};
+constexpr XmlFieldTable kStatusTable = {nullptr, kStatusFields, std::size(kStatusFields)};
+
+constexpr XmlField kNotificationFields[] = {
+    {XmlFieldKind::Child, IX_STR_STATUS, IX_CHILD_MEMBER(ix_notificationType, mStatus)},
+};
+constexpr XmlFieldTable kNotificationTable = {nullptr, kNotificationFields, std::size(kNotificationFields)};
+
+constexpr XmlField kImdnFields[] = {
+    {XmlFieldKind::Text, IX_STR_MESSAGE_ID, XmlTextMember(&ix_imdn::mMessageId)},
+    {XmlFieldKind::Text, IX_STR_DATETIME, XmlTextMember(&ix_imdn::mDatetime)},
+    {XmlFieldKind::Text, IX_STR_RECIPIENT_URI, XmlTextMember(&ix_imdn::mRecipientUri)},
+    {XmlFieldKind::Text, IX_STR_ORIGINAL_RECIPIENT_URI, XmlTextMember(&ix_imdn::mOriginalRecipientUri)},
+    {XmlFieldKind::Text, IX_STR_SUBJECT, XmlTextMember(&ix_imdn::mSubject)},
+    {XmlFieldKind::Child, IX_STR_DELIVERY_NOTIFICATION, IX_CHILD_MEMBER(ix_imdn, mDeliveryNotification)},
+    {XmlFieldKind::Child, IX_STR_DISPLAY_NOTIFICATION, IX_CHILD_MEMBER(ix_imdn, mDisplayNotification)},
+    {XmlFieldKind::Child, IX_STR_IX_NULL, IX_CHILD_MEMBER(ix_imdn, mProcessingNotification), 0, nullptr,
+     kProcessingNotificationElement},
+    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_imdn::mAnyElementList), 0, nullptr, "any"},
+    {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_imdn::mAnyAttributeList), 0, nullptr, "attributes"},
+};
+constexpr XmlFieldTable kImdnTable = {nullptr, kImdnFields, std::size(kImdnFields)};
+
+constexpr e_XmlStrRef kTexts[] = {IX_STR_MESSAGE_ID, IX_STR_DATETIME, IX_STR_RECIPIENT_URI,
+                                  IX_STR_ORIGINAL_RECIPIENT_URI, IX_STR_SUBJECT};
+
+/// The values that each notification may have, in order of preference.
+constexpr e_XmlStrRef kDeliveryValues[] = {IX_STR_DELIVERED, IX_STR_FAILED, IX_STR_FORBIDDEN, IX_STR_ERROR};
+constexpr e_XmlStrRef kDisplayValues[] = {IX_STR_DISPLAYED, IX_STR_FORBIDDEN, IX_STR_ERROR};
+constexpr e_XmlStrRef kProcessingValues[] = {IX_STR_PROCESSED, IX_STR_STORED, IX_STR_FORBIDDEN, IX_STR_ERROR};
+
+/// The field of a status value; NULL for any other name.
+const XmlField* FindStatusValue(e_XmlStrRef name) {
+    for (const XmlField& field : kStatusFields) {
+        if (field.kind == XmlFieldKind::Presence && field.name == name) return &field;
+    }
+    return nullptr;
+}
+
+bool IsNotification(e_XmlStrRef name) {
+    return name == IX_STR_DELIVERY_NOTIFICATION || name == IX_STR_DISPLAY_NOTIFICATION ||
+           name == IX_STR_PROESSING_NOTIFICATION;
+}
+
+bool HasEntries(const IxSingleElementList* list) {
+    return list != nullptr && list->LastNode() != nullptr;
+}
+
+}  // namespace
+
+ix_status::~ix_status() {
+    XmlFields::Release(this, kStatusTable);
+}
+
+const char* ix_status::ClassName() const {
+    return kStatusClass;
+}
+
+const XmlFieldTable* ix_status::FieldTable() const {
+    return &kStatusTable;
+}
+
+int ix_status::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* child) {
+    if (child == nullptr) return 1;
+    if (ixTakeChild(mDelivered, child, "ix_delivered") != 0) return 1;
+    if (ixTakeChild(mFailed, child, "ix_failed") != 0) return 1;
+    if (ixTakeChild(mDisplayed, child, "ix_displayed") != 0) return 1;
+    if (ixTakeChild(mProcessed, child, "ix_processed") != 0) return 1;
+    if (ixTakeChild(mStored, child, "ix_stored") != 0) return 1;
+    if (ixTakeChild(mForbidden, child, "ix_forbidden") != 0) return 1;
+    if (ixTakeChild(mError, child, "ix_error") != 0) return 1;
+    return addAnyElement(child);
+}
+
+int ix_status::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* pair) {
+    ix_AttributeValuePair* const attribute = ixAsPair(pair);
+    return attribute != nullptr ? addAnyAttribute(attribute) : 1;
+}
+
+int ix_status::addAnyElement(XMLElement* element) {
+    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
+}
+
+int ix_status::addAnyAttribute(ix_AttributeValuePair* pair) {
+    return ixAppend(mAnyAttributeList, pair, kSourceFile, __LINE__);
+}
+
+ix_notificationType::~ix_notificationType() {
+    XmlFields::Release(this, kNotificationTable);
+}
+
+const XmlFieldTable* ix_notificationType::FieldTable() const {
+    return &kNotificationTable;
+}
+
+int ix_notificationType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
+    if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child, kStatusClass);
+    return 1;
+}
+
+const char* ix_delivery_notification::ClassName() const {
+    return kDeliveryClass;
+}
+
+const char* ix_display_notification::ClassName() const {
+    return kDisplayClass;
+}
+
+const char* ix_processing_notification::ClassName() const {
+    return kProcessingClass;
+}
+
+ix_imdn::~ix_imdn() {
+    XmlFields::Release(this, kImdnTable);
+}
+
+const char* ix_imdn::ClassName() const {
+    return kImdnClass;
+}
+
+const XmlFieldTable* ix_imdn::FieldTable() const {
+    return &kImdnTable;
+}
+
+int ix_imdn::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    if (ixEndNameIs(name, IX_STR_MESSAGE_ID)) return setMessageIdValue(text);
+    if (ixEndNameIs(name, IX_STR_DATETIME)) return setDatetimeValue(text);
+    if (ixEndNameIs(name, IX_STR_RECIPIENT_URI)) return setRecipientUriValue(text);
+    if (ixEndNameIs(name, IX_STR_ORIGINAL_RECIPIENT_URI)) return setOriginalRecipientUriValue(text);
+    if (ixEndNameIs(name, IX_STR_SUBJECT)) return setSubjectValue(text);
+    if (ixNameIs(name, IX_STR_DELIVERY_NOTIFICATION)) return ixTakeChild(mDeliveryNotification, child, kDeliveryClass);
+    if (ixNameIs(name, IX_STR_DISPLAY_NOTIFICATION)) return ixTakeChild(mDisplayNotification, child, kDisplayClass);
+    if (name != nullptr && std::strcmp(name, kProcessingNotificationElement) == 0) {
+        return ixTakeChild(mProcessingNotification, child, kProcessingClass);
+    }
+    if (child != nullptr) return addAnyElement(child);
+    // Start tags of the texts say nothing yet.
+    for (const e_XmlStrRef known : kTexts) {
+        if (ixNameIs(name, known)) return 1;
+    }
+    ixLog(kSourceFile, kUnknownElement, name, text);
+    return 1;
+}
+
+int ix_imdn::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* pair) {
+    ix_AttributeValuePair* const attribute = ixAsPair(pair);
+    return attribute != nullptr ? addAnyAttribute(attribute) : 1;
+}
+
+int ix_imdn::addAnyElement(XMLElement* element) {
+    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
+}
+
+int ix_imdn::addAnyAttribute(ix_AttributeValuePair* pair) {
+    return ixAppend(mAnyAttributeList, pair, kSourceFile, __LINE__);
+}
+
+XMLElement* IMDNDataBinder::CreateRootElement() {
+    return IX_NEW(ix_imdn);
+}
+
+ix_delivery_notification* IMDNDataBinder::CreateDeliverNotification() {
+    return IX_NEW(ix_delivery_notification);
+}
+
+ix_display_notification* IMDNDataBinder::CreateDisplayNotification() {
+    return IX_NEW(ix_display_notification);
+}
+
+ix_processing_notification* IMDNDataBinder::CreateProcesssingNotification() {
+    return IX_NEW(ix_processing_notification);
+}
+
+ix_status* IMDNDataBinder::CreateStatus() {
+    return IX_NEW(ix_status);
+}
+
+ix_delivered* IMDNDataBinder::CreateDeliveredElement() {
+    return IX_NEW(ix_delivered);
+}
+
+ix_failed* IMDNDataBinder::CreateFailedElement() {
+    return IX_NEW(ix_failed);
+}
+
+ix_displayed* IMDNDataBinder::CreateDisplayedElement() {
+    return IX_NEW(ix_displayed);
+}
+
+ix_processed* IMDNDataBinder::CreateProcessedElement() {
+    return IX_NEW(ix_processed);
+}
+
+ix_stored* IMDNDataBinder::CreateStoredElement() {
+    return IX_NEW(ix_stored);
+}
+
+ix_forbidden* IMDNDataBinder::CreateForbiddenElement() {
+    return IX_NEW(ix_forbidden);
+}
+
+ix_error* IMDNDataBinder::CreateErrorElement() {
+    return IX_NEW(ix_error);
+}
+
+const XmlUnMarshallerInfo& IMDNUnMarshaller::Info() const {
+    return kUnMarshallerInfo;
+}
+
+IMDNMarshaller::IMDNMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+
+int IMDNMarshaller::AddIMDNElementToXml(ix_imdn* element) {
+    ixLog(kSourceFile, kAddImdn);
+    if (element == nullptr) return 0;
+    const IxSingleElementList* const attributes = element->mAnyAttributeList;
+    StartElementOpen(IX_STR_IMDN);
+    AddAttribute(IX_STR_XMLNS, ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_IMDN),
+                 HasEntries(attributes) ? Attribute::Open : Attribute::Closing);
+    EndStartTag(attributes);
+    AddTextElement(IX_STR_MESSAGE_ID, element->mMessageId);
+    AddTextElement(IX_STR_DATETIME, element->mDatetime);
+    AddTextElement(IX_STR_RECIPIENT_URI, element->mRecipientUri);
+    AddTextElement(IX_STR_ORIGINAL_RECIPIENT_URI, element->mOriginalRecipientUri);
+    AddTextElement(IX_STR_SUBJECT, element->mSubject);
+    if (element->mDeliveryNotification != nullptr) {
+        if (AddDeliverNotificationElementToXml(element->mDeliveryNotification) == 0) {
+            ixLog(kSourceFile, kDeliveryFailed);
+        }
+    } else if (element->mDisplayNotification != nullptr) {
+        if (AddDisplayNotificationElementToXml(element->mDisplayNotification) == 0) ixLog(kSourceFile, kDisplayFailed);
+    } else if (element->mProcessingNotification != nullptr) {
+        if (AddProcessingNotificationElementToXml(element->mProcessingNotification) == 0) {
+            ixLog(kSourceFile, kProcessingFailed);
+        }
+    }
+    EndElement(IX_STR_IMDN);
+    return 1;
+}
+
+int IMDNMarshaller::AddDeliverNotificationElementToXml(ix_delivery_notification* notification) {
+    ixLog(kSourceFile, kAddDelivery);
+    return AddNotification(IX_STR_DELIVERY_NOTIFICATION, notification, kDeliveryValues, std::size(kDeliveryValues));
+}
+
+int IMDNMarshaller::AddDisplayNotificationElementToXml(ix_display_notification* notification) {
+    ixLog(kSourceFile, kAddDisplay);
+    return AddNotification(IX_STR_DISPLAY_NOTIFICATION, notification, kDisplayValues, std::size(kDisplayValues));
+}
+
+int IMDNMarshaller::AddProcessingNotificationElementToXml(ix_processing_notification* notification) {
+    ixLog(kSourceFile, kAddProcessing);
+    return AddNotification(IX_STR_PROESSING_NOTIFICATION, notification, kProcessingValues,
+                           std::size(kProcessingValues));
+}
+
+/// Writes the first of `values` that the status of `notification` has. @return 1, or 0 without one.
+int IMDNMarshaller::AddNotification(e_XmlStrRef name, const ix_notificationType* notification,
+                                    const e_XmlStrRef* values, std::size_t count) {
+    const ix_status* const status = notification != nullptr ? notification->mStatus : nullptr;
+    if (status == nullptr) return 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (XmlFields::IsSet(*status, *FindStatusValue(values[i]))) {
+            return AddNotificationXML(name, values[i], status->mAnyAttributeList);
+        }
+    }
+    return 0;
+}
+
+int IMDNMarshaller::AddNotificationXML(e_XmlStrRef notification, e_XmlStrRef statusValue,
+                                       IxSingleElementList* statusAttributes) {
+    ixLog(kSourceFile, kAddNotification);
+    if (!IsNotification(notification) || FindStatusValue(statusValue) == nullptr) return 0;
+    StartElement(notification);
+    if (HasEntries(statusAttributes)) {
+        StartElementOpen(IX_STR_STATUS);
+        EndStartTag(statusAttributes);
+    } else {
+        StartElement(IX_STR_STATUS);
+    }
+    m_generator.ixStartElementSelfEnding(ix_xml_common_array_definition::getStringName(statusValue));
+    EndElement(IX_STR_STATUS);
+    EndElement(notification);
+    return 1;
+}
+
+/// The last attribute closes the start tag. An entry without a name writes and closes nothing, so the tag is closed
+/// here if it still is open.
+void IMDNMarshaller::EndStartTag(const IxSingleElementList* attributes) {
+    AddAttributeList(attributes, Attribute::Closing);
+    m_generator.ixXmlSetData("");
+}
+
+XmlFamilyMarshaller* IMDNContext::NewMarshaller() {
+    return IX_NEW(IMDNMarshaller);
+}
+
+XmlFamilyUnMarshaller* IMDNContext::NewUnMarshaller() {
+    return IX_NEW(IMDNUnMarshaller);
+}
+
+XMLObjectFactory* IMDNContext::NewBinderFactory() {
+    return IX_NEW(IMDNDataBinder);
+}

@@ -1,0 +1,178 @@
+#include "XMLRcsTermsInfo.h"
+
+#include <iterator>
+
+#include "RcsTermsInfo.h"
+
+namespace {
+
+const char kSourceFile[] = "ims/xml/src/XMLRcsTermsInfo";
+
+constexpr char kRootClass[] = "ix_rcs_terms_info";
+constexpr char kTermClass[] = "ix_ns_rcs_terms_info_term";
+
+constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
+    XmlUnMarshallerInfo info;
+    info.source = kSourceFile;
+    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLRcsTermsInfoDecoder); };
+    info.textTokenizerLine = info.textDecoderLine = __LINE__;
+    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
+    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in RcsTermsInfoUnMarshaller::UnMarshall"};
+    return info;
+}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+
+constexpr XmlWriterRow kWriters[] = {
+    {kRootClass, IX_WRITER(RcsTermsInfoMarshaller, AddRcsTermsInfoElementToXml, ix_rcs_terms_info)},
+};
+
+/// The list may come from a caller and hold anything.
+constexpr XmlWriter kTermWriter = [](XmlFamilyMarshaller& self, XMLElement* element) -> int {
+    if (!ixIsClass(element, kTermClass)) return 0;
+    return static_cast<RcsTermsInfoMarshaller&>(self).AddTermElementToXml(
+        static_cast<ix_ns_rcs_terms_info_term*>(element));
+};
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info;
+    info.source = kSourceFile;
+    info.writesDeclaration = true;
+    info.writers = kWriters;
+    info.writerCount = std::size(kWriters);
+    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: RcsTermsInfoMarshaller :: Marshall"};
+    info.deleting = {3, kSchemaCode, __LINE__,
+                     "<XML Module>: RcsTermsInfoMarshaller :: Marshall: Deleting mRcsTermsInfoXml"};
+    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: RcsTermsInfoMarshaller XML %s"};
+    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: RcsTermsInfoMarshaller XML Failed!"};
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+constexpr XmlLogText kRootHook = {2, kSchemaCode, __LINE__, "In ix_rcs_terms_info::ProcessUnMarshall"};
+constexpr XmlLogText kRootAttributeHook = {2, kSchemaCode, __LINE__,
+                                           "In ix_rcs_terms_info::ProcessUnMarshallAttribute"};
+constexpr XmlLogText kTermHook = {2, kSchemaCode, __LINE__, "In ix_ns_rcs_terms_info_term::ProcessUnMarshall"};
+constexpr XmlLogText kTermAttributeHook = {2, kSchemaCode, __LINE__,
+                                           "In ix_ns_rcs_terms_info_term::ProcessUnMarshallAttribute"};
+constexpr XmlLogText kAddRoot = {2, kSchemaCode, __LINE__, "<XML Module>: AddRcsTermsInfoElementToXml"};
+constexpr XmlLogText kAddTerm = {2, kSchemaCode, __LINE__, "<XML Module>: AddTermElementToXml"};
+constexpr XmlLogText kTermFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddTermElementToXml XML Failed!"};
+
+constexpr XmlField kTermFields[] = {
+    {XmlFieldKind::Text, IX_STR_TITLE, XmlTextMember(&ix_ns_rcs_terms_info_term::mTitle)},
+    {XmlFieldKind::Text, IX_STR_URL, XmlTextMember(&ix_ns_rcs_terms_info_term::mUrl)},
+};
+constexpr XmlFieldTable kTermTable = {nullptr, kTermFields, std::size(kTermFields)};
+
+constexpr XmlField kRootFields[] = {
+    {XmlFieldKind::Text, IX_STR_VERSION, XmlTextMember(&ix_rcs_terms_info::mVersion)},
+    {XmlFieldKind::Text, IX_STR_TERMSVERSION, XmlTextMember(&ix_rcs_terms_info::mTermsVersion)},
+    {XmlFieldKind::ChildList, IX_STR_TERM, XmlListMember(&ix_rcs_terms_info::mTerms)},
+};
+constexpr XmlFieldTable kRootTable = {nullptr, kRootFields, std::size(kRootFields)};
+
+}  // namespace
+
+ix_ns_rcs_terms_info_term::~ix_ns_rcs_terms_info_term() {
+    XmlFields::Release(this, kTermTable);
+}
+
+const char* ix_ns_rcs_terms_info_term::ClassName() const {
+    return kTermClass;
+}
+
+const XmlFieldTable* ix_ns_rcs_terms_info_term::FieldTable() const {
+    return &kTermTable;
+}
+
+int ix_ns_rcs_terms_info_term::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    ixLog(kSourceFile, kTermHook);
+    if (ixEndNameIs(name, IX_STR_TITLE)) return ixTakeText(mTitle, text, child);
+    if (ixEndNameIs(name, IX_STR_URL)) return ixTakeText(mUrl, text, child);
+    return 1;
+}
+
+int ix_ns_rcs_terms_info_term::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/,
+                                                          XMLAttribute* /*pair*/) {
+    ixLog(kSourceFile, kTermAttributeHook);
+    return 1;
+}
+
+ix_rcs_terms_info::~ix_rcs_terms_info() {
+    XmlFields::Release(this, kRootTable);
+}
+
+const char* ix_rcs_terms_info::ClassName() const {
+    return kRootClass;
+}
+
+const XmlFieldTable* ix_rcs_terms_info::FieldTable() const {
+    return &kRootTable;
+}
+
+int ix_rcs_terms_info::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    ixLog(kSourceFile, kRootHook);
+    if (ixEndNameIs(name, IX_STR_TERMSVERSION)) return ixTakeText(mTermsVersion, text, child);
+    if (!ixNameIs(name, IX_STR_TERM) || ixIsNameless(child)) return 1;
+    return ixIsClass(child, kTermClass) ? addTerm(static_cast<ix_ns_rcs_terms_info_term*>(child)) : 0;
+}
+
+int ix_rcs_terms_info::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    ixLog(kSourceFile, kRootAttributeHook);
+    return ixNameIs(attribute, IX_STR_VERSION) ? ixTakeText(mVersion, value, pair) : 1;
+}
+
+int ix_rcs_terms_info::addTerm(ix_ns_rcs_terms_info_term* term) {
+    return ixAppend(mTerms, term, kSourceFile, __LINE__);
+}
+
+XMLElement* RcsTermsInfoDataBinder::CreateRootElement() {
+    return IX_NEW(ix_rcs_terms_info);
+}
+
+ix_ns_rcs_terms_info_term* RcsTermsInfoDataBinder::CreateTermElement() {
+    return IX_NEW(ix_ns_rcs_terms_info_term);
+}
+
+const XmlUnMarshallerInfo& RcsTermsInfoUnMarshaller::Info() const {
+    return kUnMarshallerInfo;
+}
+
+RcsTermsInfoMarshaller::RcsTermsInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+
+int RcsTermsInfoMarshaller::AddRcsTermsInfoElementToXml(ix_rcs_terms_info* element) {
+    ixLog(kSourceFile, kAddRoot);
+    if (element == nullptr) return 0;
+    if (element->mVersion != nullptr) {
+        StartElementOpen(IX_STR_RCS_TERMS_INFO);
+        AddAttribute(IX_STR_VERSION, element->mVersion, Attribute::Closing);
+    } else {
+        StartElement(IX_STR_RCS_TERMS_INFO);
+    }
+    AddTextElement(IX_STR_TERMSVERSION, element->mTermsVersion);
+    if (AddChildList(element->mTerms, kTermWriter) == 0) return ReleaseAndFail(kTermFailed);
+    EndElement(IX_STR_RCS_TERMS_INFO);
+    return 1;
+}
+
+int RcsTermsInfoMarshaller::AddTermElementToXml(ix_ns_rcs_terms_info_term* term) {
+    ixLog(kSourceFile, kAddTerm);
+    if (term == nullptr) return 0;
+    StartElement(IX_STR_TERM);
+    AddTextElement(IX_STR_TITLE, term->mTitle);
+    AddTextElement(IX_STR_URL, term->mUrl);
+    EndElement(IX_STR_TERM);
+    return 1;
+}
+
+XmlFamilyMarshaller* RcsTermsInfoContext::NewMarshaller() {
+    return IX_NEW(RcsTermsInfoMarshaller);
+}
+
+XmlFamilyUnMarshaller* RcsTermsInfoContext::NewUnMarshaller() {
+    return IX_NEW(RcsTermsInfoUnMarshaller);
+}
+
+XMLObjectFactory* RcsTermsInfoContext::NewBinderFactory() {
+    return IX_NEW(RcsTermsInfoDataBinder);
+}
