@@ -7,7 +7,8 @@ set -euo pipefail
 [ $# -eq 3 ] || { echo "usage: $0 BUILD-DIR COMPILER SOURCE-DIR" >&2; exit 2; }
 build=$1
 compiler=$2
-consumer=$3/tests/consumer
+source=$3
+consumer=$source/tests/consumer
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -49,6 +50,10 @@ consume() {
     read -r -a warnings <<<"-std=c++17 -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror $flags"
     quietly "$compiler" "${warnings[@]}" "$consumer/main.cpp" -o "$work/$name/with-pkg-config" "${options[@]}"
     expect "$name, pkg-config" env LD_LIBRARY_PATH="$libdir" "$work/$name/with-pkg-config"
+
+    quietly "$compiler" "${warnings[@]}" "$source/examples/reginfo-contacts.cpp" -o "$work/$name/example" "${options[@]}"
+    expected=$(<"$source/examples/expected/reginfo-contacts.txt") \
+        expect "$name, example" env LD_LIBRARY_PATH="$libdir" "$work/$name/example" "$source/samples/reginfo/rich.xml"
 }
 
 quietly cmake --install "$build" --prefix "$work/first/prefix"

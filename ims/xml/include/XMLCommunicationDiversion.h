@@ -96,6 +96,7 @@ class IX_XML_EXPORT CommunicationDiversionDataBinder : public XmlRuleDataBinder 
     /// A new `ix_communication_diversion`, active.
     XMLElement* CreateRootElement() override;
     ix_ns_xcap_forward_to_type* CreateForwardToTypeElement();
+    ix_NoReplyTimer* CreateNoReplyTimerElement();
 
   protected:
     const char* SourceFile() const override;

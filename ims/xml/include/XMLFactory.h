@@ -74,8 +74,8 @@ class IX_XML_EXPORT XMLUnMarshaller : public XmlHeapObject {
     XMLUnMarshaller& operator=(const XMLUnMarshaller&) = delete;
 
     /// @return the root, which the caller frees with `XMLFactory::DeleteElement`; NULL when `text` is NULL, is not
-    /// complete
-    ///         and balanced XML in the tokenizer's sense, has another root, or when memory ran out.
+    /// complete and balanced XML in the tokenizer's sense, has another root, or when there was no memory to begin with.
+    /// Required: an element or text for which memory runs out later is left out, as one that has no place is.
     virtual XMLElement* UnMarshall(const char* text) = 0;
     /// The same for the text of a file. The file stays with the caller, who closes it.
     virtual XMLElement* UnMarshall(XMLFile* file) = 0;

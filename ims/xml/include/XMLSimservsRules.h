@@ -96,6 +96,9 @@ class IX_XML_EXPORT XmlRuleDataBinder : public XMLObjectFactory {
     ix_ns_common_policy_extensibleType* CreateTransformationsTypeElement();
     /// For a flag such as `busy`: to be given its name and its presence.
     ix_empty_element_type* CreateEmptyTypeElement();
+    ix_ns_xcap_media_type* CreateMediaTypeElement();
+    /// For the dates of a validity.
+    ix_string* CreateStringElement();
     /// @}
 
   protected:

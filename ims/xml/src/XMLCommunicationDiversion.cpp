@@ -184,6 +184,10 @@ ix_ns_xcap_forward_to_type* CommunicationDiversionDataBinder::CreateForwardToTyp
     return IX_NEW(ix_ns_xcap_forward_to_type);
 }
 
+ix_NoReplyTimer* CommunicationDiversionDataBinder::CreateNoReplyTimerElement() {
+    return IX_NEW(ix_NoReplyTimer);
+}
+
 const char* CommunicationDiversionDataBinder::SourceFile() const {
     return kSourceFile;
 }

@@ -176,6 +176,14 @@ ix_empty_element_type* XmlRuleDataBinder::CreateEmptyTypeElement() {
     return IX_NEW_RULE_ELEMENT(ix_empty_element_type);
 }
 
+ix_ns_xcap_media_type* XmlRuleDataBinder::CreateMediaTypeElement() {
+    return IX_NEW_RULE_ELEMENT(ix_ns_xcap_media_type);
+}
+
+ix_string* XmlRuleDataBinder::CreateStringElement() {
+    return IX_NEW_RULE_ELEMENT(ix_string);
+}
+
 XmlRuleMarshaller::XmlRuleMarshaller(const XmlMarshallerInfo& info, const XmlRuleWriterTexts& texts)
     : XmlServiceMarshaller(info), m_texts(texts) {}
 

@@ -1,0 +1,26 @@
+# Runs the command behind "--" and compares its exit code with STATUS and all that it prints with the file EXPECTED, which
+# it writes instead with IMSXML_UPDATE_EXPECTED in the environment.
+set(command)
+set(behind FALSE)
+math(EXPR last "${CMAKE_ARGC} - 1")
+foreach(index RANGE 1 ${last})
+    if(behind)
+        list(APPEND command "${CMAKE_ARGV${index}}")
+    elseif("${CMAKE_ARGV${index}}" STREQUAL "--")
+        set(behind TRUE)
+    endif()
+endforeach()
+
+execute_process(COMMAND ${command} RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE printed)
+# How large an object is differs between machines; whether it is anything at all does not.
+string(REGEX REPLACE "[1-9][0-9]* bytes" "N bytes" printed "${printed}")
+if(DEFINED ENV{IMSXML_UPDATE_EXPECTED})
+    file(WRITE "${EXPECTED}" "${printed}")
+endif()
+file(READ "${EXPECTED}" expected)
+if(NOT status STREQUAL STATUS)
+    message(FATAL_ERROR "exit code ${status} and not ${STATUS}; printed\n${printed}")
+endif()
+if(NOT printed STREQUAL expected)
+    message(FATAL_ERROR "it printed\n${printed}\nand not\n${expected}")
+endif()
