@@ -31,17 +31,39 @@ class IX_XML_EXPORT XmlIdentityPresentationMarshaller : public XmlServiceMarshal
                                 const ix_ns_identity_presentationType& element);
 };
 
-/// What both unmarshallers have in common; `service` is "OIP" or "TIP".
-#define IX_IDENTITY_UNMARSHALLER_TEXTS(info, service)                                                              \
-    do {                                                                                                           \
-        (info).textCopied = {2, kSchemaCode, __LINE__,                                                             \
-                             "<XML Module>: " service "UnMarshaller::UnMarshall: pstring is %s"};                  \
-        (info).fileEntered = {2, kSchemaCode, __LINE__,                                                            \
-                              "<XML Module>: " service "UnMarshaller::UnMarshall(XMLFile* pfile): pstring is %s"}; \
-        (info).noCopy = {4, kSchemaCode, __LINE__,                                                                 \
-                         "<XML Module>: StrDup failed in " service "UnMarshaller::UnMarshall"};                    \
-        (info).decoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Success"};                           \
-        (info).notDecoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Failed"};                         \
-    } while (false)
+/// @name Constants of both services
+/// `service` is its short name, "OIP" or "TIP"; `word` is its first word, "Originating" or "Terminating".
+/// @{
+#define IX_IDENTITY_UNMARSHALLER_INFO(service, decoder)                                                          \
+    [] {                                                                                                         \
+        XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(decoder, service "UnMarshaller");                        \
+        info.textCopied = {2, kSchemaCode, __LINE__,                                                             \
+                           "<XML Module>: " service "UnMarshaller::UnMarshall: pstring is %s"};                  \
+        info.fileEntered = {2, kSchemaCode, __LINE__,                                                            \
+                            "<XML Module>: " service "UnMarshaller::UnMarshall(XMLFile* pfile): pstring is %s"}; \
+        info.decoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Success"};                           \
+        info.notDecoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Failed"};                         \
+        return info;                                                                                             \
+    }()
+
+#define IX_IDENTITY_MARSHALLER_INFO(service, writers)                             \
+    [] {                                                                          \
+        XmlMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, writers);   \
+        IX_SERVICE_MARSHALL_TEXTS(info, service "Marshaller", "m" service "Xml"); \
+        return info;                                                              \
+    }()
+
+#define IX_IDENTITY_DECODER_INFO(service, word, containers, attributes)                                       \
+    [] {                                                                                                      \
+        XmlDecoderInfo info = ixServiceDecoderInfo(kSourceFile, __LINE__, containers, attributes);            \
+        info.names = XmlNamePolicy::Stripped;                                                                 \
+        info.attributePolicy = XmlAttributePolicy::Top;                                                       \
+        IX_SERVICE_DECODER_TEXTS(info.texts, "XML" service "Decoder", "m_PassName", "XML" service "Decoder"); \
+        info.texts.noFirstNamespace = {2, kSchemaCode, __LINE__,                                              \
+                                       "XML" service "Decoder :: XML" word                                    \
+                                       "IdentityPresentationDecoder: Malloc cannot allocate memory"};         \
+        return info;                                                                                          \
+    }()
+/// @}
 
 #endif

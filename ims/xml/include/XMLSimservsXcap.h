@@ -20,14 +20,7 @@ extern IX_XML_EXPORT const XmlFieldTable kSimservTable;
 /// (`comparedName`), and the decoder that its namespace operations were taken from (`origin`).
 #define IX_SERVICE_DECODER_TEXTS(texts, decoder, comparedName, origin)                                               \
     do {                                                                                                             \
-        (texts).noElement = {3, kSchemaCode, __LINE__,                                                               \
-                             "<XML Module>" decoder " :: ProcessElement: n_strElement is NULL"};                     \
-        (texts).noElementName = {3, kSchemaCode, __LINE__,                                                           \
-                                 "<XML Module>" decoder " :: ProcessElement: m_strDup or m_PassName is NULL"};       \
-        (texts).noAttribute = {3, kSchemaCode, __LINE__,                                                             \
-                               "<XML Module>" decoder " :: ProcessAttribute: n_strElement is NULL"};                 \
-        (texts).noAttributeName = {3, kSchemaCode, __LINE__,                                                         \
-                                   "<XML Module>" decoder " :: ProcessAttribute: " comparedName " is NULL"};         \
+        IX_DECODER_TEXTS(texts, decoder, "m_strDup or m_PassName", comparedName);                                    \
         (texts).noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};               \
         (texts).noPairOf = {3, kSchemaCode, __LINE__,                                                                \
                             "<XML Module>: New Failed at any attribute level with element = \"%s\""};                \
@@ -39,6 +32,36 @@ extern IX_XML_EXPORT const XmlFieldTable kSimservTable;
             2, kDecoderCode, __LINE__, "XmlDecoder:: m_strDup: Malloc unable to allocate memory"};                   \
         (texts).removeTagNoMemory = {2, kDecoderCode, __LINE__,                                                      \
                                      origin " :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};          \
+    } while (false)
+
+/// What the decoders of the services share: namespaces and, with the exceptions that each makes, mapped names.
+template <std::size_t containerCount, std::size_t attributeCount>
+constexpr XmlDecoderInfo ixServiceDecoderInfo(const char* source, int line,
+                                              const XmlContainerRow (&containers)[containerCount],
+                                              const XmlAttributeRow (&attributes)[attributeCount]) {
+    XmlDecoderInfo info = ixDecoderInfo(source, line, containers, attributes);
+    info.names = XmlNamePolicy::Mapped;
+    info.namespaces = kSimservsNamespaces;
+    info.namespaceCount = kSimservsNamespaceCount;
+    return info;
+}
+
+/// What their marshallers share: namespaces, and no XML declaration.
+template <std::size_t count>
+constexpr XmlMarshallerInfo ixServiceMarshallerInfo(const char* source, const XmlWriterRow (&writers)[count]) {
+    XmlMarshallerInfo info = ixMarshallerInfo(source, writers);
+    info.writesDeclaration = false;
+    info.namespaces = kSimservsNamespaces;
+    info.namespaceCount = kSimservsNamespaceCount;
+    return info;
+}
+
+/// The log lines of a service's marshaller.
+#define IX_SERVICE_MARSHALL_TEXTS(info, marshaller, kept)                                              \
+    do {                                                                                               \
+        IX_MARSHALL_TEXTS(info, marshaller, kept);                                                     \
+        (info).noFirstNamespace = (info).noNamespace = {                                               \
+            2, kSchemaCode, __LINE__, marshaller " :: " marshaller ": Malloc cannot allocate memory"}; \
     } while (false)
 
 /// The simserv type: a service that is switched on or off.

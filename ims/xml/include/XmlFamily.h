@@ -123,6 +123,41 @@ struct XmlDecoderInfo {
     const XmlDecoderInfo* shared = nullptr;  ///< Its containers and attributes count, too; the rest of it does not.
 };
 
+/// What most decoders are: a table of containers, and one of attributes.
+template <std::size_t containerCount>
+constexpr XmlDecoderInfo ixDecoderInfo(const char* source, int line,
+                                       const XmlContainerRow (&containers)[containerCount]) {
+    XmlDecoderInfo info;
+    info.source = source;
+    info.containers = containers;
+    info.containerCount = containerCount;
+    info.pairLine = line;
+    return info;
+}
+
+template <std::size_t containerCount, std::size_t attributeCount>
+constexpr XmlDecoderInfo ixDecoderInfo(const char* source, int line,
+                                       const XmlContainerRow (&containers)[containerCount],
+                                       const XmlAttributeRow (&attributes)[attributeCount]) {
+    XmlDecoderInfo info = ixDecoderInfo(source, line, containers);
+    info.attributes = attributes;
+    info.attributeCount = attributeCount;
+    return info;
+}
+
+/// The four lines about missing names, which name the decoder and the copies of the names that it works on.
+#define IX_DECODER_TEXTS(texts, decoder, elementName, attributeName)                                          \
+    do {                                                                                                      \
+        (texts).noElement = {3, kSchemaCode, __LINE__,                                                        \
+                             "<XML Module>" decoder " :: ProcessElement: n_strElement is NULL"};              \
+        (texts).noElementName = {3, kSchemaCode, __LINE__,                                                    \
+                                 "<XML Module>" decoder " :: ProcessElement: " elementName " is NULL"};       \
+        (texts).noAttribute = {3, kSchemaCode, __LINE__,                                                      \
+                               "<XML Module>" decoder " :: ProcessAttribute: n_strElement is NULL"};          \
+        (texts).noAttributeName = {3, kSchemaCode, __LINE__,                                                  \
+                                   "<XML Module>" decoder " :: ProcessAttribute: " attributeName " is NULL"}; \
+    } while (false)
+
 /// Base of the decoders: turns the tokenizer's events into objects.
 ///
 /// Start tags of known elements create an object; end tags take it off the stack again. Any other element goes to the
@@ -223,6 +258,23 @@ struct XmlUnMarshallerInfo {
     XmlLogText notDecoded{};
 };
 
+constexpr XmlUnMarshallerInfo ixUnMarshallerInfo(const char* source, int line,
+                                                 XmlFamilyDecoder* (*createDecoder)(int line), const char* noCopy) {
+    XmlUnMarshallerInfo info;
+    info.source = source;
+    info.createDecoder = createDecoder;
+    info.textTokenizerLine = info.textDecoderLine = line;
+    info.fileTokenizerLine = info.fileDecoderLine = line;
+    info.noCopy = {4, kSchemaCode, line, noCopy};
+    return info;
+}
+
+/// What most unmarshallers are: a decoder class, and their name in the line about a text that could not be copied.
+#define IX_UNMARSHALLER_INFO(decoder, unMarshaller)                                                    \
+    ixUnMarshallerInfo(                                                                                \
+        kSourceFile, __LINE__, [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, decoder); }, \
+        "<XML Module>: StrDup failed in " unMarshaller "::UnMarshall")
+
 /// Base of the unmarshallers: wires a tokenizer to a decoder, decodes, and hands over the root.
 class IX_XML_EXPORT XmlFamilyUnMarshaller : public XMLUnMarshaller {
   public:
@@ -287,6 +339,17 @@ struct XmlMarshallerInfo {
     XmlLogText written{};      ///< With the text.
     XmlLogText failed{};
 };
+
+/// What most marshallers are: a declaration, and the elements of a table.
+template <std::size_t count>
+constexpr XmlMarshallerInfo ixMarshallerInfo(const char* source, const XmlWriterRow (&writers)[count]) {
+    XmlMarshallerInfo info;
+    info.source = source;
+    info.writesDeclaration = true;
+    info.writers = writers;
+    info.writerCount = count;
+    return info;
+}
 
 /// The four lines that every call of `Marshall` may log, which name the marshaller and its kept text.
 #define IX_MARSHALL_TEXTS(info, marshaller, kept)                                                                 \
@@ -415,6 +478,22 @@ class IX_XML_EXPORT XmlBinderContext : public XmlFamilyContext {
   private:
     XMLObject* m_pNamespaceBinder = nullptr;  ///< Not owned.
 };
+
+/// The objects of a schema: what its context creates, and the constants of its unmarshaller.
+#define IX_FAMILY(context, marshaller, unMarshaller, binderFactory) \
+    XmlFamilyMarshaller* context::NewMarshaller() {                 \
+        return IX_NEW(marshaller);                                  \
+    }                                                               \
+    XmlFamilyUnMarshaller* context::NewUnMarshaller() {             \
+        return IX_NEW(unMarshaller);                                \
+    }                                                               \
+    XMLObjectFactory* context::NewBinderFactory() {                 \
+        return IX_NEW(binderFactory);                               \
+    }                                                               \
+    const XmlUnMarshallerInfo& unMarshaller::Info() const {         \
+        return kUnMarshallerInfo;                                   \
+    }                                                               \
+    static_assert(true, "takes the semicolon")
 /// @}
 
 #endif

@@ -1,7 +1,5 @@
 #include "BootstrappingInfo.h"
 
-#include <iterator>
-
 #include "XMLBootstrappingInfo.h"
 
 namespace {
@@ -13,22 +11,11 @@ constexpr XmlContainerRow kContainers[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
     info.names = XmlNamePolicy::Stripped;
     info.wrapsNameSize = true;
     info.attributePolicy = XmlAttributePolicy::Top;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.pairLine = __LINE__;
-    info.texts.noElement = {3, kSchemaCode, __LINE__,
-                            "<XML Module>XMLBootstrappingInfoDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noElementName = {3, kSchemaCode, __LINE__,
-                                "<XML Module>XMLBootstrappingInfoDecoder :: ProcessElement: m_PassName is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>XMLBootstrappingInfoDecoder :: ProcessAttribute: n_strElement is NULL"};
-    info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
-                                  "<XML Module>XMLBootstrappingInfoDecoder :: ProcessAttribute: m_PassName is NULL"};
+    IX_DECODER_TEXTS(info.texts, "XMLBootstrappingInfoDecoder", "m_PassName", "m_PassName");
     info.texts.noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};
     info.texts.noPair = {3, kSchemaCode, __LINE__,
                          "<XML Module>: New Failed at any attribute level with element = \"%s\""};

@@ -1,7 +1,5 @@
 #include "CWIndication.h"
 
-#include <iterator>
-
 #include "XMLCWIndication.h"
 
 namespace {

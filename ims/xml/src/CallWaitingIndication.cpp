@@ -1,7 +1,5 @@
 #include "CallWaitingIndication.h"
 
-#include <iterator>
-
 #include "XMLCallWaitingIndication.h"
 
 namespace {

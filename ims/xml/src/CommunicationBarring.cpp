@@ -1,7 +1,5 @@
 #include "CommunicationBarring.h"
 
-#include <iterator>
-
 #include "SimservsRules.h"
 #include "XMLCommunicationBarring.h"
 
@@ -25,20 +23,11 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
-    info.names = XmlNamePolicy::Mapped;
+    XmlDecoderInfo info = ixServiceDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.handsOnLocalNames = true;
     info.takesFragments = true;
     info.attributePolicy = XmlAttributePolicy::RootPairs;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
     info.shared = &kRuleDecoderInfo;
-    info.namespaces = kSimservsNamespaces;
-    info.namespaceCount = kSimservsNamespaceCount;
-    info.pairLine = __LINE__;
     // Required: the texts of the namespace operations name the diversion decoder.
     IX_SERVICE_DECODER_TEXTS(info.texts, "XMLCommunicationBarringDecoder", "m_strDup",
                              "XMLCommunicationDiversionDecoder");

@@ -1,7 +1,5 @@
 #include "CommunicationDiversion.h"
 
-#include <iterator>
-
 #include "SimservsRules.h"
 #include "XMLCommunicationDiversion.h"
 
@@ -20,20 +18,11 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
-    info.names = XmlNamePolicy::Mapped;
+    XmlDecoderInfo info = ixServiceDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.handsOnLocalNames = true;
     info.takesFragments = true;
     info.attributePolicy = XmlAttributePolicy::RootPairs;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
     info.shared = &kRuleDecoderInfo;
-    info.namespaces = kSimservsNamespaces;
-    info.namespaceCount = kSimservsNamespaceCount;
-    info.pairLine = __LINE__;
     IX_SERVICE_DECODER_TEXTS(info.texts, "XMLCommunicationDiversionDecoder", "m_strDup",
                              "XMLCommunicationDiversionDecoder");
     return info;

@@ -1,7 +1,5 @@
 #include "ConferenceInfo.h"
 
-#include <iterator>
-
 #include "XMLConferenceInfo.h"
 
 namespace {
@@ -70,14 +68,8 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Raw;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.pairLine = __LINE__;
     info.texts.noElement = {3, kSchemaCode, __LINE__,
                             "<XML Module>XMLConferenceInfoDecoder :: ProcessElement: n_strElement is NULL"};
     info.texts.noAttribute = {3, kSchemaCode, __LINE__,

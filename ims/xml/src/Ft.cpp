@@ -1,7 +1,5 @@
 #include "Ft.h"
 
-#include <iterator>
-
 #include "XMLFt.h"
 
 namespace {
@@ -25,15 +23,9 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::Top;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.pairLine = __LINE__;
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

@@ -1,7 +1,5 @@
 #include "Gruu.h"
 
-#include <iterator>
-
 #include "XMLGruu.h"
 
 namespace {
@@ -24,15 +22,9 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::Top;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.pairLine = __LINE__;
     info.texts.noElement = {3, kSchemaCode, __LINE__, "<XML Module>: XMLGruuDecoder: n_strElement is NULL"};
     info.texts.noAttribute = {3, kSchemaCode, __LINE__,
                               "<XML Module>: XMLGruuDecoder: n_strElement or n_strAttr is NULL"};

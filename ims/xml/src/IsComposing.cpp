@@ -1,7 +1,5 @@
 #include "IsComposing.h"
 
-#include <iterator>
-
 #include "XMLIsComposing.h"
 
 namespace {
@@ -13,14 +11,11 @@ constexpr XmlContainerRow kContainers[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
     info.names = XmlNamePolicy::Stripped;
     // Required: attributes are offered as if they were elements, which the root knows none of; so each is logged, and
     // none is kept.
     info.attributePolicy = XmlAttributePolicy::AsElements;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

@@ -1,7 +1,5 @@
 #include "MediaControl.h"
 
-#include <iterator>
-
 #include "XMLMediaControl.h"
 
 namespace {
@@ -15,11 +13,8 @@ constexpr XmlContainerRow kContainers[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
     info.names = XmlNamePolicy::Stripped;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

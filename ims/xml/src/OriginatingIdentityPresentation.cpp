@@ -1,7 +1,5 @@
 #include "OriginatingIdentityPresentation.h"
 
-#include <iterator>
-
 #include "XMLOriginatingIdentityPresentation.h"
 
 namespace {
@@ -18,25 +16,7 @@ constexpr XmlAttributeRow kAttributes[] = {
     {kRoot, IX_STR_ACTIVE},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
-    info.names = XmlNamePolicy::Stripped;
-    info.attributePolicy = XmlAttributePolicy::Top;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.namespaces = kSimservsNamespaces;
-    info.namespaceCount = kSimservsNamespaceCount;
-    info.pairLine = __LINE__;
-    IX_SERVICE_DECODER_TEXTS(info.texts, "XMLOIPDecoder", "m_PassName", "XMLOIPDecoder");
-    info.texts.noFirstNamespace = {
-        2, kSchemaCode, __LINE__,
-        "XMLOIPDecoder :: XMLOriginatingIdentityPresentationDecoder: Malloc cannot allocate memory"};
-    return info;
-}
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = IX_IDENTITY_DECODER_INFO("OIP", "Originating", kContainers, kAttributes);
 
 }  // namespace
 

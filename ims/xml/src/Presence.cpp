@@ -66,14 +66,9 @@ bool IsOneOf(const char* name, const e_XmlStrRef (&names)[Count]) {
 }
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
     info.texts.noElement = {3, kSchemaCode, __LINE__,
                             "<XML Module>XMLPresenceDecoder :: ProcessElement: n_strElement is NULL"};
     info.texts.noElementName = {3, kSchemaCode, __LINE__,

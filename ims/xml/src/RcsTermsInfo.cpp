@@ -1,7 +1,5 @@
 #include "RcsTermsInfo.h"
 
-#include <iterator>
-
 #include "XMLRcsTermsInfo.h"
 
 namespace {
@@ -20,15 +18,9 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::Top;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.pairLine = __LINE__;
     info.texts.noElement = {2, kSchemaCode, __LINE__,
                             "In XMLRcsTermsInfoDecoder :: ProcessElement, Element name is NULL"};
     info.texts.noAttribute = {2, kSchemaCode, __LINE__,

@@ -1,7 +1,5 @@
 #include "ReginfoDecoder.h"
 
-#include <iterator>
-
 #include "XMLReginfo.h"
 
 namespace {
@@ -22,12 +20,9 @@ constexpr XmlContainerRow kContainers[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
     info.names = XmlNamePolicy::Stripped;
     info.wrapsNameSize = true;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
     info.texts.noElement = {3, kSchemaCode, __LINE__, "In XMLReginfoDecoder :: ProcessElement, Element name is NULL"};
     info.texts.noElementName = {3, kSchemaCode, __LINE__,
                                 "<XML Module>XMLReginfoDecoder :: ProcessElement: m_PassName is NULL"};

@@ -1,7 +1,5 @@
 #include "RlsServices.h"
 
-#include <iterator>
-
 #include "XMLRlsServices.h"
 
 namespace {
@@ -34,13 +32,7 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.pairLine = __LINE__;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.texts.noElement = {3, kSchemaCode, __LINE__,
                             "<XML Module>XMLRlsServicesDecoder :: ProcessElement: n_strElement is NULL"};
     info.texts.noAttribute = {3, kSchemaCode, __LINE__,

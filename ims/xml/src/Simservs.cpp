@@ -1,8 +1,6 @@
 #include "Simservs.h"
 
 #include <cstring>
-#include <iterator>
-
 #include "XMLSimservs.h"
 
 namespace {
@@ -14,12 +12,9 @@ constexpr XmlContainerRow kContainers[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
     info.names = XmlNamePolicy::Mapped;
     info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
     info.namespaces = kSimservsNamespaces;
     info.namespaceCount = kSimservsNamespaceCount;
     IX_SERVICE_DECODER_TEXTS(info.texts, "XMLSimservsDecoder", "m_strDup", "XMLSimservsDecoder");

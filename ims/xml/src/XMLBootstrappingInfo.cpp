@@ -10,17 +10,8 @@ const char kSourceFile[] = "ims/xml/src/XMLBootstrappingInfo";
 
 constexpr char kClass[] = "ix_bootstrappinginfo";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLBootstrappingInfoDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__,
-                   "<XML Module>: StrDup failed in BootstrappingInfoUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLBootstrappingInfoDecoder, "BootstrappingInfoUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kClass, IX_WRITER(BootstrappingInfoMarshaller, AddBootstrappingInfoElementToXml, ix_bootstrappinginfo)},
@@ -33,12 +24,8 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
     info.entersFirst = true;
     info.writers = kWriters;
     info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller :: Marshall"};
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller pObj is NULL"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: BootstrappingInfoMarshaller :: Marshall: Deleting mBootstrappingInfoXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller XML Failed!"};
+    IX_MARSHALL_TEXTS(info, "BootstrappingInfoMarshaller", "mBootstrappingInfoXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -89,10 +76,6 @@ XMLElement* BootstrappingInfoDataBinder::CreateRootElement() {
     return IX_NEW(ix_bootstrappinginfo);
 }
 
-const XmlUnMarshallerInfo& BootstrappingInfoUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 BootstrappingInfoMarshaller::BootstrappingInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int BootstrappingInfoMarshaller::AddBootstrappingInfoElementToXml(ix_bootstrappinginfo* element) {
@@ -126,14 +109,5 @@ int BootstrappingInfoMarshaller::AddLifetimeElementToXml(const char* lifetime) {
     return 1;
 }
 
-XmlFamilyMarshaller* BootstrappingInfoContext::NewMarshaller() {
-    return IX_NEW(BootstrappingInfoMarshaller);
-}
-
-XmlFamilyUnMarshaller* BootstrappingInfoContext::NewUnMarshaller() {
-    return IX_NEW(BootstrappingInfoUnMarshaller);
-}
-
-XMLObjectFactory* BootstrappingInfoContext::NewBinderFactory() {
-    return IX_NEW(BootstrappingInfoDataBinder);
-}
+IX_FAMILY(BootstrappingInfoContext, BootstrappingInfoMarshaller, BootstrappingInfoUnMarshaller,
+          BootstrappingInfoDataBinder);

@@ -97,10 +97,6 @@ ix_alternative_service* CWIndicationDataBinder::CreateAlternativeServiceElement(
     return IX_NEW(ix_alternative_service);
 }
 
-const XmlUnMarshallerInfo& CWIndicationUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 CWIndicationMarshaller::CWIndicationMarshaller() : XmlImsBodyMarshaller(kMarshallerInfo) {}
 
 int CWIndicationMarshaller::AddIms3gppElementToXml(ix_ims_3gpp* element) {
@@ -125,14 +121,4 @@ int CWIndicationMarshaller::AddAlternativeServiceElementToXml(ix_alternative_ser
     return 1;
 }
 
-XmlFamilyMarshaller* CWIndicationContext::NewMarshaller() {
-    return IX_NEW(CWIndicationMarshaller);
-}
-
-XmlFamilyUnMarshaller* CWIndicationContext::NewUnMarshaller() {
-    return IX_NEW(CWIndicationUnMarshaller);
-}
-
-XMLObjectFactory* CWIndicationContext::NewBinderFactory() {
-    return IX_NEW(CWIndicationDataBinder);
-}
+IX_FAMILY(CWIndicationContext, CWIndicationMarshaller, CWIndicationUnMarshaller, CWIndicationDataBinder);

@@ -148,10 +148,6 @@ ix_empty_element_type* CallWaitingIndicationDataBinder::CreateCallWaitingIndicat
                                 kSourceFile, __LINE__);
 }
 
-const XmlUnMarshallerInfo& CallWaitingIndicationUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 CallWaitingIndicationMarshaller::CallWaitingIndicationMarshaller() : XmlImsBodyMarshaller(kMarshallerInfo) {}
 
 int CallWaitingIndicationMarshaller::Add3gppImsElementToXml(ix_3gpp_ims* element) {
@@ -200,14 +196,5 @@ int CallWaitingIndicationMarshaller::AddCallWaitingIndicationElementToXml(ix_emp
     return 1;
 }
 
-XmlFamilyMarshaller* CallWaitingIndicationContext::NewMarshaller() {
-    return IX_NEW(CallWaitingIndicationMarshaller);
-}
-
-XmlFamilyUnMarshaller* CallWaitingIndicationContext::NewUnMarshaller() {
-    return IX_NEW(CallWaitingIndicationUnMarshaller);
-}
-
-XMLObjectFactory* CallWaitingIndicationContext::NewBinderFactory() {
-    return IX_NEW(CallWaitingIndicationDataBinder);
-}
+IX_FAMILY(CallWaitingIndicationContext, CallWaitingIndicationMarshaller, CallWaitingIndicationUnMarshaller,
+          CallWaitingIndicationDataBinder);

@@ -13,17 +13,8 @@ constexpr char kOutgoingClass[] = "outgoing-communication-barring";
 constexpr char kForwardToClass[] = "ix_ns_xcap_forward_to_type";
 constexpr char kAllowClass[] = "ix_allow_action_type";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCommunicationBarringDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__,
-                   "<XML Module>: StrDup failed in CommunicationBarringUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLCommunicationBarringDecoder, "CommunicationBarringUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kIncomingClass,
@@ -47,17 +38,9 @@ constexpr XmlWriterRow kWriters[] = {
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
+    XmlMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, kWriters);
     info.deletesFirst = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.namespaces = kSimservsNamespaces;
-    info.namespaceCount = kSimservsNamespaceCount;
-    info.noFirstNamespace = info.noNamespace = {
-        2, kSchemaCode, __LINE__,
-        "Communication_barringMarshaller :: Communication_barringMarshaller: Malloc cannot allocate memory"};
-    IX_MARSHALL_TEXTS(info, "Communication_barringMarshaller", "mCbXml");
+    IX_SERVICE_MARSHALL_TEXTS(info, "Communication_barringMarshaller", "mCbXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -131,10 +114,6 @@ const char* CommunicationBarringDataBinder::SourceFile() const {
     return kSourceFile;
 }
 
-const XmlUnMarshallerInfo& CommunicationBarringUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 Communication_barringMarshaller::Communication_barringMarshaller() : XmlRuleMarshaller(kMarshallerInfo, kRuleTexts) {}
 
 int Communication_barringMarshaller::AddIncoming_communication_barringElementToXml(
@@ -160,14 +139,5 @@ void Communication_barringMarshaller::AddAction(XMLElement* action) {
     }
 }
 
-XmlFamilyMarshaller* CommunicationBarringContext::NewMarshaller() {
-    return IX_NEW(Communication_barringMarshaller);
-}
-
-XmlFamilyUnMarshaller* CommunicationBarringContext::NewUnMarshaller() {
-    return IX_NEW(CommunicationBarringUnMarshaller);
-}
-
-XMLObjectFactory* CommunicationBarringContext::NewBinderFactory() {
-    return IX_NEW(CommunicationBarringDataBinder);
-}
+IX_FAMILY(CommunicationBarringContext, Communication_barringMarshaller, CommunicationBarringUnMarshaller,
+          CommunicationBarringDataBinder);

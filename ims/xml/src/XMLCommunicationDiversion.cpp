@@ -12,19 +12,8 @@ constexpr char kClass[] = "communication-diversion";
 constexpr char kTimerClass[] = "ix_NoReplyTimer";
 constexpr char kForwardToClass[] = "ix_ns_xcap_forward_to_type";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* {
-        return IX_NEW_AT(line, XMLCommunicationDiversionDecoder);
-    };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__,
-                   "<XML Module>: StrDup failed in CommunicationDiversionUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLCommunicationDiversionDecoder, "CommunicationDiversionUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kClass,
@@ -43,16 +32,8 @@ constexpr XmlWriterRow kWriters[] = {
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.namespaces = kSimservsNamespaces;
-    info.namespaceCount = kSimservsNamespaceCount;
-    info.noFirstNamespace = info.noNamespace = {
-        2, kSchemaCode, __LINE__,
-        "Communication_diversionMarshaller :: Communication_diversionMarshaller: Malloc cannot allocate memory"};
-    IX_MARSHALL_TEXTS(info, "Communication_diversionMarshaller", "mCdivXml");
+    XmlMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, kWriters);
+    IX_SERVICE_MARSHALL_TEXTS(info, "Communication_diversionMarshaller", "mCdivXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -192,10 +173,6 @@ const char* CommunicationDiversionDataBinder::SourceFile() const {
     return kSourceFile;
 }
 
-const XmlUnMarshallerInfo& CommunicationDiversionUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 Communication_diversionMarshaller::Communication_diversionMarshaller()
     : XmlRuleMarshaller(kMarshallerInfo, kRuleTexts) {}
 
@@ -240,14 +217,5 @@ void Communication_diversionMarshaller::AddNotification(e_XmlStrRef name, int va
     AddTextElement(name, ix_xml_common_array_definition::getStringName(value == 1 ? IX_STR_TRUE : IX_STR_FALSE));
 }
 
-XmlFamilyMarshaller* CommunicationDiversionContext::NewMarshaller() {
-    return IX_NEW(Communication_diversionMarshaller);
-}
-
-XmlFamilyUnMarshaller* CommunicationDiversionContext::NewUnMarshaller() {
-    return IX_NEW(CommunicationDiversionUnMarshaller);
-}
-
-XMLObjectFactory* CommunicationDiversionContext::NewBinderFactory() {
-    return IX_NEW(CommunicationDiversionDataBinder);
-}
+IX_FAMILY(CommunicationDiversionContext, Communication_diversionMarshaller, CommunicationDiversionUnMarshaller,
+          CommunicationDiversionDataBinder);

@@ -10,16 +10,8 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLConferenceInfo";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLConferenceInfoDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in ConferenceInfoUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLConferenceInfoDecoder, "ConferenceInfoUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {ix_conference_type::kClassName,
@@ -536,10 +528,6 @@ IX_CONFERENCE_CREATOR(CreateHostType, ix_host_type)
 IX_CONFERENCE_CREATOR(CreateConferenceStateType, ix_conference_state_type)
 IX_CONFERENCE_CREATOR(CreateSideBarsByValueType, ix_sidebars_by_val_type)
 
-const XmlUnMarshallerInfo& ConferenceInfoUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 Conference_infoMarshall::Conference_infoMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int Conference_infoMarshall::AddConferenceInfoElementToXml(ix_conference_type* conference, e_XmlStrRef name) {
@@ -845,17 +833,7 @@ int Conference_infoMarshall::AddUriTypeElementToXml(ix_uri_type* uri) {
     return 1;
 }
 
-XmlFamilyMarshaller* ConferenceInfoContext::NewMarshaller() {
-    return IX_NEW(Conference_infoMarshall);
-}
-
-XmlFamilyUnMarshaller* ConferenceInfoContext::NewUnMarshaller() {
-    return IX_NEW(ConferenceInfoUnMarshaller);
-}
-
-XMLObjectFactory* ConferenceInfoContext::NewBinderFactory() {
-    return IX_NEW(ConferenceInfoDataBinder);
-}
+IX_FAMILY(ConferenceInfoContext, Conference_infoMarshall, ConferenceInfoUnMarshaller, ConferenceInfoDataBinder);
 
 namespace {
 

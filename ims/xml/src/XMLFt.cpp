@@ -12,31 +12,15 @@ constexpr char kFileClass[] = "ix_file";
 constexpr char kFileInfoClass[] = "ix_ns_ft_file_info";
 constexpr char kDataClass[] = "ix_ns_ft_data";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLFileDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in FileUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLFileDecoder, "FileUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kFileClass, IX_WRITER(FileMarshaller, AddFileElementToXml, ix_file)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: FileMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: FileMarshaller :: Marshall: Deleting mFileXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: FileMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: FileMarshaller XML Failed!"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    IX_MARSHALL_TEXTS(info, "FileMarshaller", "mFileXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -171,10 +155,6 @@ ix_ns_ft_data* FileDataBinder::CreateDataElement() {
     return IX_NEW(ix_ns_ft_data);
 }
 
-const XmlUnMarshallerInfo& FileUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 FileMarshaller::FileMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int FileMarshaller::AddFileElementToXml(ix_file* file) {
@@ -218,14 +198,4 @@ int FileMarshaller::AddDataElementToXml(ix_ns_ft_data* data) {
     return 1;
 }
 
-XmlFamilyMarshaller* FileContext::NewMarshaller() {
-    return IX_NEW(FileMarshaller);
-}
-
-XmlFamilyUnMarshaller* FileContext::NewUnMarshaller() {
-    return IX_NEW(FileUnMarshaller);
-}
-
-XMLObjectFactory* FileContext::NewBinderFactory() {
-    return IX_NEW(FileDataBinder);
-}
+IX_FAMILY(FileContext, FileMarshaller, FileUnMarshaller, FileDataBinder);

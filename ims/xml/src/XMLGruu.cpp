@@ -13,15 +13,10 @@ constexpr char kPubGruuClass[] = "ix_pub_gruu";
 constexpr char kTempGruuClass[] = "ix_temp_gruu";
 
 constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLGruuDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
+    XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(XMLGruuDecoder, "GruuUnMarshaller");
     info.textEntered = {2, kSchemaCode, __LINE__, "<XML Module>: In GruuUnMarshaller::UnMarshall with pXmlString=%s"};
     info.fileEntered = {2, kSchemaCode, __LINE__,
                         "<XML Module>: In GruuUnMarshaller::UnMarshall(pfile) with pstring=%s"};
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in GruuUnMarshaller::UnMarshall"};
     info.decoded = {2, kSchemaCode, __LINE__, "<XML Module>: Xml Decoder Success"};
     info.notDecoded = {3, kSchemaCode, __LINE__, "<XML Module>: Xml Decoder failed because of some error in XML"};
     return info;
@@ -172,10 +167,6 @@ ix_temp_gruu* GruuDataBinder::CreateTempGruuElement() {
     return IX_NEW(ix_temp_gruu);
 }
 
-const XmlUnMarshallerInfo& GruuUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 GruuMarshaller::GruuMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int GruuMarshaller::AddRootElementToXml(XMLElement* root) {
@@ -223,14 +214,4 @@ int GruuMarshaller::AddUri(const ix_gruuType* element, const XmlLogText& missing
     return 1;
 }
 
-XmlFamilyMarshaller* GruuContext::NewMarshaller() {
-    return IX_NEW(GruuMarshaller);
-}
-
-XmlFamilyUnMarshaller* GruuContext::NewUnMarshaller() {
-    return IX_NEW(GruuUnMarshaller);
-}
-
-XMLObjectFactory* GruuContext::NewBinderFactory() {
-    return IX_NEW(GruuDataBinder);
-}
+IX_FAMILY(GruuContext, GruuMarshaller, GruuUnMarshaller, GruuDataBinder);

@@ -15,27 +15,14 @@ constexpr char kDeliveryClass[] = "ix_delivery_notification";
 constexpr char kDisplayClass[] = "ix_display_notification";
 constexpr char kProcessingClass[] = "ix_processing_notification";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLImdnDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in IMDNUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLImdnDecoder, "IMDNUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kImdnClass, IX_WRITER(IMDNMarshaller, AddIMDNElementToXml, ix_imdn)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: IMDNMarshaller :: Marshall"};
     info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: IMDNMarshaller :: Marshall: Deleting mIMDNXml"};
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: Marshall XML %s"};
@@ -273,10 +260,6 @@ ix_error* IMDNDataBinder::CreateErrorElement() {
     return IX_NEW(ix_error);
 }
 
-const XmlUnMarshallerInfo& IMDNUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 IMDNMarshaller::IMDNMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int IMDNMarshaller::AddIMDNElementToXml(ix_imdn* element) {
@@ -360,14 +343,4 @@ void IMDNMarshaller::EndStartTag(const IxSingleElementList* attributes) {
     m_generator.ixXmlSetData("");
 }
 
-XmlFamilyMarshaller* IMDNContext::NewMarshaller() {
-    return IX_NEW(IMDNMarshaller);
-}
-
-XmlFamilyUnMarshaller* IMDNContext::NewUnMarshaller() {
-    return IX_NEW(IMDNUnMarshaller);
-}
-
-XMLObjectFactory* IMDNContext::NewBinderFactory() {
-    return IX_NEW(IMDNDataBinder);
-}
+IX_FAMILY(IMDNContext, IMDNMarshaller, IMDNUnMarshaller, IMDNDataBinder);

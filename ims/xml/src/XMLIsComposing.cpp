@@ -10,32 +10,16 @@ const char kSourceFile[] = "ims/xml/src/XMLIsComposing";
 
 constexpr char kClass[] = "ix_isComposing";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLIsComposingDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in IsComposingUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLIsComposingDecoder, "IsComposingUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kClass, IX_WRITER(IsComposingMarshaller, AddIsComposingElementToXml, ix_isComposing)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: IsComposingMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: IsComposingMarshaller :: Marshall: Deleting mIsComposingXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: IsComposingMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: IsComposingMarshaller XML Failed!"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    IX_MARSHALL_TEXTS(info, "IsComposingMarshaller", "mIsComposingXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -108,10 +92,6 @@ XMLElement* IsComposingDataBinder::CreateRootElement() {
     return IX_NEW(ix_isComposing);
 }
 
-const XmlUnMarshallerInfo& IsComposingUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 IsComposingMarshaller::IsComposingMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int IsComposingMarshaller::AddIsComposingElementToXml(ix_isComposing* element) {
@@ -166,17 +146,7 @@ int IsComposingMarshaller::AddRefreshElementToXml(unsigned int refresh) {
     return 1;
 }
 
-XmlFamilyMarshaller* IsComposingContext::NewMarshaller() {
-    return IX_NEW(IsComposingMarshaller);
-}
-
-XmlFamilyUnMarshaller* IsComposingContext::NewUnMarshaller() {
-    return IX_NEW(IsComposingUnMarshaller);
-}
-
-XMLObjectFactory* IsComposingContext::NewBinderFactory() {
-    return IX_NEW(IsComposingDataBinder);
-}
+IX_FAMILY(IsComposingContext, IsComposingMarshaller, IsComposingUnMarshaller, IsComposingDataBinder);
 
 char* TestIsComposingMarshall() {
     ix_isComposing root;

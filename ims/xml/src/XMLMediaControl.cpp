@@ -12,32 +12,16 @@ constexpr char kMediaControlClass[] = "ix_media_control";
 constexpr char kVcPrimitiveClass[] = "ix_vc_primitive";
 constexpr char kToEncoderClass[] = "ix_to_encoder";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLMediaControlDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in MediaControlUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLMediaControlDecoder, "MediaControlUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kMediaControlClass, IX_WRITER(MediaControlMarshaller, AddMediaControlElementToXml, ix_media_control)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: MediaControlMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: MediaControlMarshaller :: Marshall: Deleting mMediaControlXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: MediaControlMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: MediaControlMarshaller XML Failed!"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    IX_MARSHALL_TEXTS(info, "MediaControlMarshaller", "mMediaControlXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -141,10 +125,6 @@ ix_empty_element_type* MediaControlDataBinder::CreatePictureFastUpdateElement() 
                                 __LINE__);
 }
 
-const XmlUnMarshallerInfo& MediaControlUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 MediaControlMarshaller::MediaControlMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int MediaControlMarshaller::AddMediaControlElementToXml(ix_media_control* element) {
@@ -195,14 +175,4 @@ int MediaControlMarshaller::AddEmptyElementToXml(ix_empty_element_type* element)
     return 1;
 }
 
-XmlFamilyMarshaller* MediaControlContext::NewMarshaller() {
-    return IX_NEW(MediaControlMarshaller);
-}
-
-XmlFamilyUnMarshaller* MediaControlContext::NewUnMarshaller() {
-    return IX_NEW(MediaControlUnMarshaller);
-}
-
-XMLObjectFactory* MediaControlContext::NewBinderFactory() {
-    return IX_NEW(MediaControlDataBinder);
-}
+IX_FAMILY(MediaControlContext, MediaControlMarshaller, MediaControlUnMarshaller, MediaControlDataBinder);

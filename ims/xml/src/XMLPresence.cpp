@@ -10,27 +10,14 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLPresence";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLPresenceDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in PresenceUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLPresenceDecoder, "PresenceUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {ix_presence::kClassName, IX_WRITER(PresenceMarshaller, AddPresenceElementToXml, ix_presence)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: PresenceMarshaller :: Marshall"};
     info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: PresenceMarshaller :: Marshall: Deleting mPresenceXml"};
     // Required: the text is announced as that of another marshaller.
@@ -257,10 +244,6 @@ ix_string* PresenceDataBinder::CreateStringElement() {
     return IX_NEW(ix_string);
 }
 
-const XmlUnMarshallerInfo& PresenceUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 PresenceMarshaller::PresenceMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int PresenceMarshaller::AddPresenceElementToXml(ix_presence* presence) {
@@ -420,14 +403,4 @@ void PresenceMarshaller::AddKind(e_XmlStrRef name, const ix_string* kind) {
     if (kind != nullptr) AddTextOrEmptyElement(name, kind->mValue);
 }
 
-XmlFamilyMarshaller* PresenceContext::NewMarshaller() {
-    return IX_NEW(PresenceMarshaller);
-}
-
-XmlFamilyUnMarshaller* PresenceContext::NewUnMarshaller() {
-    return IX_NEW(PresenceUnMarshaller);
-}
-
-XMLObjectFactory* PresenceContext::NewBinderFactory() {
-    return IX_NEW(PresenceDataBinder);
-}
+IX_FAMILY(PresenceContext, PresenceMarshaller, PresenceUnMarshaller, PresenceDataBinder);

@@ -11,16 +11,8 @@ const char kSourceFile[] = "ims/xml/src/XMLRcsTermsInfo";
 constexpr char kRootClass[] = "ix_rcs_terms_info";
 constexpr char kTermClass[] = "ix_ns_rcs_terms_info_term";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLRcsTermsInfoDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in RcsTermsInfoUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLRcsTermsInfoDecoder, "RcsTermsInfoUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kRootClass, IX_WRITER(RcsTermsInfoMarshaller, AddRcsTermsInfoElementToXml, ix_rcs_terms_info)},
@@ -34,16 +26,8 @@ constexpr XmlWriter kTermWriter = [](XmlFamilyMarshaller& self, XMLElement* elem
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: RcsTermsInfoMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: RcsTermsInfoMarshaller :: Marshall: Deleting mRcsTermsInfoXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: RcsTermsInfoMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: RcsTermsInfoMarshaller XML Failed!"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    IX_MARSHALL_TEXTS(info, "RcsTermsInfoMarshaller", "mRcsTermsInfoXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -134,10 +118,6 @@ ix_ns_rcs_terms_info_term* RcsTermsInfoDataBinder::CreateTermElement() {
     return IX_NEW(ix_ns_rcs_terms_info_term);
 }
 
-const XmlUnMarshallerInfo& RcsTermsInfoUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 RcsTermsInfoMarshaller::RcsTermsInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int RcsTermsInfoMarshaller::AddRcsTermsInfoElementToXml(ix_rcs_terms_info* element) {
@@ -165,14 +145,4 @@ int RcsTermsInfoMarshaller::AddTermElementToXml(ix_ns_rcs_terms_info_term* term)
     return 1;
 }
 
-XmlFamilyMarshaller* RcsTermsInfoContext::NewMarshaller() {
-    return IX_NEW(RcsTermsInfoMarshaller);
-}
-
-XmlFamilyUnMarshaller* RcsTermsInfoContext::NewUnMarshaller() {
-    return IX_NEW(RcsTermsInfoUnMarshaller);
-}
-
-XMLObjectFactory* RcsTermsInfoContext::NewBinderFactory() {
-    return IX_NEW(RcsTermsInfoDataBinder);
-}
+IX_FAMILY(RcsTermsInfoContext, RcsTermsInfoMarshaller, RcsTermsInfoUnMarshaller, RcsTermsInfoDataBinder);

@@ -16,27 +16,14 @@ constexpr char kUnknownParamClass[] = "ix_unknown_param";
 constexpr char kPubGruuClass[] = "ix_pub_gruu";
 constexpr char kTempGruuClass[] = "ix_temp_gruu";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLReginfoDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in ReginfoUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLReginfoDecoder, "ReginfoUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kReginfoClass, IX_WRITER(ReginfoMarshaller, AddReginfoElementToXml, ix_reginfo)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.entered = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller :: Marshall"};
     info.deleting = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller :: Marshall: Deleting mReginfoXml"};
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller XML %s"};
@@ -421,10 +408,6 @@ ix_temp_gruu* ReginfoDataBinder::CreateTempGruuElement() {
     return IX_NEW(ix_temp_gruu);
 }
 
-const XmlUnMarshallerInfo& ReginfoUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 ReginfoMarshaller::ReginfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int ReginfoMarshaller::AddReginfoElementToXml(ix_reginfo* reginfo) {
@@ -560,14 +543,4 @@ int ReginfoMarshaller::AddGruuUri(const ix_gruuType& gruu, const XmlLogText& mis
     return 1;
 }
 
-XmlFamilyMarshaller* ReginfoContext::NewMarshaller() {
-    return IX_NEW(ReginfoMarshaller);
-}
-
-XmlFamilyUnMarshaller* ReginfoContext::NewUnMarshaller() {
-    return IX_NEW(ReginfoUnMarshaller);
-}
-
-XMLObjectFactory* ReginfoContext::NewBinderFactory() {
-    return IX_NEW(ReginfoDataBinder);
-}
+IX_FAMILY(ReginfoContext, ReginfoMarshaller, ReginfoUnMarshaller, ReginfoDataBinder);

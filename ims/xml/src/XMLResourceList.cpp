@@ -10,16 +10,8 @@ const char kSourceFile[] = "ims/xml/src/XMLResourceList";
 
 constexpr char kResourceListsClass[] = "ix_resource_lists";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLResourceListsDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in ResourceListsUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLResourceListsDecoder, "ResourceListsUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kResourceListsClass, IX_WRITER(Resource_listsMarshall, AddResource_listsElementToXml, ix_resource_lists)},
@@ -34,18 +26,10 @@ constexpr XmlWriterRow kChildWriters[] = {
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: Resource_listsMarshall :: Marshall"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.noRoot = {3, kSchemaCode, __LINE__,
                    "<XML Module>: Resource_listsMarshall :: Marshall: Received Object is NULL"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: Resource_listsMarshall :: Marshall: Deleting mResourceListsXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: Resource_listsMarshall XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: Resource_listsMarshall XML Failed!"};
+    IX_MARSHALL_TEXTS(info, "Resource_listsMarshall", "mResourceListsXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -239,10 +223,6 @@ ix_display_nameType* ResourceListsDataBinder::CreateDisplayNameType() {
     return IX_NEW(ix_display_nameType);
 }
 
-const XmlUnMarshallerInfo& ResourceListsUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 Resource_listsMarshall::Resource_listsMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int Resource_listsMarshall::AddResource_listsElementToXml(ix_resource_lists* lists) {
@@ -343,17 +323,7 @@ void Resource_listsMarshall::AddChild(XMLElement* child) {
     }
 }
 
-XmlFamilyMarshaller* ResourceListsContext::NewMarshaller() {
-    return IX_NEW(Resource_listsMarshall);
-}
-
-XmlFamilyUnMarshaller* ResourceListsContext::NewUnMarshaller() {
-    return IX_NEW(ResourceListsUnMarshaller);
-}
-
-XMLObjectFactory* ResourceListsContext::NewBinderFactory() {
-    return IX_NEW(ResourceListsDataBinder);
-}
+IX_FAMILY(ResourceListsContext, Resource_listsMarshall, ResourceListsUnMarshaller, ResourceListsDataBinder);
 
 namespace {
 

@@ -11,31 +11,15 @@ const char kSourceFile[] = "ims/xml/src/XMLRlmi";
 
 constexpr char kListClass[] = "ix_list";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLListDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in ListUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLListDecoder, "ListUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kListClass, IX_WRITER(ListMarshaller, AddListElementToXml, ix_list)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: ListMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: ListMarshaller :: Marshall: Deleting mListXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: ListMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: ListMarshaller XML Failed!"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    IX_MARSHALL_TEXTS(info, "ListMarshaller", "mListXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -218,10 +202,6 @@ ix_name* ListDataBinder::CreateNameElement() {
     return IX_NEW(ix_name);
 }
 
-const XmlUnMarshallerInfo& ListUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 ListMarshaller::ListMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int ListMarshaller::AddListElementToXml(ix_list* list) {
@@ -298,14 +278,4 @@ int ListMarshaller::AddNameElementToXml(ix_name* name) {
     return 1;
 }
 
-XmlFamilyMarshaller* ListContext::NewMarshaller() {
-    return IX_NEW(ListMarshaller);
-}
-
-XmlFamilyUnMarshaller* ListContext::NewUnMarshaller() {
-    return IX_NEW(ListUnMarshaller);
-}
-
-XMLObjectFactory* ListContext::NewBinderFactory() {
-    return IX_NEW(ListDataBinder);
-}
+IX_FAMILY(ListContext, ListMarshaller, ListUnMarshaller, ListDataBinder);

@@ -10,32 +10,16 @@ const char kSourceFile[] = "ims/xml/src/XMLRlsServices";
 
 constexpr char kRlsServicesClass[] = "ix_rls_services";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLRlsServicesDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in RlsServicesUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLRlsServicesDecoder, "RlsServicesUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {kRlsServicesClass, IX_WRITER(RlsServicesMarshaller, AddRlsServicesElementToXml, ix_rls_services)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: RlsServicesMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: RlsServicesMarshaller :: Marshall: Deleting mRlsServicesXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: RlsServicesMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: RlsServicesMarshaller XML Failed!"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    IX_MARSHALL_TEXTS(info, "RlsServicesMarshaller", "mRlsServicesXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -155,10 +139,6 @@ ix_ns_rls_services_packageType* RlsServicesDataBinder::CreatePackageElement() {
     return IX_NEW(ix_ns_rls_services_packageType);
 }
 
-const XmlUnMarshallerInfo& RlsServicesUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 RlsServicesMarshaller::RlsServicesMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int RlsServicesMarshaller::AddRlsServicesElementToXml(ix_rls_services* services) {
@@ -216,14 +196,4 @@ int RlsServicesMarshaller::AddPackageElementToXml(ix_ns_rls_services_packageType
     return 1;
 }
 
-XmlFamilyMarshaller* RlsServicesContext::NewMarshaller() {
-    return IX_NEW(RlsServicesMarshaller);
-}
-
-XmlFamilyUnMarshaller* RlsServicesContext::NewUnMarshaller() {
-    return IX_NEW(RlsServicesUnMarshaller);
-}
-
-XMLObjectFactory* RlsServicesContext::NewBinderFactory() {
-    return IX_NEW(RlsServicesDataBinder);
-}
+IX_FAMILY(RlsServicesContext, RlsServicesMarshaller, RlsServicesUnMarshaller, RlsServicesDataBinder);

@@ -8,19 +8,8 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLSchemaNameSpaceRetrieval";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* {
-        return IX_NEW_AT(line, XMLSchemaNamespaceRetrievalDecoder);
-    };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__,
-                   "<XML Module>: StrDup failed in SchemaNamespaceRetrievalUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLSchemaNamespaceRetrievalDecoder, "SchemaNamespaceRetrievalUnMarshaller");
 
 constexpr XmlLogText kSetInfo = {3, kSchemaCode, __LINE__,
                                  "<XML Module>: ix_schema_namespace_retrieval::setNameSpaceInfo"};

@@ -14,11 +14,7 @@ const char kSourceFile[] = "ims/xml/src/XMLSimservs";
 constexpr char kClass[] = "ix_Simservs";
 
 constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLSimservsDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in SimservsUnMarshaller::UnMarshall"};
+    XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(XMLSimservsDecoder, "SimservsUnMarshaller");
     info.decoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Success"};
     info.notDecoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Failed"};
     return info;
@@ -30,11 +26,7 @@ constexpr XmlWriterRow kWriters[] = {
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.namespaces = kSimservsNamespaces;
     info.namespaceCount = kSimservsNamespaceCount;
     info.noFirstNamespace = info.noNamespace = {
@@ -294,10 +286,6 @@ XMLElement* SimservsDataBinder::CreateRootElement() {
     return IX_NEW(ix_Simservs);
 }
 
-const XmlUnMarshallerInfo& SimservsUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 XMLElement* SimservsUnMarshaller::UnMarshall(XMLFile* file) {
     return UnMarshall(file != nullptr ? file->Read() : nullptr);
 }
@@ -480,14 +468,4 @@ int SimservsContext::SetNamespaceBinder(XMLObject* binder) {
     return XmlBinderContext::SetNamespaceBinder(binder);
 }
 
-XmlFamilyMarshaller* SimservsContext::NewMarshaller() {
-    return IX_NEW(SimservsMarshaller);
-}
-
-XmlFamilyUnMarshaller* SimservsContext::NewUnMarshaller() {
-    return IX_NEW(SimservsUnMarshaller);
-}
-
-XMLObjectFactory* SimservsContext::NewBinderFactory() {
-    return IX_NEW(SimservsDataBinder);
-}
+IX_FAMILY(SimservsContext, SimservsMarshaller, SimservsUnMarshaller, SimservsDataBinder);

@@ -8,16 +8,8 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLXcapDirectory";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLXcapDirectoryDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in XcapDirectoryUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLXcapDirectoryDecoder, "XcapDirectoryUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {ix_xcap_directory::kClass, IX_WRITER(XcapDirectoryMarshaller, AddXcapDirectoryElementToXml, ix_xcap_directory)},
@@ -31,11 +23,7 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
     info.source = kSourceFile;
     info.writers = kWriters;
     info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: XcapDirectoryMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: XcapDirectoryMarshaller :: Marshall: Deleting mXcapDirectoryXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: XcapDirectoryMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: XcapDirectoryMarshaller XML Failed!"};
+    IX_MARSHALL_TEXTS(info, "XcapDirectoryMarshaller", "mXcapDirectoryXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -154,10 +142,6 @@ ix_entry* XcapDirectoryDataBinder::CreateEntryElement() {
     return IX_NEW(ix_entry);
 }
 
-const XmlUnMarshallerInfo& XcapDirectoryUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 XcapDirectoryMarshaller::XcapDirectoryMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int XcapDirectoryMarshaller::AddXcapDirectoryElementToXml(ix_xcap_directory* element) {
@@ -204,14 +188,4 @@ int XcapDirectoryMarshaller::AddEntryElementToXml(ix_entry* element) {
     return 1;
 }
 
-XmlFamilyMarshaller* XcapDirectoryContext::NewMarshaller() {
-    return IX_NEW(XcapDirectoryMarshaller);
-}
-
-XmlFamilyUnMarshaller* XcapDirectoryContext::NewUnMarshaller() {
-    return IX_NEW(XcapDirectoryUnMarshaller);
-}
-
-XMLObjectFactory* XcapDirectoryContext::NewBinderFactory() {
-    return IX_NEW(XcapDirectoryDataBinder);
-}
+IX_FAMILY(XcapDirectoryContext, XcapDirectoryMarshaller, XcapDirectoryUnMarshaller, XcapDirectoryDataBinder);

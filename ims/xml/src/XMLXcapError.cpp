@@ -8,32 +8,16 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLXcapError";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLXcapErrorDecoder); };
-    info.textTokenizerLine = info.textDecoderLine = __LINE__;
-    info.fileTokenizerLine = info.fileDecoderLine = __LINE__;
-    info.noCopy = {4, kSchemaCode, __LINE__, "<XML Module>: StrDup failed in XcapErrorUnMarshaller::UnMarshall"};
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLXcapErrorDecoder, "XcapErrorUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
     {ix_xcap_error::kClass, IX_WRITER(Xcap_ErrorMarshall, AddXcap_errorElementToXml, ix_xcap_error)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: Xcap_ErrorMarshall :: Marshall"};
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: Xcap_ErrorMarshall :: Marshall: Received Object is NULL"};
-    info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: Xcap_ErrorMarshall :: Marshall: Deleting mXcapErrorXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: Xcap_ErrorMarshall XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: Xcap_ErrorMarshall XML Failed!"};
+    IX_MARSHALL_TEXTS(info, "Xcap_ErrorMarshall", "mXcapErrorXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -249,10 +233,6 @@ IxSingleElementList* XcapErrorDataBinder::CreateList() {
     return IX_NEW(IxSingleElementList);
 }
 
-const XmlUnMarshallerInfo& XcapErrorUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
 Xcap_ErrorMarshall::Xcap_ErrorMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
 int Xcap_ErrorMarshall::AddXcap_errorElementToXml(ix_xcap_error* element) {
@@ -336,14 +316,4 @@ void Xcap_ErrorMarshall::StartElementWith(e_XmlStrRef name, e_XmlStrRef attribut
     }
 }
 
-XmlFamilyMarshaller* XcapErrorContext::NewMarshaller() {
-    return IX_NEW(Xcap_ErrorMarshall);
-}
-
-XmlFamilyUnMarshaller* XcapErrorContext::NewUnMarshaller() {
-    return IX_NEW(XcapErrorUnMarshaller);
-}
-
-XMLObjectFactory* XcapErrorContext::NewBinderFactory() {
-    return IX_NEW(XcapErrorDataBinder);
-}
+IX_FAMILY(XcapErrorContext, Xcap_ErrorMarshall, XcapErrorUnMarshaller, XcapErrorDataBinder);

@@ -1,7 +1,5 @@
 #include "XcapDirectory.h"
 
-#include <iterator>
-
 #include "XMLXcapDirectory.h"
 
 namespace {
@@ -23,23 +21,9 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.pairLine = __LINE__;
-    info.texts.noElement = {3, kSchemaCode, __LINE__,
-                            "<XML Module>XMLXcapDirectoryDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noElementName = {
-        3, kSchemaCode, __LINE__,
-        "<XML Module>XMLXcapDirectoryDecoder :: ProcessElement: m_strDup or m_PassName is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>XMLXcapDirectoryDecoder :: ProcessAttribute: n_strElement is NULL"};
-    info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
-                                  "<XML Module>XMLXcapDirectoryDecoder :: ProcessAttribute: m_strDup is NULL"};
+    IX_DECODER_TEXTS(info.texts, "XMLXcapDirectoryDecoder", "m_strDup or m_PassName", "m_strDup");
     info.texts.removeTagNoMemory = {
         2, kDecoderCode, __LINE__,
         "XMLXcapDirectoryDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};

@@ -1,7 +1,5 @@
 #include "XcapError.h"
 
-#include <iterator>
-
 #include "XMLXcapError.h"
 
 namespace {
@@ -56,22 +54,10 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
+    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    info.texts.noElement = {3, kSchemaCode, __LINE__,
-                            "<XML Module>XMLXcapErrorDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noElementName = {3, kSchemaCode, __LINE__,
-                                "<XML Module>XMLXcapErrorDecoder :: ProcessElement: m_strDup or m_PassName is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>XMLXcapErrorDecoder :: ProcessAttribute: n_strElement is NULL"};
-    info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
-                                  "<XML Module>XMLXcapErrorDecoder :: ProcessAttribute: m_strDup is NULL"};
+    IX_DECODER_TEXTS(info.texts, "XMLXcapErrorDecoder", "m_strDup or m_PassName", "m_strDup");
     info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,
                                     "XMLXcapErrorDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
     return info;
