@@ -21,17 +21,15 @@
 
 /// Writes one line to the device's log.
 ///
-/// @param level   1 rare traces, 2 results and resource problems, 3 progress and rejected input, 4 failed duplications
-///                and allocations.
-/// @param code    event number: 6070 schema families, containers and generator; 6053 tokenizer and namespace
-/// operations;
-///                6052 the tokenizer's buffer check.
-/// @param source  path of the source file without extension, for example "ims/xml/src/XmlDecoder".
-/// @param line    line in that file.
-/// @param format  printf-style text with at most three conversions. Never text of a document.
-/// @param argument1,argument2,argument3  one machine word each: a number, or a pointer to a NUL-terminated text. 0
-/// where
-///                the format has fewer conversions. A 0 for %s prints "(null)".
+/// @param level 1 rare traces, 2 results and resource problems, 3 progress and rejected input, 4 failed duplications
+/// and allocations.
+/// @param code event number: 6070 schema families, containers and generator; 6053 tokenizer and namespace operations;
+/// 6052 the tokenizer's buffer check.
+/// @param source path of the source file without extension, for example "ims/xml/src/XmlDecoder".
+/// @param line line in that file.
+/// @param format printf-style text with at most three conversions. Never text of a document.
+/// @param argument1,argument2,argument3 one machine word each: a number, or a pointer to a NUL-terminated text. 0 where
+/// the format has fewer conversions. A 0 for %s prints "(null)".
 IX_DPL_EXPORT void ixLogModuleEventSimple(int level, int code, const char* source, int line, const char* format,
                                           std::uintptr_t argument1, std::uintptr_t argument2, std::uintptr_t argument3);
 /// @}

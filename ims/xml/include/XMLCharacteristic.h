@@ -4,8 +4,7 @@
 /// root.
 ///
 /// - A root has the attribute `version` and holds `characteristic`s; a `characteristic` has the attribute `type` and
-/// holds
-///   `parm`s and further `characteristic`s; a `parm` has the attributes `name` and `value`.
+///   holds `parm`s and further `characteristic`s; a `parm` has the attributes `name` and `value`.
 /// - Namespace: none. Names are compared as they stand in the document, prefix included.
 /// - Read only. Other attributes, other elements and texts are ignored. Lost: the order of the `parm`s of a
 ///   `characteristic` among its `characteristic`s, and a `parm` that lies in no `characteristic`.

@@ -56,8 +56,7 @@ class IX_XML_EXPORT XMLMarshaller : public XmlHeapObject {
     XMLMarshaller& operator=(const XMLMarshaller&) = delete;
 
     /// @return the text, which belongs to the marshaller until its next `Marshall` or its end; NULL when the tree
-    /// cannot be
-    ///         written. A text longer than the writer's capacity (32767 characters) is cut; see `IsTruncated`.
+    /// cannot be written. A text longer than the writer's capacity (32767 characters) is cut; see `IsTruncated`.
     virtual char* Marshall(XMLElement* root) = 0;
     /// Does nothing; keeps its place in the table of virtual operations.
     virtual int Reserved() = 0;
@@ -74,8 +73,8 @@ class IX_XML_EXPORT XMLUnMarshaller : public XmlHeapObject {
     XMLUnMarshaller& operator=(const XMLUnMarshaller&) = delete;
 
     /// @return the root, which the caller frees with `XMLFactory::DeleteElement`; NULL when `text` is NULL, is not
-    /// complete and balanced XML in the tokenizer's sense, has another root, or when there was no memory to begin with.
-    /// Required: an element or text for which memory runs out later is left out, as one that has no place is.
+    /// complete and balanced XML in the tokenizer's sense, has another root, or when memory ran out. Memory that runs
+    /// out while an element or a text is stored does not fail the document, but leaves that one out.
     virtual XMLElement* UnMarshall(const char* text) = 0;
     /// The same for the text of a file. The file stays with the caller, who closes it.
     virtual XMLElement* UnMarshall(XMLFile* file) = 0;
@@ -109,7 +108,8 @@ class IX_XML_EXPORT XMLContext : public XmlHeapObject {
 
     /// Supplementary services: gives the context the namespace declarations of a document (the root that the schema
     /// namespace retrieval decodes), so that its prefixes are understood and written. Call it before the create
-    /// operations. The binder stays with the caller and must live until they are done; NULL changes nothing.
+    /// operations. The binder stays with the caller and must live as long as the unmarshaller is used; NULL changes
+    /// nothing.
     /// @return 1 for the contexts of the supplementary services, 0 for all others, which do nothing.
     virtual int SetNamespaceBinder(XMLObject* binder);
 

@@ -6,8 +6,7 @@
 /// - Namespace: urn:ietf:params:xml:ns:pidf. The three namespaces are always written, and never expected.
 /// - Prefixes: removed when read; written are none for PIDF, `op` and `caps` for the extensions.
 /// - Read and written: tuples with `id`, `basic`, `contact` and its `priority`, `timestamp`, notes, service
-/// descriptions
-///   and capabilities; notes of the presentity.
+///   descriptions and capabilities; notes of the presentity.
 /// - Lost: all other elements and attributes, the language of a note, namespace declarations, and what stands in a
 ///   `status` beside `basic`.
 ///

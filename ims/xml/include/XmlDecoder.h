@@ -13,12 +13,12 @@
 
 /// Receives the events of one document.
 ///
-/// | Construct                | Calls, in order |
-/// |--------------------------|--------------------------------------------------------------------------------------------|
-/// | `<name a="x">`           | `ProcessElement(name, NULL)`, `ProcessAttribute(name, a, x)` for each,
-/// `ProcessEndOfStartTag(name)` | | `<name a="x"/>`          | the same, then `ProcessElement("/name", "")` | |
-/// `</name>`                | `ProcessElement("/name", text)`, the raw text since the last tag | | declaration, comment
-/// | none                                                                                       |
+/// The calls for each construct, in order:
+/// - `<name a="x">`: `ProcessElement(name, NULL)`, `ProcessAttribute(name, a, x)` for each attribute,
+///   `ProcessEndOfStartTag(name)`;
+/// - `<name a="x"/>`: the same, then `ProcessElement("/name", "")`;
+/// - `</name>`: `ProcessElement("/name", text)`, with the raw text since the last tag or comment;
+/// - a declaration or comment: none.
 ///
 /// Names are as written, prefix included. All texts are valid during the call only.
 class IX_XML_EXPORT XmlDecoderSchema : public XmlHeapObject {
@@ -104,9 +104,8 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
 
     /// Cuts the next token out of `text`. `delimiters` counts up to 32 characters.
     /// @param rest out: behind the delimiter that ended the token, or the end of the text.
-    /// @return the token, never empty; NULL when there is none, or when `text` or `delimiters` is NULL, which also
-    /// leaves
-    ///         `rest` alone.
+    /// @return the token, never empty; NULL when there is none, or when `text` or `delimiters` is NULL, which leaves
+    /// `rest` alone as well.
     char* N_strtok(char* text, const char* delimiters, char** rest);
     /// Skips leading white space and cuts off trailing white space.
     char* TrimSpaces(char* text);
