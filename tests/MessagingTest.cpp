@@ -408,16 +408,12 @@ TEST_F(FileTransferTest, LogsEveryOffer) {
 }
 
 TEST_F(FileTransferTest, HooksAnswerAsTheyMust) {
-    class Nameless : public ix_string {
-      public:
-        const char* ClassName() const override { return nullptr; }
-    };
     ix_file file;
     ix_ns_ft_file_info info;
     ix_ns_ft_data data;
     ix_AttributeValuePair pair;
     ix_string other;
-    Nameless nameless;
+    NamelessElement nameless;
     const struct {
         XMLElement& to;
         const char* name;
@@ -506,15 +502,11 @@ TEST_F(MediaControlTest, ARequestThatIsNotPresentFailsTheDocument) {
 }
 
 TEST_F(MediaControlTest, HooksAnswerAsTheyMust) {
-    class Nameless : public ix_string {
-      public:
-        const char* ClassName() const override { return nullptr; }
-    };
     ix_media_control root;
     ix_vc_primitive primitive;
     ix_to_encoder toEncoder;
     ix_string other;
-    Nameless nameless;
+    NamelessElement nameless;
     const struct {
         XMLElement& to;
         const char* name;

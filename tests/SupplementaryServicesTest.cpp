@@ -8,6 +8,7 @@
 #include "OriginatingIdentityPresentation.h"
 #include "XMLCommunicationBarring.h"
 #include "XMLCommunicationDiversion.h"
+#include "XMLCommunicationWaiting.h"
 #include "XMLFile.h"
 #include "XMLOriginatingIdentityPresentation.h"
 #include "XMLSimservs.h"
@@ -29,6 +30,8 @@ TEST_F(IdentityPresentationTest, TheSwitchIsTheAttributeAndExactlyTrue) {
     } cases[] = {
         {"<originating-identity-presentation/>", "true"},
         {"<any:originating-identity-presentation active=\"false\"/>", "false"},
+        {"<any:ss:originating-identity-presentation active=\"false\"/>", "false"},
+        {"<any:x:originating-identity-presentation active=\"false\"/>", "(null)"},
         {"<originating-identity-presentation active=\"TRUE\"/>", "false"},
         {"<originating-identity-presentation active=\"\"/>", "false"},
         {"<originating-identity-presentation><active>false</active></originating-identity-presentation>", "true"},
@@ -80,6 +83,12 @@ TEST_F(IdentityPresentationTest, TheSimservTypeTakesWhatItsClassesIgnore) {
     char other[] = "other";
     ix_AttributeValuePair pair;
     EXPECT_EQ(service.ProcessUnMarshallAttribute(active, no, &pair), 0);
+    class NamelessPair : public ix_AttributeValuePair {
+      public:
+        const char* ClassName() const override { return nullptr; }
+    } nameless;
+    EXPECT_EQ(service.ProcessUnMarshallAttribute(other, no, &nameless), 1);
+    EXPECT_EQ(service.mExtensionList, nullptr);
     EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(nullptr, no, nullptr), 1);
     EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(active, other, nullptr), 1);
     EXPECT_EQ(service.mActive, 1);
@@ -380,6 +389,9 @@ TEST_F(RulesTest, AFlagIsWrittenOnlyWhenPresent) {
     EXPECT_TRUE(Logged("Communication_barringMarshaller::AddEmptyElementtoXml: Received empty present false"));
     flag.setPresentValue(1);
     EXPECT_EQ(Write(kDiversion, &flag), "<ss:busy/>");
+    ix_empty_element_type nameless;
+    nameless.setPresentValue(1);
+    EXPECT_EQ(Write(kDiversion, &nameless), "(null)");
     // The tag is put together in a buffer of fixed size.
     flag.setNameValue(std::string(150, 'b').c_str());
     EXPECT_EQ(Write(kDiversion, &flag), "<ss:" + std::string(98, 'b') + "/>");
@@ -390,6 +402,65 @@ TEST_F(RulesTest, AFlagIsWrittenOnlyWhenPresent) {
     forward.setRevealIdentityToCallerValue(-5);
     forward.setRevealIdentityToTargetValue(9);
     EXPECT_EQ(Write(kDiversion, &forward), "<ss:forward-to></ss:forward-to>");
+}
+
+TEST_F(RulesTest, DecodersRefuseEventsWithoutNames) {
+    /// Calls what a decoder derived from it might call before there was any element.
+    class Diversion : public XMLCommunicationDiversionDecoder {
+      public:
+        int OtherElementFirst(char* name) { return OtherElement(name, nullptr); }
+    } diversion;
+    XMLCommunicationBarringDecoder barring;
+    const struct {
+        XmlFamilyDecoder& decoder;
+        std::string name;
+    } cases[] = {{diversion, "XMLCommunicationDiversionDecoder"}, {barring, "XMLCommunicationBarringDecoder"}};
+    std::string longName(100, 'x');
+    for (const auto& c : cases) {
+        ClearLog();
+        EXPECT_EQ(c.decoder.ProcessElement(nullptr, nullptr), -1);
+        EXPECT_EQ(c.decoder.ProcessAttribute(nullptr, longName.data(), nullptr), -1);
+        ixDplHostFailAllocation(1, 2);
+        EXPECT_EQ(c.decoder.ProcessElement(longName.data(), nullptr), -1);
+        EXPECT_EQ(c.decoder.ProcessAttribute(longName.data(), longName.data(), nullptr), -1);
+        ixDplHostStopCounting();
+        const std::string prefix = "<XML Module>" + c.name + " :: ";
+        // The namespace operations of both name the same decoder.
+        const std::string origin = "XMLCommunicationDiversionDecoder :: ";
+        const Strings expected = {prefix + "ProcessElement: n_strElement is NULL",
+                                  prefix + "ProcessAttribute: n_strElement is NULL",
+                                  origin + "XMLRemoveNameSpaceTag: Malloc unable to allocate memory",
+                                  prefix + "ProcessElement: m_strDup or m_PassName is NULL",
+                                  origin + "XMLChangeNamespaceTag Malloc unable to allocate memory",
+                                  prefix + "ProcessAttribute: m_strDup is NULL"};
+        EXPECT_EQ(Texts(), expected);
+    }
+    EXPECT_EQ(diversion.OtherElementFirst(longName.data()), -1);
+    EXPECT_EQ(Log().back().text,
+              "<XML Module>XMLCommunicationDiversionDecoder :: ProcessAnyElement: m_PassName is NULL");
+}
+
+TEST_F(RulesTest, WritersAnswerZeroForNull) {
+    Communication_diversionMarshaller diversion;
+    Communication_barringMarshaller barring;
+    Communication_waitingMarshaller waiting;
+    OIPMarshaller oip;
+    TIPMarshaller tip;
+    const int answers[] = {diversion.AddCommunication_diversionElementToXml(nullptr),
+                           diversion.AddForwardToElementtoXml(nullptr),
+                           diversion.AddRuleSetElementToXml(nullptr),
+                           diversion.AddRuleElementToXml(nullptr),
+                           diversion.AddConditionsElementToXml(nullptr),
+                           diversion.AddActionsElementToXml(nullptr),
+                           diversion.AddTransformationsElementToXml(nullptr),
+                           barring.AddExceptElementToXml(nullptr),
+                           barring.AddIncoming_communication_barringElementToXml(nullptr),
+                           barring.AddOutgoing_communication_barringElementToXml(nullptr),
+                           waiting.AddCommunication_waitingElementToXml(nullptr),
+                           oip.AddOIPElementToXml(nullptr),
+                           tip.AddTIPElementToXml(nullptr)};
+    for (const int answer : answers) EXPECT_EQ(answer, 0);
+    EXPECT_EQ(diversion.AddNoReplyTimerElementToXml(nullptr), 1);
 }
 
 TEST_F(RulesTest, HostileDocumentsAreSurvived) {
@@ -459,8 +530,12 @@ TEST_F(SimservsTest, ServicesAreCutOutByTheirNames) {
         EXPECT_EQ(Services("<simservs>" + std::string(c.content) + "</simservs>"), c.services) << c.content;
         ixDplHostReleaseHeap();
     }
-    EXPECT_EQ(Services("<simserv><communication-waiting/></simserv>"), Strings{cw});
-    EXPECT_EQ(Services("<services><communication-waiting/></services>"), Strings{"(null)"});
+    for (const std::string name : {"simserv", "ss:simserv", "ss:sims"}) {
+        EXPECT_EQ(Services("<" + name + "><communication-waiting/></" + name + ">"), Strings{cw}) << name;
+    }
+    for (const std::string name : {"services", "simser", "simservs1", "ss:sim", "ss:simservs1"}) {
+        EXPECT_EQ(Services("<" + name + "><communication-waiting/></" + name + ">"), Strings{"(null)"}) << name;
+    }
     EXPECT_EQ(Services("<simservs><communication-waiting/>"), Strings{"(null)"});
     ExpectLeftBehind(1);
     EXPECT_TRUE(Logged("<XML Module>: XML Decode Failed"));
@@ -506,11 +581,35 @@ TEST_F(SimservsTest, ACutLeavesOneCharacterTooManyUnlessItReachesTheEnd) {
         EXPECT_STREQ(piece, c.piece);
         __free(piece);
     }
+    // What cannot be cut leaves all as it was: characters that are not there, and any without memory.
     std::string text = "abc";
     char* piece = nullptr;
+    for (const auto& [at, length] : {std::pair{-1, 1}, {0, -1}, {0, 3}, {3, 0}, {4, 0}}) {
+        EXPECT_STREQ(unMarshaller.replaceSubStringWithNull(text.data(), &piece, at, length), "abc");
+    }
+    EXPECT_EQ(unMarshaller.replaceSubStringWithNull(nullptr, &piece, 0, 0), nullptr);
+    EXPECT_STREQ(unMarshaller.replaceSubStringWithNull(text.data(), nullptr, 0, 0), "abc");
     ixDplHostFailAllocation(1);
     EXPECT_STREQ(unMarshaller.replaceSubStringWithNull(text.data(), &piece, 0, 1), "abc");
     EXPECT_EQ(piece, nullptr);
+}
+
+TEST_F(SimservsTest, WithoutMemoryForAPieceNothingIsDecoded) {
+    const std::string noPiece =
+        "<XML Module>: SimservsUnMarshaller :: replaceSubStringWithNull malloc failed returning pString";
+    for (unsigned long failing = 1; !Logged(noPiece); ++failing) {
+        ASSERT_LT(failing, 50U);
+        const OwnedContext context(kSimservs);
+        XMLUnMarshaller* const unMarshaller = context->createUnMarshaller();
+        ClearLog();
+        ixDplHostFailAllocation(failing);
+        const OwnedElement root(unMarshaller->UnMarshall("<simservs><communication-waiting/></simservs>"));
+        ixDplHostStopCounting();
+    }
+    const Strings texts = Texts();
+    EXPECT_EQ(texts[texts.size() - 2], noPiece);
+    EXPECT_EQ(texts.back(), "<XML Module>: XML Decode Failed pstring NULL");
+    ixDplHostReleaseHeap();
 }
 
 TEST_F(SimservsTest, EveryStepIsLogged) {

@@ -8,6 +8,10 @@
 class IX_XML_EXPORT XMLCommunicationDiversionDecoder : public XmlFamilyDecoder {
   public:
     XMLCommunicationDiversionDecoder();
+
+  protected:
+    /// Refuses (-1) an element of which there is no local name to hand on.
+    int OtherElement(char* name, char* text) override;
 };
 
 #endif

@@ -84,9 +84,11 @@ class IX_XML_EXPORT Communication_barringMarshaller : public XmlRuleMarshaller {
   public:
     Communication_barringMarshaller();
 
-    /// @return 1.
+    /// @name Each answers 1, or 0 for NULL.
+    /// @{
     int AddIncoming_communication_barringElementToXml(ix_incoming_communication_barring* element);
     int AddOutgoing_communication_barringElementToXml(ix_outgoing_communication_barring* element);
+    /// @}
 
   protected:
     void AddAction(XMLElement* action) override;

@@ -115,11 +115,11 @@ class IX_XML_EXPORT Communication_diversionMarshaller : public XmlRuleMarshaller
   public:
     Communication_diversionMarshaller();
 
-    /// @return 1.
+    /// @return 1, or 0 for NULL.
     int AddCommunication_diversionElementToXml(ix_communication_diversion* element);
     /// Writes nothing for NULL. @return 1.
     int AddNoReplyTimerElementToXml(ix_NoReplyTimer* element);
-    /// @return 1.
+    /// @return 1, or 0 for NULL.
     int AddForwardToElementtoXml(ix_ns_xcap_forward_to_type* element);
 
   protected:

@@ -46,7 +46,7 @@ class IX_XML_EXPORT Communication_waitingMarshaller : public XmlServiceMarshalle
   public:
     Communication_waitingMarshaller();
 
-    /// @return 1.
+    /// @return 1, or 0 for NULL.
     int AddCommunication_waitingElementToXml(ix_communication_waiting* element);
 };
 

@@ -26,9 +26,9 @@ class IX_XML_EXPORT XmlIdentityPresentationMarshaller : public XmlServiceMarshal
   protected:
     using XmlServiceMarshaller::XmlServiceMarshaller;
 
-    /// Logs `entered` and writes the element. @return 1.
+    /// Logs `entered` and writes the element. @return 1, or 0 for NULL.
     int AddIdentityElementToXml(const XmlLogText& entered, e_XmlStrRef name,
-                                const ix_ns_identity_presentationType& element);
+                                const ix_ns_identity_presentationType* element);
 };
 
 /// @name Constants of both services

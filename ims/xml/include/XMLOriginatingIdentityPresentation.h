@@ -36,7 +36,7 @@ class IX_XML_EXPORT OIPMarshaller : public XmlIdentityPresentationMarshaller {
   public:
     OIPMarshaller();
 
-    /// @return 1.
+    /// @return 1, or 0 for NULL.
     int AddOIPElementToXml(ix_originating_identity_presentation* element);
 };
 

@@ -62,7 +62,8 @@ class IX_XML_EXPORT SimservsUnMarshaller : public XmlFamilyUnMarshaller {
     ///
     /// Required: unless the cut reaches to the end of the text, one character too many stays at its end, the one that
     /// stood where the shorter text would end. It follows the end tag of the root, and decoders pass over it.
-    /// @param out receives the piece, to be freed by the caller; left alone without memory, and the text as well.
+    /// @param out receives the piece, to be freed by the caller; left alone without memory, and when the text does not
+    /// have these characters, and so is the text.
     /// @return `text`.
     char* replaceSubStringWithNull(char* text, char** out, int at, int length);
 
@@ -73,7 +74,7 @@ class IX_XML_EXPORT SimservsUnMarshaller : public XmlFamilyUnMarshaller {
     struct Pieces;
     class Search;
 
-    bool CutServices(char* text, Pieces& pieces);
+    char* CutServices(char* text, Pieces& pieces);
     void AddServices(ix_Simservs& root, Pieces& pieces);
 };
 

@@ -122,8 +122,8 @@ struct XmlRuleWriterTexts {
             {2, kSchemaCode, __LINE__, marshaller "::AddEmptyElementtoXml: Malloc cannot assign memory"},    \
     }
 
-/// Base of the marshallers of the services with a ruleset. Every operation writes one element, and answers 0 when it
-/// left the element unfinished because something mandatory is missing.
+/// Base of the marshallers of the services with a ruleset. Every operation writes one element, and answers 0 for NULL,
+/// and when it left the element unfinished because something mandatory is missing.
 ///
 /// A rule without an id ends the ruleset; a condition that lacks something ends the conditions. What was written by
 /// then stays, and the document goes on with the end tags of the elements around it.
@@ -137,7 +137,7 @@ class IX_XML_EXPORT XmlRuleMarshaller : public XmlServiceMarshaller {
     int AddTransformationsElementToXml(ix_ns_common_policy_extensibleType* element);
     /// Written with the prefix of the element around it; alone, it has none. Without an id its start tag stays open.
     int AddExceptElementToXml(ix_ns_common_policy_exceptType* element);
-    /// A flag such as `busy`. @return 0 for NULL, or when it is not present, and nothing is written.
+    /// A flag such as `busy`. @return 0 for NULL, or when it is not present or has no name, and nothing is written.
     int AddEmptyElementtoXml(ix_empty_element_type* element);
 
   protected:

@@ -36,7 +36,7 @@ class IX_XML_EXPORT TIPMarshaller : public XmlIdentityPresentationMarshaller {
   public:
     TIPMarshaller();
 
-    /// @return 1.
+    /// @return 1, or 0 for NULL.
     int AddTIPElementToXml(ix_terminating_identity_presentation* element);
 };
 

@@ -22,6 +22,11 @@ inline bool ixEndNameIs(const char* name, e_XmlStrRef entry) {
     return name != nullptr && *name == '/' && ixNameIs(name + 1, entry);
 }
 
+/// The first node of a list, without the log line that `GetPtrToListHead` writes for an empty one; NULL for no list.
+inline const IxSingleElementNode* ixFirstNode(const IxSingleElementList* list) {
+    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+}
+
 /// True when `element` is an object of the class `className`. NULL is of no class.
 IX_XML_EXPORT bool ixIsClass(const XMLElement* element, const char* className);
 

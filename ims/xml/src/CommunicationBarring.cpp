@@ -23,11 +23,7 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixServiceDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.handsOnLocalNames = true;
-    info.takesFragments = true;
-    info.attributePolicy = XmlAttributePolicy::RootPairs;
-    info.shared = &kRuleDecoderInfo;
+    XmlDecoderInfo info = ixRuleServiceDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     // Required: the texts of the namespace operations name the diversion decoder.
     IX_SERVICE_DECODER_TEXTS(info.texts, "XMLCommunicationBarringDecoder", "m_strDup",
                              "XMLCommunicationDiversionDecoder");

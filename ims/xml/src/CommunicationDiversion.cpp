@@ -18,17 +18,24 @@ constexpr XmlAttributeRow kAttributes[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixServiceDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.handsOnLocalNames = true;
-    info.takesFragments = true;
-    info.attributePolicy = XmlAttributePolicy::RootPairs;
-    info.shared = &kRuleDecoderInfo;
+    XmlDecoderInfo info = ixRuleServiceDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     IX_SERVICE_DECODER_TEXTS(info.texts, "XMLCommunicationDiversionDecoder", "m_strDup",
                              "XMLCommunicationDiversionDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();
 
+constexpr XmlLogText kNoLocalName = {
+    3, kSchemaCode, __LINE__, "<XML Module>XMLCommunicationDiversionDecoder :: ProcessAnyElement: m_PassName is NULL"};
+
 }  // namespace
 
 XMLCommunicationDiversionDecoder::XMLCommunicationDiversionDecoder() : XmlFamilyDecoder(kInfo) {}
+
+int XMLCommunicationDiversionDecoder::OtherElement(char* name, char* text) {
+    if (PassName() == nullptr) {
+        ixLog(kSourceFile, kNoLocalName);
+        return -1;
+    }
+    return XmlFamilyDecoder::OtherElement(name, text);
+}

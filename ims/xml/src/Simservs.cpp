@@ -27,7 +27,12 @@ constexpr XmlDecoderInfo kInfo = Info();
 XMLSimservsDecoder::XMLSimservsDecoder() : XmlFamilyDecoder(kInfo) {}
 
 int XMLSimservsDecoder::StartElement(char* name) {
-    // Required: the comparison stops one letter early, so "simserv" is a root as well.
-    char full[] = "simservs";
-    return XmlFamilyDecoder::StartElement(std::strcmp(name, "simserv") == 0 ? full : name);
+    // Required: a name is compared over its own length, or over that of "simserv" when it is shorter. So the beginnings
+    // "simserv" and "ss:sims" to "ss:simserv" are roots as well.
+    char root[] = "simservs";
+    constexpr std::size_t kLeast = sizeof "simserv" - 1;
+    const std::size_t own = std::strlen(name);
+    const std::size_t length = own > kLeast ? own : kLeast;
+    const bool isRoot = std::strncmp(name, root, length) == 0 || std::strncmp(name, "ss:simservs", length) == 0;
+    return XmlFamilyDecoder::StartElement(isRoot ? root : name);
 }

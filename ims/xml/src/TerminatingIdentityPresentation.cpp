@@ -6,7 +6,8 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/TerminatingIdentityPresentation";
 
-constexpr XmlKnownName kRoot = {IX_STR_TERMINATING_IDENTITY_PRESENTATION};
+// Only the first prefix of a name is removed, so `ss` may still be there behind another one.
+constexpr XmlKnownName kRoot = {IX_STR_TERMINATING_IDENTITY_PRESENTATION, XmlKnownName::Optional, IX_STR_SS};
 
 constexpr XmlContainerRow kContainers[] = {
     {kRoot, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_terminating_identity_presentation)},

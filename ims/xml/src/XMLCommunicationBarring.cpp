@@ -119,6 +119,7 @@ Communication_barringMarshaller::Communication_barringMarshaller() : XmlRuleMars
 int Communication_barringMarshaller::AddIncoming_communication_barringElementToXml(
     ix_incoming_communication_barring* element) {
     ixLog(kSourceFile, kAddIncoming);
+    if (element == nullptr) return 0;
     AddRuleService(IX_STR_INCOMING_COMMUNICATION_BARRING, *element);
     return 1;
 }
@@ -126,6 +127,7 @@ int Communication_barringMarshaller::AddIncoming_communication_barringElementToX
 int Communication_barringMarshaller::AddOutgoing_communication_barringElementToXml(
     ix_outgoing_communication_barring* element) {
     ixLog(kSourceFile, kAddOutgoing);
+    if (element == nullptr) return 0;
     AddRuleService(IX_STR_OUTGOING_COMMUNICATION_BARRING, *element);
     return 1;
 }

@@ -178,6 +178,7 @@ Communication_diversionMarshaller::Communication_diversionMarshaller()
 
 int Communication_diversionMarshaller::AddCommunication_diversionElementToXml(ix_communication_diversion* element) {
     ixLog(kSourceFile, kAddElement);
+    if (element == nullptr) return 0;
     AddRuleService(IX_STR_COMMUNICATION_DIVERSION, *element);
     return 1;
 }
@@ -198,6 +199,7 @@ void Communication_diversionMarshaller::AddAction(XMLElement* action) {
 }
 
 int Communication_diversionMarshaller::AddForwardToElementtoXml(ix_ns_xcap_forward_to_type* element) {
+    if (element == nullptr) return 0;
     StartPrefixed(IX_STR_SS, IX_STR_FORWARD_TO);
     AddTextElement(IX_STR_TARGET, element->mTarget);
     AddNotification(IX_STR_NOTIFY_CALLER, element->mNotifyCaller);

@@ -88,6 +88,7 @@ Communication_waitingMarshaller::Communication_waitingMarshaller() : XmlServiceM
 
 int Communication_waitingMarshaller::AddCommunication_waitingElementToXml(ix_communication_waiting* element) {
     ixLog(kSourceFile, kAddElement);
+    if (element == nullptr) return 0;
     AddServiceStart(IX_STR_COMMUNICATION_WAITING, *element, Attribute::SelfClosing);
     return 1;
 }

@@ -56,12 +56,6 @@ constexpr XmlField kFileFields[] = {
 };
 constexpr XmlFieldTable kFileTable = {nullptr, kFileFields, std::size(kFileFields)};
 
-/// Copies a value that the decoder knows; one that comes as a pair is of another element, and refused.
-int TakeValue(char*& field, const char* value, const XMLAttribute* pair) {
-    if (pair != nullptr) return 0;
-    return value != nullptr ? ixSetText(field, value) : 1;
-}
-
 }  // namespace
 
 ix_ns_ft_data::~ix_ns_ft_data() {
@@ -78,9 +72,9 @@ const XmlFieldTable* ix_ns_ft_data::FieldTable() const {
 
 int ix_ns_ft_data::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     ixLog(kSourceFile, kDataAttribute);
-    if (ixNameIs(attribute, IX_STR_URL)) return TakeValue(mUrl, value, pair);
-    if (ixNameIs(attribute, IX_STR_ETAG)) return TakeValue(mEtag, value, pair);
-    if (ixNameIs(attribute, IX_STR_UNTIL)) return TakeValue(mUntil, value, pair);
+    if (ixNameIs(attribute, IX_STR_URL)) return ixTakeText(mUrl, value, pair);
+    if (ixNameIs(attribute, IX_STR_ETAG)) return ixTakeText(mEtag, value, pair);
+    if (ixNameIs(attribute, IX_STR_UNTIL)) return ixTakeText(mUntil, value, pair);
     return 1;
 }
 
@@ -101,12 +95,12 @@ int ix_ns_ft_file_info::ProcessUnMarshall(char* name, char* text, XMLElement* ch
     if (child == nullptr) {
         return ixEndNameIs(name, IX_STR_FILE_SIZE) ? setFileSizeValue(ixToUnsigned(text)) : 1;
     }
-    if (!ixNameIs(name, IX_STR_DATA) || child->ClassName() == nullptr) return 1;
+    if (!ixNameIs(name, IX_STR_DATA) || ixIsNameless(child)) return 1;
     return ixTakeChild(mData, child, kDataClass);
 }
 
 int ix_ns_ft_file_info::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    return ixNameIs(attribute, IX_STR_TYPE) ? TakeValue(mType, value, pair) : 1;
+    return ixNameIs(attribute, IX_STR_TYPE) ? ixTakeText(mType, value, pair) : 1;
 }
 
 int ix_ns_ft_file_info::setFileSizeValue(unsigned int size) {

@@ -17,8 +17,9 @@ int ix_ns_identity_presentationType::ExtensionListLine() const {
 }
 
 int XmlIdentityPresentationMarshaller::AddIdentityElementToXml(const XmlLogText& entered, e_XmlStrRef name,
-                                                               const ix_ns_identity_presentationType& element) {
+                                                               const ix_ns_identity_presentationType* element) {
     ixLog(Source(), entered);
-    AddServiceStart(name, element, Attribute::SelfClosing);
+    if (element == nullptr) return 0;
+    AddServiceStart(name, *element, Attribute::SelfClosing);
     return 1;
 }

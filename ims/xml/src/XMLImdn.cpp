@@ -1,6 +1,5 @@
 #include "XMLImdn.h"
 
-#include <cstring>
 #include <iterator>
 
 #include "Imdn.h"
@@ -187,7 +186,7 @@ int ix_imdn::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_SUBJECT)) return setSubjectValue(text);
     if (ixNameIs(name, IX_STR_DELIVERY_NOTIFICATION)) return ixTakeChild(mDeliveryNotification, child, kDeliveryClass);
     if (ixNameIs(name, IX_STR_DISPLAY_NOTIFICATION)) return ixTakeChild(mDisplayNotification, child, kDisplayClass);
-    if (name != nullptr && std::strcmp(name, kProcessingNotificationElement) == 0) {
+    if (ixNameIs(name, kProcessingNotificationElement)) {
         return ixTakeChild(mProcessingNotification, child, kProcessingClass);
     }
     if (child != nullptr) return addAnyElement(child);

@@ -72,7 +72,7 @@ const XmlFieldTable* ix_to_encoder::FieldTable() const {
 int ix_to_encoder::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     // Required: any other element behind the request cancels it. Nobody else has it, so it is freed.
     if (!ixNameIs(name, IX_STR_PICTURE_FAST_UPDATE)) return setPictureFastUpdateValue(nullptr);
-    if (child != nullptr && child->ClassName() == nullptr) return 1;
+    if (ixIsNameless(child)) return 1;
     return ixTakeChild(mPictureFastUpdate, child, "ix_empty_element_type");
 }
 

@@ -36,7 +36,7 @@ XMLElement* OIPDataBinder::CreateRootElement() {
 OIPMarshaller::OIPMarshaller() : XmlIdentityPresentationMarshaller(kMarshallerInfo) {}
 
 int OIPMarshaller::AddOIPElementToXml(ix_originating_identity_presentation* element) {
-    return AddIdentityElementToXml(kAddElement, IX_STR_ORIGINATING_IDENTITY_PRESENTATION, *element);
+    return AddIdentityElementToXml(kAddElement, IX_STR_ORIGINATING_IDENTITY_PRESENTATION, element);
 }
 
 IX_FAMILY(OIPContext, OIPMarshaller, OIPUnMarshaller, OIPDataBinder);

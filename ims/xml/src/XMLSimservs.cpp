@@ -44,6 +44,7 @@ constexpr XmlLogText kNoPieces = {2, kSchemaCode, __LINE__,
 constexpr XmlLogText kNoPiece = {
     2, kSchemaCode, __LINE__,
     "<XML Module>: SimservsUnMarshaller :: replaceSubStringWithNull malloc failed returning pString"};
+constexpr XmlLogText kNoText = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Failed pstring NULL"};
 constexpr XmlLogText kTooMany = {
     3, kSchemaCode, __LINE__, "<XML Module>: XML SimservsUnmarshall more than ten services of a kind: %s is left out"};
 constexpr XmlLogText kNoEntry = {2, kSchemaCode, __LINE__, "<XML Module>: SimservsMarshaller GetKeyAtIndex failed"};
@@ -147,8 +148,7 @@ struct Target {
 
 /// Has every service written by its own schema.
 void WriteEach(const IxSingleElementList& services, Target& target) {
-    const IxSingleElementNode* node = services.LastNode() != nullptr ? services.GetPtrToListHead() : nullptr;
-    for (; node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(&services); node != nullptr; node = node->next) {
         auto* const element = static_cast<XMLElement*>(node->key);
         const char* const className = element != nullptr ? element->ClassName() : nullptr;
         if (className == nullptr) {
@@ -303,16 +303,21 @@ XMLElement* SimservsUnMarshaller::UnMarshall(const char* text) {
     XMLElement* root = Decode(copy, __LINE__, __LINE__, nullptr, complete);
     IX_DELETE(root);
     root = nullptr;
-    if (complete && CutServices(copy, pieces)) {
-        root = Decode(copy, __LINE__, __LINE__, NamespaceBinder(), complete);
+    if (complete) {
+        const char* const rest = CutServices(copy, pieces);
+        if (rest == nullptr) {
+            ixLog(kSourceFile, kNoText);
+        } else {
+            root = Decode(rest, __LINE__, __LINE__, NamespaceBinder(), complete);
+        }
         if (root != nullptr) AddServices(*static_cast<ix_Simservs*>(root), pieces);
     }
     __free(copy);
     return root;
 }
 
-/// @return false without memory.
-bool SimservsUnMarshaller::CutServices(char* text, Pieces& pieces) {
+/// @return the text without its services; NULL without memory.
+char* SimservsUnMarshaller::CutServices(char* text, Pieces& pieces) {
     Search search(text);
     for (const Service* service = search.Next(); service != nullptr; service = search.Next()) {
         char* start = search.Place();
@@ -337,15 +342,17 @@ bool SimservsUnMarshaller::CutServices(char* text, Pieces& pieces) {
         const int at = static_cast<int>(start - text);
         const int length = static_cast<int>(end - start);
         replaceSubStringWithNull(text, slot, at, length);
-        if (*slot == nullptr) return false;
+        if (*slot == nullptr) return nullptr;
         search.Cut(static_cast<std::size_t>(at), static_cast<std::size_t>(length) + 1, std::strlen(text));
     }
-    return true;
+    return text;
 }
 
 char* SimservsUnMarshaller::replaceSubStringWithNull(char* text, char** out, int at, int length) {
+    if (text == nullptr || out == nullptr || at < 0 || length < 0) return text;
     const std::size_t begin = static_cast<std::size_t>(at);
     const std::size_t count = static_cast<std::size_t>(length) + 1;
+    if (__strlen(text) < begin + count) return text;
     char* const piece = static_cast<char*>(__malloc(count + 1));
     if (piece == nullptr) {
         ixLog(kSourceFile, kNoPiece);

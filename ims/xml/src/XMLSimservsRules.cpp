@@ -48,11 +48,6 @@ constexpr XmlField kRuleServiceFields[] = {
 };
 constexpr XmlFieldTable kRuleServiceTable = {&kSimservTable, kRuleServiceFields, std::size(kRuleServiceFields)};
 
-/// The first node, or NULL for no list and an empty one.
-const IxSingleElementNode* HeadOf(const IxSingleElementList* list) {
-    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
-}
-
 int CountOf(const IxSingleElementList* list) {
     return list != nullptr ? list->GetCount() : 0;
 }
@@ -214,8 +209,9 @@ void XmlRuleMarshaller::AddServiceElements(const ix_ns_xcap_ruleServiceType& /*s
 
 int XmlRuleMarshaller::AddRuleSetElementToXml(ix_ns_common_policy_ruleset* element) {
     ixLog(Source(), kAddRuleset);
+    if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_RULESET);
-    for (const IxSingleElementNode* node = HeadOf(element->mRuleList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mRuleList); node != nullptr; node = node->next) {
         auto* const rule = static_cast<ix_ns_common_policy_ruleType*>(node->key);
         if (rule != nullptr && AddRuleElementToXml(rule) == 0) {
             ixLog(Source(), kRulesetFailed);
@@ -228,6 +224,7 @@ int XmlRuleMarshaller::AddRuleSetElementToXml(ix_ns_common_policy_ruleset* eleme
 
 int XmlRuleMarshaller::AddRuleElementToXml(ix_ns_common_policy_ruleType* element) {
     ixLog(Source(), kAddRule);
+    if (element == nullptr) return 0;
     SetElementPrefix(IX_STR_CP);
     StartElementOpen(IX_STR_RULE);
     if (element->mId == nullptr) {
@@ -245,20 +242,22 @@ int XmlRuleMarshaller::AddRuleElementToXml(ix_ns_common_policy_ruleType* element
 
 int XmlRuleMarshaller::AddConditionsElementToXml(ix_ns_common_policy_conditionsType* element) {
     ixLog(Source(), kAddConditions);
+    if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_CONDITIONS);
-    for (const IxSingleElementNode* node = HeadOf(element->mIdentityList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mIdentityList); node != nullptr; node = node->next) {
         const auto* const identity = static_cast<const ix_ns_common_policy_identityType*>(node->key);
         if (identity != nullptr && AddIdentityElementToXml(*identity) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = HeadOf(element->mSphereList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mSphereList); node != nullptr; node = node->next) {
         const auto* const sphere = static_cast<const ix_ns_common_policy_sphereType*>(node->key);
         if (sphere != nullptr && AddSphereElementToXml(*sphere) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = HeadOf(element->mValidityList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mValidityList); node != nullptr; node = node->next) {
         const auto* const validity = static_cast<const ix_ns_common_policy_validityType*>(node->key);
         if (validity != nullptr && AddValidityElementToXml(*validity) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = HeadOf(element->mOtherConditionsList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mOtherConditionsList); node != nullptr;
+         node = node->next) {
         AddFlagOrMedia(static_cast<XMLElement*>(node->key));
     }
     EndPrefixed(IX_STR_CP, IX_STR_CONDITIONS);
@@ -267,11 +266,11 @@ int XmlRuleMarshaller::AddConditionsElementToXml(ix_ns_common_policy_conditionsT
 
 int XmlRuleMarshaller::AddIdentityElementToXml(const ix_ns_common_policy_identityType& element) {
     StartPrefixed(IX_STR_CP, IX_STR_IDENTITY);
-    if (HeadOf(element.mOneList) == nullptr && HeadOf(element.mManyList) == nullptr) {
+    if (ixFirstNode(element.mOneList) == nullptr && ixFirstNode(element.mManyList) == nullptr) {
         ixLog(Source(), kEmptyIdentity, CountOf(element.mOneList), CountOf(element.mManyList));
         return 0;
     }
-    for (const IxSingleElementNode* node = HeadOf(element.mOneList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element.mOneList); node != nullptr; node = node->next) {
         const auto* const one = static_cast<const ix_ns_common_policy_oneType*>(node->key);
         if (one == nullptr) continue;
         StartElementOpen(IX_STR_ONE);
@@ -290,7 +289,7 @@ int XmlRuleMarshaller::AddIdentityElementToXml(const ix_ns_common_policy_identit
 /// with a list of n exceptions it goes on at the entry n + 1, which skips entries, or goes back and never ends. Senders
 /// and servers have settled on the documents that come out. IMSXML_WALKS_END makes the walk end where it would go back.
 void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
-    const IxSingleElementNode* node = HeadOf(list);
+    const IxSingleElementNode* node = ixFirstNode(list);
     int index = 0;
     while (node != nullptr) {
         const auto* const many = static_cast<const ix_ns_common_policy_manyType*>(node->key);
@@ -300,7 +299,8 @@ void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
             // Required: without a domain nothing closes the start tag.
             if (many->mDomain != nullptr) AddOnlyAttribute(IX_STR_DOMAIN, many->mDomain, Attribute::Closing);
             if (many->mExceptList != nullptr) next = 1;
-            for (const IxSingleElementNode* inner = HeadOf(many->mExceptList); inner != nullptr; inner = inner->next) {
+            for (const IxSingleElementNode* inner = ixFirstNode(many->mExceptList); inner != nullptr;
+                 inner = inner->next) {
                 if (inner->key != nullptr)
                     AddExceptElementToXml(static_cast<ix_ns_common_policy_exceptType*>(inner->key));
                 ++next;
@@ -311,7 +311,7 @@ void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
 #ifdef IMSXML_WALKS_END
             return;
 #endif
-            node = HeadOf(list);
+            node = ixFirstNode(list);
             index = 0;
         }
         for (; index < next && node != nullptr; ++index) node = node->next;
@@ -332,8 +332,8 @@ int XmlRuleMarshaller::AddSphereElementToXml(const ix_ns_common_policy_sphereTyp
 
 int XmlRuleMarshaller::AddValidityElementToXml(const ix_ns_common_policy_validityType& element) {
     StartPrefixed(IX_STR_CP, IX_STR_VALIDITY);
-    const IxSingleElementNode* from = HeadOf(element.mFromList);
-    const IxSingleElementNode* until = HeadOf(element.mUntilList);
+    const IxSingleElementNode* from = ixFirstNode(element.mFromList);
+    const IxSingleElementNode* until = ixFirstNode(element.mUntilList);
     if (from == nullptr || CountOf(element.mFromList) != CountOf(element.mUntilList)) {
         ixLog(Source(), kUnevenValidity, CountOf(element.mFromList), CountOf(element.mUntilList));
         return 0;
@@ -349,6 +349,7 @@ int XmlRuleMarshaller::AddValidityElementToXml(const ix_ns_common_policy_validit
 }
 
 int XmlRuleMarshaller::AddExceptElementToXml(ix_ns_common_policy_exceptType* element) {
+    if (element == nullptr) return 0;
     StartElementOpen(IX_STR_EXCEPT);
     if (element->mDomain != nullptr) AddOnlyAttribute(IX_STR_DOMAIN, element->mDomain, Attribute::Open);
     // Required: without an id nothing closes the start tag.
@@ -363,8 +364,9 @@ int XmlRuleMarshaller::AddExceptElementToXml(ix_ns_common_policy_exceptType* ele
 
 int XmlRuleMarshaller::AddActionsElementToXml(ix_ns_common_policy_extensibleType* element) {
     ixLog(Source(), m_texts.addActions);
+    if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_ACTIONS);
-    for (const IxSingleElementNode* node = HeadOf(element->mElementList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mElementList); node != nullptr; node = node->next) {
         auto* const action = static_cast<XMLElement*>(node->key);
         AddFlagOrMedia(action);
         AddAction(action);
@@ -373,8 +375,9 @@ int XmlRuleMarshaller::AddActionsElementToXml(ix_ns_common_policy_extensibleType
     return 1;
 }
 
-int XmlRuleMarshaller::AddTransformationsElementToXml(ix_ns_common_policy_extensibleType* /*element*/) {
+int XmlRuleMarshaller::AddTransformationsElementToXml(ix_ns_common_policy_extensibleType* element) {
     ixLog(Source(), kAddTransformations);
+    if (element == nullptr) return 0;
     SetElementPrefix(IX_STR_CP);
     AddTextOrEmptyElement(IX_STR_TRANSFORMATIONS, nullptr);
     return 1;
@@ -389,16 +392,16 @@ int XmlRuleMarshaller::AddEmptyElementtoXml(ix_empty_element_type* element) {
         ixLog(Source(), m_texts.flagNotPresent);
         return 0;
     }
+    if (element->mName == nullptr) return 0;
     char* const tag = static_cast<char*>(__malloc(kFlagBufferSize));
     if (tag == nullptr) {
         ixLog(Source(), m_texts.noFlagBuffer);
         GiveUp();
         return 0;
     }
-    const char* const name = element->mName != nullptr ? element->mName : "";
-    std::size_t length = __strlen(name);
+    std::size_t length = __strlen(element->mName);
     if (length > kFlagBufferSize - 2) length = kFlagBufferSize - 2;
-    std::memcpy(tag, name, length);
+    std::memcpy(tag, element->mName, length);
     std::memcpy(tag + length, "/", 2);
     SetElementPrefix(IX_STR_SS);
     m_generator.ixStartElement(tag, 0);

@@ -36,7 +36,7 @@ XMLElement* TIPDataBinder::CreateRootElement() {
 TIPMarshaller::TIPMarshaller() : XmlIdentityPresentationMarshaller(kMarshallerInfo) {}
 
 int TIPMarshaller::AddTIPElementToXml(ix_terminating_identity_presentation* element) {
-    return AddIdentityElementToXml(kAddElement, IX_STR_TERMINATING_IDENTITY_PRESENTATION, *element);
+    return AddIdentityElementToXml(kAddElement, IX_STR_TERMINATING_IDENTITY_PRESENTATION, element);
 }
 
 IX_FAMILY(TIPContext, TIPMarshaller, TIPUnMarshaller, TIPDataBinder);

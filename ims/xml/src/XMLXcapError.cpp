@@ -89,10 +89,6 @@ constexpr ErrorRow kErrors[] = {
     {IX_STR_EXTENSION, ix_extension::kClass, IX_WRITER(Xcap_ErrorMarshall, AddExtensionElementToXml, ix_extension)},
 };
 
-const IxSingleElementNode* NodesOf(const IxSingleElementList* list) {
-    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
-}
-
 }  // namespace
 
 ix_phraseType::~ix_phraseType() {
@@ -265,7 +261,8 @@ int Xcap_ErrorMarshall::AddUniqueness_failureElementToXml(ix_uniqueness_failure*
     if (StartError(__func__, IX_STR_UNIQUENESS_FAILURE, element) == 0) return 0;
     // An entry that cannot be written is logged; the others are written all the same.
     int index = 0;
-    for (const IxSingleElementNode* node = NodesOf(element->mExistsList); node != nullptr; node = node->next, ++index) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mExistsList); node != nullptr;
+         node = node->next, ++index) {
         if (AddExistsElementToXml(static_cast<ix_exists*>(node->key)) == 0) ixLog(kSourceFile, kExistsFailed, index);
     }
     EndElement(IX_STR_UNIQUENESS_FAILURE);
@@ -276,7 +273,7 @@ int Xcap_ErrorMarshall::AddExistsElementToXml(ix_exists* element) {
     ixLog(kSourceFile, kAddExists);
     if (element == nullptr) return 0;
     StartElementWith(IX_STR_EXISTS, IX_STR_FIELD, element->mField);
-    for (const IxSingleElementNode* node = NodesOf(element->mAltValueList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixFirstNode(element->mAltValueList); node != nullptr; node = node->next) {
         AddTextElement(IX_STR_ALT_VALUE, static_cast<const char*>(node->key));
     }
     EndElement(IX_STR_EXISTS);

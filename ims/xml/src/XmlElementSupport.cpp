@@ -9,7 +9,8 @@ bool ixIsClass(const XMLElement* element, const char* className) {
 }
 
 ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute) {
-    if (attribute == nullptr || std::strcmp(attribute->ClassName(), "ix_AttributeValuePair") != 0) return nullptr;
+    const char* const own = attribute != nullptr ? attribute->ClassName() : nullptr;
+    if (own == nullptr || std::strcmp(own, "ix_AttributeValuePair") != 0) return nullptr;
     return static_cast<ix_AttributeValuePair*>(attribute);
 }
 

@@ -204,7 +204,8 @@ int XmlFamilyDecoder::StartElement(char* name) {
     const XmlContainerRow* const row = FindContainer(name);
     if (row == nullptr) return OtherElement(name, nullptr);
     const bool isRoot = row->role == XmlContainerRow::Root;
-    const bool isResult = isRoot || (m_stack.empty() && m_info.takesFragments);
+    // Where a part of a document may be the result, a root inside another one is a part like any other.
+    const bool isResult = m_info.takesFragments ? m_stack.empty() : isRoot;
     if (!isResult && m_stack.empty()) return 0;
     XMLElement* const object = row->create(name, m_info.source);
     if (object == nullptr) {
