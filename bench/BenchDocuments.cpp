@@ -3,16 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "ixDplHost.h"
-
-const char kCommunicationWaiting[] =
-    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-    "<ss:communication-waiting xmlns:ss=\"http://uri.etsi.org/ngn/params/xml/simservs/xcap\" active=\"true\"/>\n";
-
-const char kTempGruu[] =
-    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-    "<temp-gruu uri=\"sip:tgruu.7hs==jd7vnzga5w7fajsc7-ajd6fabz0f8g5@example.com;gr\" first-cseq=\"54301\"/>\n";
-
 std::string FlatDocument(std::size_t size) {
     std::string text = "<?xml version=\"1.0\"?>\n<reginfo xmlns=\"urn:ietf:params:xml:ns:reginfo\" version=\"1\">\n";
     for (unsigned number = 0; text.size() + 11 < size; ++number) {
@@ -35,9 +25,17 @@ std::string NestedDocument(std::size_t depth) {
     return text;
 }
 
+std::string GrownDocument(const char* head, const std::string& piece, const char* tail, std::size_t size) {
+    std::string text = head;
+    for (unsigned number = 1000; number == 1000 || text.size() + piece.size() / 2 < size; ++number) {
+        for (const char at : piece) at == '#' ? text += std::to_string(number) : text += at;
+    }
+    return text + tail;
+}
+
 void ParseWithExpat(const std::string& text, void* context, XML_StartElementHandler start, XML_EndElementHandler end,
                     XML_CharacterDataHandler data) {
-    XML_Parser parser = XML_ParserCreate(nullptr);
+    XML_Parser parser = XML_ParserCreate_MM(nullptr, &kCountedMemory, nullptr);
     XML_SetUserData(parser, context);
     XML_SetElementHandler(parser, start, end);
     XML_SetCharacterDataHandler(parser, data);
@@ -45,13 +43,6 @@ void ParseWithExpat(const std::string& text, void* context, XML_StartElementHand
     XML_ParserFree(parser);
 }
 
-void CountBytes(benchmark::State& state, const std::string& text) {
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(text.size()));
-}
-
-void CountAllocations(benchmark::State& state, const std::function<void()>& step) {
-    ixDplHostFailAllocation(0);
-    step();
-    state.counters["allocations"] = static_cast<double>(ixDplHostAllocations());
-    ixDplHostStopCounting();
+void CountBytes(benchmark::State& state, std::size_t size) {
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(size));
 }

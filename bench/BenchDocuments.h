@@ -15,20 +15,21 @@ std::string FlatDocument(std::size_t size);
 /// `depth` elements, each inside the one before.
 std::string NestedDocument(std::size_t depth);
 
-/// A communication waiting document as a network returns it.
-extern const char kCommunicationWaiting[];
-/// A temporary GRUU.
-extern const char kTempGruu[];
+/// A document of about `size` bytes: `head`, then `piece` again and again, a number in place of each `#`, then `tail`.
+std::string GrownDocument(const char* head, const std::string& piece, const char* tail, std::size_t size);
 
 /// Has libexpat parse `text` with the handlers of a context. Aborts the process when the text is not well-formed,
 /// because a comparison with a parser that gave up says nothing.
 void ParseWithExpat(const std::string& text, void* context, XML_StartElementHandler start, XML_EndElementHandler end,
                     XML_CharacterDataHandler data);
 
-/// Reports bytes per second of `text`.
-void CountBytes(benchmark::State& state, const std::string& text);
+/// The memory functions of the above.
+extern const XML_Memory_Handling_Suite kCountedMemory;
 
-/// Runs `step` once and reports the allocations that the library makes in it.
-void CountAllocations(benchmark::State& state, const std::function<void()>& step);
+/// Reports bytes per second, for `size` bytes in every iteration.
+void CountBytes(benchmark::State& state, std::size_t size);
+
+/// Runs `step` once. @return the heap allocations that were made in it, by whichever library.
+double CountAllocations(const std::function<void()>& step);
 
 #endif

@@ -1,148 +1,237 @@
-// Whole documents: decode and release, and encode, next to libexpat and pugixml with extraction into plain structs.
+#include "BenchFamilies.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <pugixml.hpp>
 
 #include "BenchDocuments.h"
-#include "XMLFactory.h"
+#include "XmlFields.h"
 
 namespace {
 
-struct Family {
-    eXMLSchemaID id;
-    const char* text;
-    void (*expat)(const std::string& text);
-    void (*pugixml)(const std::string& text);
-};
+/// The objects and texts of a tree.
+std::size_t CountItems(const XMLElement& element);
 
-struct Waiting {
-    bool active = false;
-    std::string declaration;
-};
+std::size_t CountList(XmlFieldKind kind, const IxSingleElementList& list) {
+    std::size_t items = 0;
+    for (const IxSingleElementNode* node = list.GetPtrToListHead(); node != nullptr; node = node->next) {
+        // A pair is an object with two texts.
+        items += kind == XmlFieldKind::AttributeList ? 3 : 1;
+        if (kind == XmlFieldKind::ChildList) items += CountItems(*static_cast<const XMLElement*>(node->key)) - 1;
+    }
+    return items;
+}
 
-void WaitingWithExpat(const std::string& text) {
-    Waiting waiting;
-    ParseWithExpat(
-        text, &waiting,
-        [](void* context, const XML_Char* name, const XML_Char** attributes) {
-            if (std::strcmp(name, "ss:communication-waiting") != 0) return;
-            auto& to = *static_cast<Waiting*>(context);
-            for (; *attributes != nullptr; attributes += 2) {
-                if (std::strcmp(attributes[0], "active") == 0) {
-                    to.active = std::strcmp(attributes[1], "true") == 0;
-                } else {
-                    to.declaration = attributes[1];
-                }
+std::size_t CountItems(const XMLElement& element) {
+    std::size_t items = 1;
+    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+        for (const XmlField* field = table->fields; field != table->fields + table->count; ++field) {
+            if (!XmlFields::IsSet(element, *field)) continue;
+            switch (field->kind) {
+                case XmlFieldKind::Text:
+                    ++items;
+                    break;
+                case XmlFieldKind::Child:
+                case XmlFieldKind::Presence:
+                    items += CountItems(*XmlFields::Child(element, *field));
+                    break;
+                case XmlFieldKind::ChildList:
+                case XmlFieldKind::TextList:
+                case XmlFieldKind::AttributeList:
+                    items += CountList(field->kind, *XmlFields::List(element, *field));
+                    break;
+                default:
+                    break;
             }
-        },
-        [](void*, const XML_Char*) {}, [](void*, const XML_Char*, int) {});
-    if (!waiting.active) std::abort();
+        }
+    }
+    return items;
 }
 
-void WaitingWithPugixml(const std::string& text) {
-    pugi::xml_document document;
-    if (!document.load_buffer(text.data(), text.size())) std::abort();
-    const pugi::xml_node root = document.child("ss:communication-waiting");
-    const Waiting waiting{std::strcmp(root.attribute("active").value(), "true") == 0,
-                          root.attribute("xmlns:ss").value()};
-    if (!waiting.active) std::abort();
-}
+/// Our library, ready for a schema.
+class Library {
+  public:
+    explicit Library(eXMLSchemaID schema) : m_context(XMLFactory::newInstance(schema)) {
+        m_unMarshaller = m_context->createUnMarshaller();
+        m_marshaller = m_context->createMarshaller();
+    }
+    ~Library() {
+        XMLFactory::DeleteElement(m_root);
+        XMLFactory::deleteContext(m_context);
+    }
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
 
-struct Gruu {
-    std::string uri;
-    long long firstCseq = 0;
-};
-
-void GruuWithExpat(const std::string& text) {
-    Gruu gruu;
-    ParseWithExpat(
-        text, &gruu,
-        [](void* context, const XML_Char* name, const XML_Char** attributes) {
-            if (std::strcmp(name, "temp-gruu") != 0) return;
-            auto& to = *static_cast<Gruu*>(context);
-            for (; *attributes != nullptr; attributes += 2) {
-                if (std::strcmp(attributes[0], "uri") == 0) to.uri = attributes[1];
-                if (std::strcmp(attributes[0], "first-cseq") == 0) to.firstCseq = std::atoll(attributes[1]);
-            }
-        },
-        [](void*, const XML_Char*) {}, [](void*, const XML_Char*, int) {});
-    if (gruu.firstCseq != 54301) std::abort();
-}
-
-void GruuWithPugixml(const std::string& text) {
-    pugi::xml_document document;
-    if (!document.load_buffer(text.data(), text.size())) std::abort();
-    const pugi::xml_node root = document.child("temp-gruu");
-    const Gruu gruu{root.attribute("uri").value(), root.attribute("first-cseq").as_llong()};
-    if (gruu.firstCseq != 54301) std::abort();
-}
-
-constexpr Family kWaiting = {IX_XML_SCHEMA_COMMUNICATION_WAITING, kCommunicationWaiting, WaitingWithExpat,
-                             WaitingWithPugixml};
-constexpr Family kGruu = {IX_XML_SCHEMA_GRUU, kTempGruu, GruuWithExpat, GruuWithPugixml};
-
-void Decode(benchmark::State& state, const Family& family) {
-    XMLContext* const context = XMLFactory::newInstance(family.id);
-    XMLUnMarshaller* const unMarshaller = context->createUnMarshaller();
-    const auto step = [&] {
-        XMLElement* const root = unMarshaller->UnMarshall(family.text);
+    void DecodeAndRelease(const std::string& text) const {
+        XMLElement* const root = m_unMarshaller->UnMarshall(text.c_str());
         if (root == nullptr) std::abort();
         XMLFactory::DeleteElement(root);
-    };
-    for (auto _ : state) step();
-    CountBytes(state, family.text);
-    CountAllocations(state, step);
-    XMLFactory::deleteContext(context);
-}
-
-void DecodePeer(benchmark::State& state, const Family& family, void (*extract)(const std::string&)) {
-    const std::string text = family.text;
-    for (auto _ : state) extract(text);
-    CountBytes(state, text);
-}
-
-void Encode(benchmark::State& state, const Family& family) {
-    XMLContext* const context = XMLFactory::newInstance(family.id);
-    XMLElement* const root = context->createUnMarshaller()->UnMarshall(family.text);
-    XMLMarshaller* const marshaller = context->createMarshaller();
-    std::string text;
-    for (auto _ : state) {
-        const char* const written = marshaller->Marshall(root);
-        benchmark::DoNotOptimize(written);
-        if (text.empty()) text = written;
     }
-    CountBytes(state, text);
-    CountAllocations(state, [&] { marshaller->Marshall(root); });
-    XMLFactory::DeleteElement(root);
-    XMLFactory::deleteContext(context);
+
+    /// The tree stays until the next one.
+    XMLElement* Decode(const std::string& text) {
+        XMLFactory::DeleteElement(m_root);
+        m_root = m_unMarshaller->UnMarshall(text.c_str());
+        return m_root;
+    }
+
+    const char* Encode(XMLElement* root) const {
+        const char* const text = m_marshaller->Marshall(root);
+        if (text == nullptr || m_marshaller->IsTruncated() != 0) std::abort();
+        return text;
+    }
+
+  private:
+    XMLContext* m_context;
+    XMLUnMarshaller* m_unMarshaller;
+    XMLMarshaller* m_marshaller;
+    XMLElement* m_root = nullptr;
+};
+
+/// A document that is made when it is first measured.
+class Document {
+  public:
+    Document(std::string name, const BenchFamily& family, DocumentMaker make, std::size_t size,
+             BenchDirections directions)
+        : m_name(std::move(name)), m_family(family), m_make(make), m_size(size), m_directions(directions) {}
+
+    const BenchFamily& Family() const { return m_family; }
+
+    const std::string& Text() {
+        if (m_text.empty()) {
+            m_text = m_make(m_size);
+            Library library(m_family.schema);
+            const XMLElement* const root = library.Decode(m_text);
+            if (root == nullptr) Fail("our library does not decode it");
+            m_items = CountItems(*root);
+            // Larger ones are made of the same pieces.
+            if (m_text.size() < 65536) Check(*root);
+        }
+        return m_text;
+    }
+
+    /// The objects and texts of our tree.
+    std::size_t Items() const { return m_items; }
+
+  private:
+    void Check(const XMLElement& tree) const {
+        const std::string written = Rewrite(m_text, ReadWithExpat);
+        Library library(m_family.schema);
+        if (!XmlFields::Equal(&tree, library.Decode(written))) Fail("the structs do not hold what the tree holds");
+        if (Rewrite(m_text, ReadWithPugixml) != written) Fail("pugixml and libexpat read different structs");
+        if (m_directions == BenchDirections::Decode) return;
+        if (Rewrite(library.Encode(library.Decode(m_text)), ReadWithExpat) != written) {
+            Fail("our library writes another document than tinyxml2");
+        }
+    }
+
+    /// What tinyxml2 writes of what `read` has read.
+    std::string Rewrite(const std::string& text, RecordReader read) const {
+        const RecordRoot& root = m_family.root;
+        tinyxml2::XMLPrinter printer(nullptr, true);
+        WriteWithTinyxml2(root.name, root.type, m_family.read(text, root, read).get(), printer);
+        return printer.CStr();
+    }
+
+    [[noreturn]] void Fail(const char* what) const {
+        std::fprintf(stderr, "%s: %s\n", m_name.c_str(), what);
+        std::exit(1);
+    }
+
+    std::string m_name;
+    const BenchFamily& m_family;
+    DocumentMaker m_make;
+    std::size_t m_size;
+    BenchDirections m_directions;
+    std::string m_text;
+    std::size_t m_items = 0;
+};
+
+/// Measures `step`, which handles `bytes` bytes.
+template <class Step>
+void Measure(benchmark::State& state, const Document& document, std::size_t bytes, const Step& step) {
+    for (auto _ : state) step();
+    CountBytes(state, bytes);
+    const double allocations = CountAllocations(step);
+    state.counters["allocations"] = allocations;
+    state.counters["per_item"] = allocations / static_cast<double>(document.Items());
 }
 
-void EncodeWithPugixml(benchmark::State& state, const Family& family) {
+void Decode(benchmark::State& state, Document& document) {
+    const std::string& text = document.Text();
+    const Library library(document.Family().schema);
+    Measure(state, document, text.size(), [&] { library.DecodeAndRelease(text); });
+}
+
+void DecodePeer(benchmark::State& state, Document& document, RecordReader read) {
+    const std::string& text = document.Text();
+    const BenchFamily& family = document.Family();
+    Measure(state, document, text.size(), [&] { family.readAndRelease(text, family.root, read); });
+}
+
+void Encode(benchmark::State& state, Document& document) {
+    Library library(document.Family().schema);
+    XMLElement* const root = library.Decode(document.Text());
+    const std::size_t size = std::string(library.Encode(root)).size();
+    Measure(state, document, size, [&] { benchmark::DoNotOptimize(library.Encode(root)); });
+}
+
+void EncodeWithPugixml(benchmark::State& state, Document& document) {
     struct Writer : pugi::xml_writer {
         std::string text;
         void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
     };
-    pugi::xml_document document;
-    document.load_string(family.text);
-    std::size_t size = 0;
-    for (auto _ : state) {
-        Writer writer;
-        document.save(writer, "", pugi::format_raw);
-        size = writer.text.size();
-        benchmark::DoNotOptimize(writer.text.data());
-    }
-    CountBytes(state, std::string(size, ' '));
+    pugi::xml_document tree;
+    if (!tree.load_string(document.Text().c_str())) std::abort();
+    Writer writer;
+    const auto step = [&] {
+        writer.text.clear();
+        tree.save(writer, "", pugi::format_raw);
+    };
+    step();
+    Measure(state, document, writer.text.size(), step);
 }
 
-BENCHMARK_CAPTURE(Decode, waiting_decode_imsxml, kWaiting)->Name("waiting-decode/imsxml");
-BENCHMARK_CAPTURE(DecodePeer, waiting_decode_expat, kWaiting, kWaiting.expat)->Name("waiting-decode/expat");
-BENCHMARK_CAPTURE(DecodePeer, waiting_decode_pugixml, kWaiting, kWaiting.pugixml)->Name("waiting-decode/pugixml");
-BENCHMARK_CAPTURE(Encode, waiting_encode_imsxml, kWaiting)->Name("waiting-encode/imsxml");
-BENCHMARK_CAPTURE(EncodeWithPugixml, waiting_encode_pugixml, kWaiting)->Name("waiting-encode/pugixml");
-BENCHMARK_CAPTURE(Decode, gruu_decode_imsxml, kGruu)->Name("gruu-decode/imsxml");
-BENCHMARK_CAPTURE(DecodePeer, gruu_decode_expat, kGruu, kGruu.expat)->Name("gruu-decode/expat");
-BENCHMARK_CAPTURE(DecodePeer, gruu_decode_pugixml, kGruu, kGruu.pugixml)->Name("gruu-decode/pugixml");
-BENCHMARK_CAPTURE(Encode, gruu_encode_imsxml, kGruu)->Name("gruu-encode/imsxml");
-BENCHMARK_CAPTURE(EncodeWithPugixml, gruu_encode_pugixml, kGruu)->Name("gruu-encode/pugixml");
+void EncodeWithTinyxml2(benchmark::State& state, Document& document) {
+    const RecordRoot& root = document.Family().root;
+    const std::shared_ptr<void> record = document.Family().read(document.Text(), root, ReadWithExpat);
+    tinyxml2::XMLPrinter printer(nullptr, true);
+    const auto step = [&] {
+        printer.ClearBuffer();
+        printer.PushHeader(false, true);
+        WriteWithTinyxml2(root.name, root.type, record.get(), printer);
+    };
+    step();
+    Measure(state, document, static_cast<std::size_t>(printer.CStrSize()) - 1, step);
+}
 
 }  // namespace
+
+void AddDocument(const std::string& name, const BenchFamily& family, DocumentMaker make, std::size_t size,
+                 BenchDirections directions) {
+    const auto document = std::make_shared<Document>(name, family, make, size, directions);
+    const auto add = [&](const char* suffix, auto run) {
+        benchmark::RegisterBenchmark((name + suffix).c_str(),
+                                     [document, run](benchmark::State& state) { run(state, *document); });
+    };
+    add("-decode/imsxml", Decode);
+    add("-decode/expat", [](auto& state, Document& of) { DecodePeer(state, of, ReadWithExpat); });
+    add("-decode/pugixml", [](auto& state, Document& of) { DecodePeer(state, of, ReadWithPugixml); });
+    if (directions == BenchDirections::Decode) return;
+    add("-encode/imsxml", Encode);
+    add("-encode/pugixml", EncodeWithPugixml);
+    add("-encode/tinyxml2", EncodeWithTinyxml2);
+}
+
+void AddSizes(const std::string& name, const BenchFamily& family, DocumentMaker make) {
+    AddDocument(name + "-2k", family, make, 2 << 10);
+    AddDocument(name + "-12k", family, make, 12 << 10);
+    AddDocument(name + "-28k", family, make, 28 << 10);
+}
+
+void AddGrowth(const std::string& name, const BenchFamily& family, DocumentMaker make) {
+    AddDocument(name + "-1m", family, make, 1 << 20, BenchDirections::Decode);
+    AddDocument(name + "-16m", family, make, 16 << 20, BenchDirections::Decode);
+}

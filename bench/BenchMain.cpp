@@ -1,21 +1,29 @@
 // Runs the benchmarks and then prints how many times as fast this library was as each peer on the same document. The
-// machines are noisy and differ, so only these ratios say something.
+// machines are noisy and differ, so only these ratios say something; and the allocations, which do not differ.
 #include <benchmark/benchmark.h>
 
+#include <cstdint>
 #include <cstdio>
+#include <iterator>
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include "BenchFamilies.h"
 
 namespace {
 
-/// Splits "tokenizer/imsxml/1024" into the document "tokenizer/1024" and the library "imsxml".
-bool SplitName(const std::string& name, std::string* document, std::string* library) {
-    for (const char* const candidate : {"imsxml", "expat", "pugixml"}) {
-        const std::string part = std::string("/") + candidate;
+constexpr const char* kLibraries[] = {"imsxml", "expat", "pugixml", "tinyxml2"};
+constexpr std::size_t kLibraryCount = std::size(kLibraries);
+
+/// Splits "tokenizer/imsxml/1024" into the document "tokenizer/1024" and the library 0.
+bool SplitName(const std::string& name, std::string& document, std::size_t& library) {
+    for (library = 0; library < kLibraryCount; ++library) {
+        const std::string part = std::string("/") + kLibraries[library];
         const std::size_t at = name.find(part);
         if (at == std::string::npos) continue;
-        *document = name.substr(0, at) + name.substr(at + part.size());
-        *library = candidate;
+        document = name.substr(0, at) + name.substr(at + part.size());
         return true;
     }
     return false;
@@ -26,37 +34,79 @@ class RatioReporter : public benchmark::ConsoleReporter {
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
-            std::string document;
-            std::string library;
+            std::string name;
+            std::size_t library = 0;
             const bool isMeasurement = !run.error_occurred && run.run_type == Run::RT_Iteration;
-            if (isMeasurement && SplitName(run.benchmark_name(), &document, &library)) {
-                // The fastest of several repetitions is the one that was disturbed least.
-                double& time = m_times[document][library];
-                if (time == 0 || run.GetAdjustedCPUTime() < time) time = run.GetAdjustedCPUTime();
-            }
+            if (!isMeasurement || !SplitName(run.benchmark_name(), name, library)) continue;
+            if (library == 0) m_order[{run.family_index, run.per_family_instance_index}] = name;
+            Result& result = m_documents[name][library];
+            // The fastest of several repetitions is the one that was disturbed least.
+            if (result.time != 0 && result.time <= run.GetAdjustedCPUTime()) continue;
+            result = {run.GetAdjustedCPUTime(), Counter(run, "bytes_per_second"), Counter(run, "per_item")};
         }
     }
 
     void Finalize() override {
-        std::printf("\ntimes as fast as\n");
-        for (const auto& [document, times] : m_times) {
-            const auto own = times.find("imsxml");
-            if (own == times.end() || times.size() < 2) continue;
-            std::printf("  %-28s", document.c_str());
-            for (const auto& [library, time] : times) {
-                if (library != "imsxml") std::printf("  %s %.2f", library.c_str(), time / own->second);
-            }
-            std::printf("\n");
-        }
+        std::printf("\n%-28s %8s | times as fast as            | allocations for each object and text\n", "", "MB/s");
+        std::printf("%-28s", "");
+        for (const char* const library : kLibraries)
+            std::printf(" %8s%s", library, library == kLibraries[0] ? " |" : "");
+        std::printf(" |");
+        for (const char* const library : kLibraries) std::printf(" %8s", library);
+        std::printf("\n");
+        for (const auto& [order, name] : m_order) PrintLine(name, m_documents[name]);
     }
 
   private:
-    std::map<std::string, std::map<std::string, double>> m_times;
+    struct Result {
+        double time;
+        double bytesPerSecond;
+        double allocations;  ///< Negative: not counted.
+    };
+    using Results = std::map<std::size_t, Result>;
+
+    static double Counter(const Run& run, const char* name) {
+        const auto found = run.counters.find(name);
+        return found != run.counters.end() ? static_cast<double>(found->second) : -1;
+    }
+
+    static void PrintLine(const std::string& name, const Results& results) {
+        if (results.size() < 2) return;
+        const Result& own = results.at(0);
+        std::printf("%-28s %8.1f |", name.c_str(), own.bytesPerSecond / (1 << 20));
+        for (std::size_t library = 1; library < kLibraryCount; ++library) {
+            const auto peer = results.find(library);
+            PrintCell(peer != results.end() ? peer->second.time / own.time : -1);
+        }
+        std::printf(" |");
+        for (std::size_t library = 0; library < kLibraryCount; ++library) {
+            const auto of = results.find(library);
+            PrintCell(of != results.end() ? of->second.allocations : -1);
+        }
+        std::printf("\n");
+    }
+
+    static void PrintCell(double value) {
+        if (value < 0) {
+            std::printf(" %8s", "-");
+        } else {
+            std::printf(" %8.2f", value);
+        }
+    }
+
+    std::map<std::string, Results> m_documents;
+    /// The documents that this library was measured on, in the order in which they were added.
+    std::map<std::pair<std::int64_t, std::int64_t>, std::string> m_order;
 };
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    AddServiceDocuments();
+    AddRegistrationDocuments();
+    AddConferenceDocuments();
+    AddPresenceDocuments();
+    AddMessagingDocuments();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     RatioReporter reporter;

@@ -2,6 +2,8 @@
 // list. Its names are borrowed from the string table. It also stands for the parts of the template that the first
 // families leave to later ones.
 #include <iterator>
+#include <string>
+#include <vector>
 
 #include "XmlElementSupport.h"
 #include "XmlFamily.h"
@@ -195,6 +197,34 @@ TEST_F(CatalogueTest, ContainersAreFiledPushedAndPopped) {
                  "<version>-9223372036854775808</version>\n<title>uno</title>\n<title>two</title>\n<title>three</title>"
                  "</folder>");
     EXPECT_EQ(writer.IsTruncated(), 0);
+}
+
+// The index of a table has room for 64 rows.
+TEST_F(CatalogueTest, AllRowsOfALongTableCount) {
+    std::vector<XmlContainerRow> rows(70, kContainers[2]);
+    for (XmlContainerRow& row : rows) row.parentClass = "nobody";
+    rows[63] = kContainers[0];
+    rows[69] = kContainers[2];
+    std::vector<XmlAttributeRow> attributes(70, kAttributes[1]);
+    for (XmlAttributeRow& row : attributes) row.className = "nobody";
+    attributes[69] = kAttributes[0];
+    XmlDecoderInfo info = DecoderInfo();
+    info.containers = rows.data();
+    info.containerCount = rows.size();
+    info.attributes = attributes.data();
+    info.attributeCount = attributes.size();
+    struct LongDecoder : XmlFamilyDecoder {
+        explicit LongDecoder(const XmlDecoderInfo& table) : XmlFamilyDecoder(table) {}
+    } decoder(info);
+    std::string text = "<folder auid=\"a\"><note/></folder>";
+    XmlDecoder tokenizer;
+    tokenizer.SetSchemaDecoder(&decoder);
+    EXPECT_EQ(tokenizer.Decode(text.c_str(), static_cast<int>(text.size())), IX_XML_SUCCESS);
+    const OwnedElement root(decoder.GetSessionData());
+    ASSERT_NE(root.get(), nullptr);
+    EXPECT_STREQ(root.as<ix_catalogue>()->mAuid, "a");
+    // The note is taken by a catalogue that does not keep it: it was made, and goes with the decoder.
+    EXPECT_EQ(ixDplHostLedger().liveObjects, 3U) << "root, note, open names";
 }
 
 TEST_F(CatalogueTest, WhatNobodyKeepsIsFreedWithTheDecoder) {

@@ -351,6 +351,9 @@ TEST_F(ConferenceInfoTest, BuiltListsPassToTheirElement) {
         EXPECT_EQ(user->addLanguage("en"), 1);
         EXPECT_EQ(user->mRoles->addEntry("a role"), 1);
     }
+    // What is no word is passed over, and a list without words is not written.
+    EXPECT_EQ(root.mConferenceDescription->mKeywords->Add(nullptr), 1U);
+    EXPECT_EQ(user->mLanguages->Add(nullptr), 1U);
     EXPECT_EQ(user->addLanguage("fr"), 1);
     EXPECT_EQ(user->addLanguage(nullptr), 0);
     EXPECT_EQ(user->mRoles->addEntry(nullptr), 0);

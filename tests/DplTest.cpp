@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
+#include <thread>
 
 #include "XmlTest.h"
 
@@ -109,6 +110,32 @@ TEST_F(DplTest, TheNthAllocationFailsAndThoseThatFollowIt) {
     for (void* block : blocks) __free(block);
     EXPECT_EQ(__calloc(SIZE_MAX / 2 + 1, 2), nullptr);
     EXPECT_EQ(__strdup(nullptr), nullptr);
+}
+
+// Freed blocks serve again, so one that was kept as larger than it is would be written past its end. Without the
+// fixture, whose ledger keeps blocks from being kept.
+TEST(BlockCacheTest, BlocksThatServeAgainHaveTheirSize) {
+    const auto work = [] {
+        constexpr std::size_t kMost = 300;
+        std::vector<unsigned char*> blocks;
+        for (int round = 0; round < 3; ++round) {
+            for (std::size_t i = 0; i < 20 * kMost; ++i) {
+                const std::size_t size = i % kMost;
+                blocks.push_back(static_cast<unsigned char*>(i % 7 == 0 ? __calloc(size, 1) : __malloc(size)));
+                std::memset(blocks.back(), static_cast<int>(i % 251), size);
+            }
+            for (std::size_t i = 0; i < blocks.size(); ++i) {
+                const std::size_t size = i % kMost;
+                const bool kept = size == 0 || (blocks[i][0] == i % 251 && blocks[i][size - 1] == i % 251);
+                ASSERT_TRUE(kept) << "block " << i;
+                __free(blocks[i]);
+            }
+            blocks.clear();
+        }
+    };
+    std::thread other(work);
+    work();
+    other.join();
 }
 
 TEST_F(DplTest, CopiesStayWithinTheirBuffer) {

@@ -70,6 +70,8 @@ TEST_F(ReginfoTest, WordsAreLookedForInTheRowsOfTheirReach) {
         EXPECT_EQ(OfferAttribute(c.element, c.attribute, nullptr), 1);
         EXPECT_EQ(c.field, without);
     }
+    // Whatever its number, a value without a word is not shown as set.
+    EXPECT_EQ(TreeOf(&contact).dump(), R"({"class":"ix_ns_reginfo_contact"})");
 }
 
 TEST_F(ReginfoTest, NumbersHave64BitsAndVersionsThoseOfAnUnsigned) {

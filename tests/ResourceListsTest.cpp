@@ -25,14 +25,6 @@ class ListsTest : public FamilyTest {
         for (const Case& c : cases) EXPECT_EQ(Field(c.id, c.text, c.pointer), c.value) << c.text << ' ' << c.pointer;
     }
 
-    /// "level text" for the lines of one source file since the last look.
-    Strings LinesOf(const std::string& file) {
-        Strings lines;
-        for (const LogLine& line : LogOf(file)) lines.push_back(std::to_string(line.level) + ' ' + line.text);
-        ClearLog();
-        return lines;
-    }
-
     ResourceListsDataBinder m_binder;
 };
 
@@ -85,41 +77,51 @@ TEST_F(ListsTest, ContentWithoutAPlaceIsLogged) {
     const OwnedElement lists(
         Decode(IX_XML_SCHEMA_RESOURCE_LISTS,
                "<resource-lists><list> <x>1</x><entry uri=\"u\">2<list/></entry> </list></resource-lists>"));
-    const Strings listLines = {"3 Cannot accommodate the element x with value (null)",
-                               "3 Cannot accommodate the element /x with value 1",
-                               "3 Cannot accommodate the element list with value (null)",
-                               "3 Cannot accommodate the element /list with value ",
-                               "3 Cannot accommodate the element /entry with value ",
-                               "3 Cannot accommodate the element /list with value  "};
-    EXPECT_EQ(LinesOf("XMLResourceList"), listLines);
+    const Strings listLines = {"2 Cannot accommodate the element x with value (null)",
+                               "2 Cannot accommodate the element /x with value 1",
+                               "2 Cannot accommodate the element list with value (null)",
+                               "2 Cannot accommodate the element /list with value ",
+                               "2 Cannot accommodate the element /entry with value ",
+                               "2 Cannot accommodate the element /list with value  "};
+    EXPECT_EQ(NewLinesOf("XMLResourceList"), listLines);
     const OwnedElement services(Decode(
         IX_XML_SCHEMA_RLS_SERVICES,
         "<rls-services><service><x/><resource-list>r</resource-list><package>p</package></service></rls-services>"));
-    const Strings serviceLines = {"3 Cannot accommodate the element x with value (null)",
-                                  "3 Cannot accommodate the element /x with value ",
-                                  "3 Cannot accommodate the element resource-list with value (null)",
-                                  "3 Cannot accommodate the element package with value (null)"};
-    EXPECT_EQ(LinesOf("XMLRlsServices"), serviceLines);
+    const Strings serviceLines = {"2 Cannot accommodate the element x with value (null)",
+                                  "2 Cannot accommodate the element /x with value ",
+                                  "2 Cannot accommodate the element resource-list with value (null)",
+                                  "2 Cannot accommodate the element package with value (null)"};
+    EXPECT_EQ(NewLinesOf("XMLRlsServices"), serviceLines);
 }
 
-TEST_F(ListsTest, DecodersRefuseEventsWithoutNames) {
+TEST_F(ListsTest, EventsWithoutNamesAndTextsWithoutMemoryAreRejected) {
     XMLResourceListsDecoder lists;
     XMLRlsServicesDecoder services;
     XMLListDecoder rlmi;
     const struct {
         XmlFamilyDecoder* decoder;
+        eXMLSchemaID id;
         const char* file;
-        std::string name;
-    } cases[] = {{&lists, "ResourceLists", "XMLResourceListsDecoder"},
-                 {&services, "RlsServices", "XMLRlsServicesDecoder"},
-                 {&rlmi, "Rlmi", "XMLListDecoder"}};
+        const char* bindingFile;
+        std::string family;
+    } cases[] = {{&lists, IX_XML_SCHEMA_RESOURCE_LISTS, "ResourceLists", "XMLResourceList", "ResourceLists"},
+                 {&services, IX_XML_SCHEMA_RLS_SERVICES, "RlsServices", "XMLRlsServices", "RlsServices"},
+                 {&rlmi, IX_XML_SCHEMA_LIST, "Rlmi", "XMLRlmi", "List"}};
     char name[] = "list";
     for (const auto& c : cases) {
         EXPECT_EQ(c.decoder->ProcessElement(nullptr, name), -1);
         EXPECT_EQ(c.decoder->ProcessAttribute(name, nullptr, name), -1);
-        const Strings expected = {"3 <XML Module>" + c.name + " :: ProcessElement: n_strElement is NULL",
-                                  "3 <XML Module>" + c.name + " :: ProcessAttribute: n_strElement is NULL"};
-        EXPECT_EQ(LinesOf(c.file), expected);
+        const std::string decoder = "XML" + c.family + "Decoder";
+        const Strings expected = {"3 <XML Module>" + decoder + " :: ProcessElement: n_strElement is NULL",
+                                  "3 <XML Module>" + decoder + " :: ProcessAttribute: n_strElement is NULL"};
+        EXPECT_EQ(NewLinesOf(c.file), expected);
+        const OwnedContext context(c.id);
+        XMLUnMarshaller* const reader = context->createUnMarshaller();
+        ixDplHostFailAllocation(1);
+        EXPECT_EQ(reader->UnMarshall("<list/>"), nullptr);
+        ixDplHostStopCounting();
+        const Strings noCopy = {"4 <XML Module>: StrDup failed in " + c.family + "UnMarshaller::UnMarshall"};
+        EXPECT_EQ(NewLinesOf(c.bindingFile), noCopy);
     }
 }
 
@@ -208,17 +210,17 @@ TEST_F(ListsTest, WhatIsMissingIsLoggedAndLeftOut) {
                         "2 <XML Module>: AddResource_listsElementToXml tempNum: 1 ",
                         "2 <XML Module>: AddListElementToXml",
                         "2 <XML Module>: Resource_listsMarshall XML " + text};
-    EXPECT_EQ(LinesOf("XMLResourceList"), expected);
+    EXPECT_EQ(NewLinesOf("XMLResourceList"), expected);
     const OwnedElement empty(m_binder.CreateRootElement());
     EXPECT_EQ(marshaller.Marshall(empty.get()), start + "</resource-lists>");
-    EXPECT_EQ(LinesOf("XMLResourceList")[1],
+    EXPECT_EQ(NewLinesOf("XMLResourceList")[1],
               "3 <XML Module>: Resource_listsMarshall :: Marshall: Deleting mResourceListsXml");
     EXPECT_EQ(marshaller.Marshall(nullptr), nullptr);
     expected = {"3 <XML Module>: Resource_listsMarshall :: Marshall: Received Object is NULL"};
-    EXPECT_EQ(LinesOf("XMLResourceList"), expected);
+    EXPECT_EQ(NewLinesOf("XMLResourceList"), expected);
     ix_string other;
     EXPECT_EQ(marshaller.Marshall(&other), nullptr);
-    EXPECT_EQ(LinesOf("XMLResourceList").back(), "2 <XML Module>: Resource_listsMarshall XML Failed!");
+    EXPECT_EQ(NewLinesOf("XMLResourceList").back(), "2 <XML Module>: Resource_listsMarshall XML Failed!");
 }
 
 // Required: an extra-attribute list that is empty leaves the start tag open.
@@ -234,6 +236,23 @@ TEST_F(ListsTest, AnEmptyListOfAttributesLeavesTheStartTagOpen) {
     }
     const std::string text = Write(IX_XML_SCHEMA_RESOURCE_LISTS, root.get());
     EXPECT_EQ(text.substr(text.find("\n<list")), "\n<list \n<entry  uri=\"u\" </entry></list></resource-lists>");
+    // Where there are entries, but none that can be written, the tag is closed.
+    ASSERT_EQ(list->addAnyAttribute(ixCreatePair(nullptr, "v", kSourceFile, __LINE__)), 1);
+    ASSERT_EQ(static_cast<ix_entryType*>(list->mChildren->GetKeyAtIndex(0))->mAnyAttribute->Add(nullptr), 1U);
+    const std::string closed = Write(IX_XML_SCHEMA_RESOURCE_LISTS, root.get());
+    EXPECT_EQ(closed.substr(closed.find("\n<list")), "\n<list>\n<entry  uri=\"u\"></entry></list></resource-lists>");
+}
+
+// The list of attributes has memory and its first node has none: an empty list would leave the start tag open.
+TEST_F(ListsTest, WithoutMemoryForItsFirstEntryThereIsNoList) {
+    const OwnedElement root(Decode(IX_XML_SCHEMA_RESOURCE_LISTS, "<resource-lists><list/></resource-lists>"));
+    auto* const list = static_cast<ix_listType*>(root.as<ix_resource_lists>()->mListList->GetKeyAtIndex(0));
+    ix_AttributeValuePair* const pair = ixCreatePair("a", "1", kSourceFile, __LINE__);
+    ixDplHostFailAllocation(2);
+    EXPECT_EQ(list->addAnyAttribute(pair), 0);
+    ixDplHostStopCounting();
+    IX_DELETE(pair);
+    EXPECT_NE(Write(IX_XML_SCHEMA_RESOURCE_LISTS, root.get()).find("\n<list></list>"), std::string::npos);
 }
 
 // Required: the beginning of a class name selects the writer of a child.
@@ -272,7 +291,7 @@ TEST_F(ListsTest, AChildIsWrittenByTheBeginningOfItsClassName) {
         EXPECT_STREQ(marshaller.Text(), "\n<list></list>");
         Strings expected = {"2 <XML Module>: AddListElementToXml"};
         expected.insert(expected.end(), c.lines.begin(), c.lines.end());
-        EXPECT_EQ(LinesOf("XMLResourceList"), expected);
+        EXPECT_EQ(NewLinesOf("XMLResourceList"), expected);
         list.mChildren->Remove(&child);
     }
 }
@@ -354,7 +373,7 @@ TEST_F(ListsTest, AServiceWithoutUriFailsTheDocument) {
                         "4 <XML Module>: AddServiceElementToXml Uri mandatory attribute",
                         "2 <XML Module>: AddServiceElementToXml XML Failed!",
                         "2 <XML Module>: RlsServicesMarshaller XML Failed!"};
-    EXPECT_EQ(LinesOf("XMLRlsServices"), expected);
+    EXPECT_EQ(NewLinesOf("XMLRlsServices"), expected);
     RlsServicesDataBinder binder;
     const OwnedElement built(binder.CreateRootElement());
     const std::string start =
@@ -378,7 +397,7 @@ TEST_F(ListsTest, AServiceWithoutUriFailsTheDocument) {
                 "2 <XML Module>: AddServiceElementToXml",
                 "2 <XML Module>: AddPackageElementToXml",
                 "2 <XML Module>: RlsServicesMarshaller XML " + text};
-    EXPECT_EQ(LinesOf("XMLRlsServices"), expected);
+    EXPECT_EQ(NewLinesOf("XMLRlsServices"), expected);
     EXPECT_EQ(marshaller.Marshall(nullptr), nullptr);
     EXPECT_TRUE(Log().empty());
 }
@@ -415,7 +434,7 @@ TEST_F(ListsTest, AListTellsWhatItLacks) {
          [](ix_list&, ix_resource&, ix_instance& i) { return i.setStateValue(7); }},
         {{"2 <XML Module>: AddNameElementToXml", resourceLine, instanceLine,
           "4 <XML Module>: AddInstanceElementToXml state mandatory attribute", instanceFailed, resourceFailed},
-         [](ix_list&, ix_resource&, ix_instance& i) { return i.setStateValue(eRlmiStatePending); }},
+         [](ix_list&, ix_resource&, ix_instance& i) { return i.setStateValue(IX_RLMI_INSTANCE_PENDING); }},
     };
     for (const auto& attempt : attempts) {
         ClearLog();
@@ -423,7 +442,7 @@ TEST_F(ListsTest, AListTellsWhatItLacks) {
         Strings expected = {"3 <XML Module>: ListMarshaller :: Marshall", "2 <XML Module>: AddListElementToXml"};
         expected.insert(expected.end(), attempt.lines.begin(), attempt.lines.end());
         expected.push_back("2 <XML Module>: ListMarshaller XML Failed!");
-        EXPECT_EQ(LinesOf("XMLRlmi"), expected);
+        EXPECT_EQ(NewLinesOf("XMLRlmi"), expected);
         ASSERT_EQ(attempt.repair(*list, *resource, *instance), 1);
     }
     const auto text = [](const std::string& xmlns, const std::string& fullState) {

@@ -73,11 +73,9 @@ std::string Format(const char* format, const std::uintptr_t (&words)[3]) {
     return text;
 }
 
-}  // namespace
-
-void ixLogModuleEventSimple(int level, int code, const char* source, int line, const char* format,
+/// A line of a level that is logged.
+[[gnu::noinline]] void Send(int level, int code, const char* source, int line, const char* format,
                             std::uintptr_t argument1, std::uintptr_t argument2, std::uintptr_t argument3) {
-    if (level < 0 || level > 31 || ((levelMask.load(std::memory_order_relaxed) >> level) & 1U) == 0) return;
     ixDplHostLogSink sink = nullptr;
     void* context = nullptr;
     {
@@ -88,6 +86,14 @@ void ixLogModuleEventSimple(int level, int code, const char* source, int line, c
     if (sink == nullptr) return;
     const std::string text = Format(format, {argument1, argument2, argument3});
     sink({level, code, source, line, text.c_str()}, context);
+}
+
+}  // namespace
+
+void ixLogModuleEventSimple(int level, int code, const char* source, int line, const char* format,
+                            std::uintptr_t argument1, std::uintptr_t argument2, std::uintptr_t argument3) {
+    if (level < 0 || level > 31 || ((levelMask.load(std::memory_order_relaxed) >> level) & 1U) == 0) return;
+    Send(level, code, source, line, format, argument1, argument2, argument3);
 }
 
 void ixDplHostSetLogSink(ixDplHostLogSink sink, void* context, unsigned mask) {

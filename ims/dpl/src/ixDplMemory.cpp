@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "ixDplBlockCache.h"
 #include "ixDplHost.h"
 
 namespace {
@@ -56,7 +57,7 @@ bool CountAndFail() {
     return first != 0 && number >= first && number - first < failures.load(std::memory_order_relaxed);
 }
 
-void* Allocate(std::size_t size, bool zeroed) {
+[[gnu::noinline]] void* Allocate(std::size_t size, bool zeroed) {
     const unsigned now = mode.load(std::memory_order_relaxed);
     if ((now & kCounting) != 0 && CountAndFail()) return nullptr;
     if (size == 0) size = 1;
@@ -69,40 +70,26 @@ void* Allocate(std::size_t size, bool zeroed) {
     return block;
 }
 
-}  // namespace
+// What the ledger does stands apart from the functions that ask whether it is on: those are called all the time.
 
-void* __malloc(std::size_t size) {
-    return Allocate(size, false);
+[[gnu::noinline]] void RemoveFromHeap(void* pointer) {
+    Ledger& ledger = TheLedger();
+    const std::lock_guard<std::mutex> lock(ledger.mutex);
+    ledger.heap.erase(pointer);
 }
 
-void* __calloc(std::size_t count, std::size_t size) {
-    if (size != 0 && count > static_cast<std::size_t>(-1) / size) return nullptr;
-    return Allocate(count * size, true);
-}
-
-void __free(void* pointer) {
-    if (pointer != nullptr && LedgerIsOn()) {
-        Ledger& ledger = TheLedger();
-        const std::lock_guard<std::mutex> lock(ledger.mutex);
-        ledger.heap.erase(pointer);
-    }
-    std::free(pointer);
-}
-
-void trmemlog_add(int module, const char* source, int line, void* pointer, std::size_t size) {
-    if (!LedgerIsOn() || pointer == nullptr) return;
+[[gnu::noinline]] void Register(const ixDplHostBlock& block) {
     Ledger& ledger = TheLedger();
     const std::lock_guard<std::mutex> lock(ledger.mutex);
     const unsigned long number = ledger.next++;
-    const auto known = ledger.numbers.find(pointer);
+    const auto known = ledger.numbers.find(block.pointer);
     if (known != ledger.numbers.end()) ledger.live.erase(known->second);
-    ledger.numbers[pointer] = number;
-    ledger.live[number] = {module, source, line, pointer, size};
-    ledger.removed.erase(pointer);
+    ledger.numbers[block.pointer] = number;
+    ledger.live[number] = block;
+    ledger.removed.erase(block.pointer);
 }
 
-void trmemlog_remove(int module, void* pointer) {
-    if (!LedgerIsOn() || pointer == nullptr) return;
+[[gnu::noinline]] void Unregister(int module, const void* pointer) {
     Ledger& ledger = TheLedger();
     const std::lock_guard<std::mutex> lock(ledger.mutex);
     const auto known = ledger.numbers.find(pointer);
@@ -115,6 +102,36 @@ void trmemlog_remove(int module, void* pointer) {
     ledger.live.erase(block);
     ledger.numbers.erase(known);
     ledger.removed.insert(pointer);
+}
+
+}  // namespace
+
+void* __malloc(std::size_t size) {
+    if (mode.load(std::memory_order_relaxed) != 0) return Allocate(size, false);
+    return BlockCache::Mine().Take(size);
+}
+
+void* __calloc(std::size_t count, std::size_t size) {
+    if (size != 0 && count > static_cast<std::size_t>(-1) / size) return nullptr;
+    return Allocate(count * size, true);
+}
+
+void __free(void* pointer) {
+    if (pointer == nullptr) return;
+    if (mode.load(std::memory_order_relaxed) == 0) {
+        BlockCache::Mine().Give(pointer);
+        return;
+    }
+    if (LedgerIsOn()) RemoveFromHeap(pointer);
+    std::free(pointer);
+}
+
+void trmemlog_add(int module, const char* source, int line, void* pointer, std::size_t size) {
+    if (LedgerIsOn() && pointer != nullptr) Register({module, source, line, pointer, size});
+}
+
+void trmemlog_remove(int module, void* pointer) {
+    if (LedgerIsOn() && pointer != nullptr) Unregister(module, pointer);
 }
 
 void ixDplHostEnableLedger(bool on) {

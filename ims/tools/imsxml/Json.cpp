@@ -36,11 +36,8 @@ Json FieldToJson(const XMLElement& element, const XmlField& field) {
             return XmlFields::Text(element, field);
         case XmlFieldKind::Flag:
             return XmlFields::Number(element, field) != 0;
-        case XmlFieldKind::Enumeration: {
-            const long long value = XmlFields::Number(element, field);
-            const char* const text = field.enumeration != nullptr ? field.enumeration->TextOf(value) : nullptr;
-            return text != nullptr ? Json(text) : Json(value);
-        }
+        case XmlFieldKind::Enumeration:
+            return field.enumeration->TextOf(XmlFields::Number(element, field));
         case XmlFieldKind::Child:
             return ToJson(*XmlFields::Child(element, field));
         case XmlFieldKind::Presence:

@@ -82,15 +82,9 @@ class IX_XML_EXPORT ix_ns_caps_servcaps : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// @return 1.
-    int setAudioValue(int audio) {
-        mAudio = audio;
-        return 1;
-    }
+    int setAudioValue(int audio) { return ixSetNumber(mAudio, audio); }
     /// @return 1.
-    int setVideoValue(int video) {
-        mVideo = video;
-        return 1;
-    }
+    int setVideoValue(int video) { return ixSetNumber(mVideo, video); }
     /// Takes over `duplex` in place of the earlier one, which is deleted; NULL: none. @return 1.
     int setDuplexValue(ix_ns_caps_duplextype* duplex) { return ixSetChild(mDuplex, duplex); }
 

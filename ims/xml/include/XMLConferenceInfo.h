@@ -5,8 +5,8 @@
 /// - Namespace: urn:ietf:params:xml:ns:conference-info. It is not expected; it is written as the default namespace.
 /// - Prefixes: none. Names are compared as they stand, so elements with a prefix are not recognised.
 /// - Read and written, with the attributes that the schema does not know. Elements that it does not know are lost, and
-/// so are the attributes of text elements, repeated elements that may occur once (but for the last), counts and
-/// versions of 0, words of an enumeration that it does not have, and the white space around keywords and languages.
+///   so are the attributes of text elements, repeated elements that may occur once (but for the last), counts and
+///   versions of 0, words of an enumeration that it does not have, and the white space around keywords and languages.
 #ifndef IX_XML_CONFERENCE_INFO_H
 #define IX_XML_CONFERENCE_INFO_H
 

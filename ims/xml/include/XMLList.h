@@ -54,4 +54,9 @@ class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
     IxSingleElementNode* m_pLast = nullptr;
 };
 
+/// The first node, or NULL for an empty list and for none. Unlike `GetPtrToListHead` it does not log an empty list.
+inline const IxSingleElementNode* ixNodesOf(const IxSingleElementList* list) {
+    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+}
+
 #endif

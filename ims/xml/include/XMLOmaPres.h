@@ -46,10 +46,7 @@ class IX_XML_EXPORT ix_ns_oma_pres_basicType : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// @return 1.
-    int setBasicValue(int basic) {
-        mBasic = basic;
-        return 1;
-    }
+    int setBasicValue(int basic) { return ixSetNumber(mBasic, basic); }
 
     int mBasic = 2;  ///< Element `basic`: 0 "open", 1 "closed", 2 not set.
 };
@@ -85,10 +82,7 @@ class IX_XML_EXPORT ix_ns_oma_pres_stateType : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// @return 1.
-    int setStateValue(int state) {
-        mState = state;
-        return 1;
-    }
+    int setStateValue(int state) { return ixSetNumber(mState, state); }
 
     int mState = 2;  ///< The element's own text: 0 "active", 1 "terminated", 2 not set.
 

@@ -78,10 +78,7 @@ class IX_XML_EXPORT ix_status : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// @return 1.
-    int setBasicValue(int basic) {
-        mBasic = basic;
-        return 1;
-    }
+    int setBasicValue(int basic) { return ixSetNumber(mBasic, basic); }
     /// Takes over the list in place of the earlier one, which is deleted; NULL: none. @return 1.
     int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
     /// Appends an element, which then belongs to this one. @return 1, or 0 without memory, when it stays with the

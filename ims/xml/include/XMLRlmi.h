@@ -30,7 +30,12 @@ class IX_XML_EXPORT ix_name : public ix_string {
 };
 
 /// State of an instance.
-enum eRlmiInstanceState { eRlmiStateActive = 0, eRlmiStatePending = 1, eRlmiStateTerminated = 2, eRlmiStateNotSet = 3 };
+enum eRlmiInstanceState {
+    IX_RLMI_INSTANCE_ACTIVE,
+    IX_RLMI_INSTANCE_PENDING,
+    IX_RLMI_INSTANCE_TERMINATED,
+    IX_RLMI_INSTANCE_NOT_SET
+};
 
 /// The element `instance`: one subscription to a resource. It has no content; what stands in one is ignored.
 class IX_XML_EXPORT ix_instance : public XMLElement {
@@ -56,14 +61,14 @@ class IX_XML_EXPORT ix_instance : public XMLElement {
     /// Copies `id`; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
     int setIdValue(const char* id) { return ixSetText(mId, id); }
     /// @param state one of `eRlmiInstanceState`. @return 1.
-    int setStateValue(int state);
+    int setStateValue(int state) { return ixSetNumber(mState, state); }
 
     IxSingleElementList* mAnyAttribute = nullptr;  ///< Owned `ix_AttributeValuePair`s: all other attributes. NULL:
                                                    ///< none.
     char* mReason = nullptr;                       ///< Owned; why it was terminated. NULL: not set.
-    char* mCid = nullptr;           ///< Owned; the Content-ID of the body part with the state. NULL: not set.
-    char* mId = nullptr;            ///< Owned; NULL: not set. Mandatory in a written document.
-    int mState = eRlmiStateNotSet;  ///< One of `eRlmiInstanceState`. Mandatory in a written document.
+    char* mCid = nullptr;                   ///< Owned; the Content-ID of the body part with the state. NULL: not set.
+    char* mId = nullptr;                    ///< Owned; NULL: not set. Mandatory in a written document.
+    int mState = IX_RLMI_INSTANCE_NOT_SET;  ///< One of `eRlmiInstanceState`. Mandatory in a written document.
 };
 
 /// The element `resource`: a member of the list. Anything but names and instances is refused.
@@ -130,9 +135,9 @@ class IX_XML_EXPORT ix_list : public XMLObject {
     /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
     int setUriValue(const char* uri) { return ixSetText(mUri, uri); }
     /// @return 1.
-    int setVersionValue(unsigned int version);
+    int setVersionValue(unsigned int version) { return ixSetNumber(mVersion, version); }
     /// @return 1.
-    int setFullStateValue(int fullState);
+    int setFullStateValue(int fullState) { return ixSetNumber(mFullState, fullState); }
     /// Copies `cid`; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
     int setCidValue(const char* cid) { return ixSetText(mCid, cid); }
     /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.

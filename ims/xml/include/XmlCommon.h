@@ -9,7 +9,10 @@
 class IX_XML_EXPORT XmlCommon {
   public:
     /// True for a blank, tab, line feed or carriage return.
-    static bool IsSpace(char byte) { return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r'; }
+    static bool IsSpace(char byte) {
+        // One comparison for most characters.
+        return static_cast<unsigned char>(byte) <= ' ' && (byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r');
+    }
     /// The first character that is not a blank, tab, line feed or carriage return; NULL for NULL.
     static char* SkipSpaces(char* text) {
         if (text == nullptr) return nullptr;

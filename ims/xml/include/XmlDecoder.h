@@ -91,7 +91,7 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     /// Splits the inside of a start tag, which is modified, and reports it.
     /// @return 1 no attributes (the element itself was not reported), 0 reported, -1 malformed or no memory.
     int DecodeAttributes(char* tagContent);
-    /// Checks what follows the name in a start tag. The text is cut up. @return 0 valid, -1 invalid.
+    /// Checks what follows the name in a start tag. @return 0 valid, -1 invalid.
     int ValidateAttributeList(char* list);
 
     /// Appends a copy of `name` to the open names. NULL is appended as NULL. @return 1, or 0 without memory.
@@ -130,6 +130,12 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
         OpenNames* next = nullptr;
     };
 
+    /// The name in a tag.
+    struct TagName {
+        char* text = nullptr;
+        std::size_t length = 0;
+    };
+
     bool AppendToPending(const char* text, std::size_t length);
     void FreePending();
     int KeepFrom(char* rest, char* begin);
@@ -138,10 +144,10 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     int DecodeEndTag(char* text, char* begin, char* end);
     int DecodeSelfClosingTag(char* content, char* end);
     int DecodeStartTag(char* content, char* end);
-    int SplitAttributes(char* content, std::size_t length, char** name);
+    int SplitAttributes(char* content, char* end, TagName* name);
     static int ValidateList(char* text, const char* end);
-    int ReportAttributes(char* name, char* rest, char* end);
-    int ReportSelfClosingEnd(char* name, char* rest);
+    int ReportAttributes(const TagName& name, char* rest, char* end);
+    int ReportSelfClosingEnd(const TagName& name, char* rest);
     bool ReportEnd(const char* name, std::size_t length, char* text, const XmlLogText& noMemory, int* result);
     bool PushName(const char* name, std::size_t length);
     OpenName* NextOpenName();

@@ -22,13 +22,12 @@ inline bool ixEndNameIs(const char* name, e_XmlStrRef entry) {
     return name != nullptr && *name == '/' && ixNameIs(name + 1, entry);
 }
 
-/// The first node of a list, without the log line that `GetPtrToListHead` writes for an empty one; NULL for no list.
-inline const IxSingleElementNode* ixFirstNode(const IxSingleElementList* list) {
-    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
-}
-
 /// True when `element` is an object of the class `className`. NULL is of no class.
-IX_XML_EXPORT bool ixIsClass(const XMLElement* element, const char* className);
+inline bool ixIsClass(const XMLElement* element, const char* className) {
+    const char* const own = element != nullptr ? element->ClassName() : nullptr;
+    // Mostly both are the same constant.
+    return own != nullptr && (own == className || std::strcmp(own, className) == 0);
+}
 
 /// True for an object that has no class name, which a hook answers with 1 and does not take.
 inline bool ixIsNameless(const XMLElement* element) {
@@ -105,7 +104,7 @@ IX_XML_EXPORT int ixSetAttributeList(IxSingleElementList*& field, IxSingleElemen
 IX_XML_EXPORT int ixSetTextList(IxSingleElementList*& field, IxSingleElementList* list);
 
 /// Appends `entry` to a list that is created on first use and registered under `source` and `line`.
-/// @return 1, or 0 without memory, when the entry stays with the caller.
+/// @return 1, or 0 without memory, when the entry stays with the caller and no list is created.
 IX_XML_EXPORT int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line);
 
 /// Appends a copy of the `length` characters at `text` as `ixAppend` does. @return 1, or 0 for NULL or without memory.

@@ -8,10 +8,13 @@
 #ifndef IX_XML_FAMILY_H
 #define IX_XML_FAMILY_H
 
+#include <iterator>
+
 #include "XMLFactory.h"
 #include "XMLStack.h"
 #include "XmlCommon.h"
 #include "XmlDecoder.h"
+#include "XmlElementSupport.h"
 #include "XmlNamespaceTable.h"
 #include "ixXMLDocGenerator.h"
 
@@ -40,7 +43,41 @@ struct XmlKnownName {
     const char* Local() const {
         return spelling != nullptr ? spelling : ix_xml_common_array_definition::getStringName(local);
     }
-    bool Matches(const char* name) const;
+    /// The local part of `name`, when that is this name with a prefix that it may have; NULL otherwise.
+    char* LocalPartOf(char* name) const {
+        if (use != None) name = BehindPrefix(name);
+        return ixNameIs(name, Local()) ? name : nullptr;
+    }
+    bool Matches(char* name) const { return LocalPartOf(name) != nullptr; }
+
+  private:
+    char* BehindPrefix(char* name) const;
+};
+
+/// Which rows of a table a name can belong to: a bit for each row, found by the first two letters of the name. The rows
+/// behind the 64th have no bit, so that each of them has to be looked at.
+class XmlRowIndex {
+  public:
+    static unsigned Key(const char* name) { return Key(name[0], name[0] != '\0' ? name[1] : '\0'); }
+    /// Adds the row of `name`. Where a row is that of two names, `other` is the key of the second one, and the row is
+    /// looked for with the sum of both keys.
+    void Add(std::size_t row, const XmlKnownName& name, unsigned other = 0);
+    /// The first row from `from` on that can be the one of a name with the key `key`.
+    std::size_t Next(unsigned key, std::size_t from) const {
+        if (from >= kBits) return from;
+        const std::uint64_t rows = m_rows[key % std::size(m_rows)] >> from;
+        return rows != 0 ? from + static_cast<std::size_t>(__builtin_ctzll(rows)) : kBits;
+    }
+
+  private:
+    static constexpr std::size_t kBits = 64;
+
+    static unsigned Key(char first, char second) {
+        return static_cast<unsigned char>(first) + 5U * static_cast<unsigned char>(second);
+    }
+    void Add(std::size_t row, unsigned key) { m_rows[key % std::size(m_rows)] |= std::uint64_t{1} << row; }
+
+    std::uint64_t m_rows[32] = {};
 };
 
 /// An element that a decoder makes an object of.
@@ -215,22 +252,26 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     bool SetSessionData(XMLElement* root);
 
   private:
-    const XmlContainerRow* FindContainer(const char* name) const;
-    const XmlAttributeRow* FindAttribute(const char* element, const char* attribute, const XMLElement* receiver) const;
+    const XmlContainerRow* FindContainer(char* name, char** local) const;
+    const XmlAttributeRow* FindAttribute(char* element, const char* attribute, const XMLElement* receiver) const;
     bool EndContainer(const XmlContainerRow& row, char* name, char* text, bool& offered);
     char* ComparedName(char* element);
-    bool OfferToTop(const XmlContainerRow& row, XMLElement* object);
+    char* NameOfAttributes(char* element);
     bool KeepOrphan(XMLElement* object);
 
     XmlCodeGenStack m_stack;
     XMLElement* m_pSessionData = nullptr;
-    XMLElement* m_pOwn = nullptr;  ///< The object that the last start tag put on the stack, if it did.
+    XMLElement* m_pOwn = nullptr;      ///< The object that the last start tag put on the stack, if it did.
+    const char* m_pStarted = nullptr;  ///< The name that came with the last event, when that was a start tag ...
+    char* m_pStartedName = nullptr;    ///< ... and what it was compared as.
     bool m_bOwnIsRoot = false;
     XmlNamespaceTable m_namespaces;
     char* m_pMappedTag = nullptr;
     char* m_pPassName = nullptr;
 
     const XmlDecoderInfo& m_info;
+    XmlRowIndex m_containers;  ///< Of the rows of `m_info` and then those that it shares.
+    XmlRowIndex m_attributes;
     XmlWorkText m_mappedText;
     XmlWorkText m_passText;
     XMLElement** m_orphans = nullptr;

@@ -117,7 +117,8 @@ class IX_XML_EXPORT XmlFields {
     /// Children and presence elements.
     static XMLElement* Child(const XMLElement& element, const XmlField& field);
     static IxSingleElementList* List(const XMLElement& element, const XmlField& field);
-    /// True unless the field is NULL, an empty list, or its 'not set' value.
+    /// True unless the field is NULL, an empty list, its 'not set' value, or a value that its enumeration has no text
+    /// for.
     static bool IsSet(const XMLElement& element, const XmlField& field);
     /// @}
 

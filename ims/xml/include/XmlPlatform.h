@@ -40,7 +40,10 @@ enum XmlModule {
 };
 
 /// Registers `object`, when there is one, and returns it.
-IX_XML_EXPORT void* ixTrack(int module, const char* source, int line, void* object, std::size_t size);
+inline void* ixTrack(int module, const char* source, int line, void* object, std::size_t size) {
+    if (object != nullptr) trmemlog_add(module, source, line, object, size);
+    return object;
+}
 
 #define IX_TRACKED_NEW(module, source, line, type, arguments) \
     static_cast<type*>(ixTrack(module, source, line, new (std::nothrow) type arguments, sizeof(type)))

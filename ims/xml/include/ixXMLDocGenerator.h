@@ -66,8 +66,10 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
     /// Line feed and end tag, with `prefix` or else the default prefix.
     void ixEndXmlElementNs(const char* name, const char* prefix);
 
-    /// The buffer, which stays with the generator; NULL without one.
-    char* ixGetXmlDoc() const { return m_pBuffer; }
+    /// The buffer, filled up with zeros, which stays with the generator; NULL without one.
+    char* ixGetXmlDoc() const;
+    /// The text alone.
+    const char* Text() const { return m_pBuffer; }
     /// The number of characters in the buffer.
     std::size_t Length() const { return m_length; }
     /// True when text was cut off since the buffer was last empty.
@@ -90,7 +92,7 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
 
   private:
     void Append(const char* text, std::size_t length);
-    void Append(const char* text) { Append(text, __strlen(text)); }
+    void Append(const char* text);
     void AppendPrefixed(const char* prefix, const char* name);
     void AppendValue(const char* value);
     void StartTag(const char* name, int open);
@@ -105,6 +107,7 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
     char* m_pDefaultPrefix = nullptr;
     std::size_t m_length = 0;
     bool m_bTruncated = false;
+    mutable bool m_bZeroFilled = false;  ///< The buffer holds zeros behind its text.
 };
 
 #endif

@@ -28,13 +28,9 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
     info.entersFirst = true;
     info.writers = kWriters;
     info.writerCount = std::size(kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: Conference_infoMarshall :: Marshall"};
+    IX_MARSHALL_TEXTS(info, "Conference_infoMarshall", "mConferenceInfoXml");
     // Required: the text is spelt like this.
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: Conference_infoMarshall :: Marshall: Receiven NULL Object"};
-    info.deleting = {3, kSchemaCode, __LINE__,
-                     "<XML Module>: Conference_infoMarshall :: Marshall: Deleting mConferenceInfoXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: Conference_infoMarshall XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: Conference_infoMarshall XML Failed!"};
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
@@ -115,11 +111,6 @@ int SplitWords(IxSingleElementList*& field, const char* text) {
         while (XmlCommon::IsSpace(*text)) ++text;
     }
     return ixSetTextList(field, words);
-}
-
-/// The nodes of a list, without the log line that an empty one writes.
-const IxSingleElementNode* NodesOf(const IxSingleElementList* list) {
-    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
 }
 
 const char* BooleanText(int flag) {
@@ -538,7 +529,7 @@ int Conference_infoMarshall::AddConferenceInfoElementToXml(ix_conference_type* c
         return 0;
     }
     // Where nothing more can be written, there is no need to go deeper.
-    if (m_generator.ixGetXmlDoc() == nullptr || m_generator.IsTruncated()) return 1;
+    if (m_generator.Text() == nullptr || m_generator.IsTruncated()) return 1;
     StartElementOpen(name);
     if (name == IX_STR_CONFERENCE_INFO) {
         AddAttribute(IX_STR_XMLNS,
@@ -584,7 +575,8 @@ void Conference_infoMarshall::StartContainer(e_XmlStrRef name, const ix_conferen
 void Conference_infoMarshall::AddSidebars(const ix_sidebars_by_val_type& sidebars) {
     StartContainer(IX_STR_SIDEBARS_BY_VAL, sidebars, kStates.TextOf(sidebars.mState));
     int index = 0;
-    for (const IxSingleElementNode* node = NodesOf(sidebars.mEntryList); node != nullptr; node = node->next, ++index) {
+    for (const IxSingleElementNode* node = ixNodesOf(sidebars.mEntryList); node != nullptr;
+         node = node->next, ++index) {
         auto* const sidebar = static_cast<ix_conference_type*>(node->key);
         const IxXMLDocGenerator::Place before = m_generator.Here();
         if (sidebar == nullptr || AddConferenceInfoElementToXml(sidebar, IX_STR_ENTRY) != 0) continue;
@@ -625,7 +617,7 @@ int Conference_infoMarshall::AddConferenceMediaTypeElementToXml(ix_conference_me
     if (media == nullptr) return 0;
     StartContainer(IX_STR_AVAILABLE_MEDIA, *media);
     int index = 0;
-    for (const IxSingleElementNode* node = NodesOf(media->mEntryList); node != nullptr; node = node->next, ++index) {
+    for (const IxSingleElementNode* node = ixNodesOf(media->mEntryList); node != nullptr; node = node->next, ++index) {
         auto* const medium = static_cast<ix_conference_medium_type*>(node->key);
         if (medium != nullptr && AddMediumEntry(medium, index) == 0) return 0;
     }
@@ -714,7 +706,7 @@ int Conference_infoMarshall::AddUserElementToXml(ix_user_type* user) {
 
 void Conference_infoMarshall::AddRoles(const ix_user_roles_type& roles) {
     StartContainer(IX_STR_ROLES, roles);
-    for (const IxSingleElementNode* node = NodesOf(roles.mEntryList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(roles.mEntryList); node != nullptr; node = node->next) {
         AddTextElement(IX_STR_ENTRY, static_cast<const char*>(node->key));
     }
     EndElement(IX_STR_ROLES);
@@ -722,14 +714,18 @@ void Conference_infoMarshall::AddRoles(const ix_user_roles_type& roles) {
 
 /// One element for all words, with single blanks between them; nothing for none.
 void Conference_infoMarshall::AddWords(e_XmlStrRef name, const IxSingleElementList* words) {
-    const IxSingleElementNode* const first = NodesOf(words);
-    if (first == nullptr) return;
-    StartElement(name);
-    for (const IxSingleElementNode* node = first; node != nullptr; node = node->next) {
-        if (node != first) m_generator.ixXmlSetData(ix_xml_common_array_definition::getStringName(IX_STR_BLANK));
-        if (node->key != nullptr) m_generator.ixXmlSetData(static_cast<const char*>(node->key));
+    bool started = false;
+    for (const IxSingleElementNode* node = ixNodesOf(words); node != nullptr; node = node->next) {
+        if (node->key == nullptr) continue;
+        if (started) {
+            m_generator.ixXmlSetData(ix_xml_common_array_definition::getStringName(IX_STR_BLANK));
+        } else {
+            StartElement(name);
+            started = true;
+        }
+        m_generator.ixXmlSetData(static_cast<const char*>(node->key));
     }
-    EndElement(name);
+    if (started) EndElement(name);
 }
 
 int Conference_infoMarshall::AddEndPointElementToXml(ix_endpoint_type* endpoint) {

@@ -7,9 +7,7 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLOmaPres";
 
-constexpr XmlLogText kDescriptionRefused = {2, kSchemaCode, __LINE__,
-                                            "Cannot accommodate the element %s with value %s"};
-constexpr XmlLogText kBasicRefused = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
+constexpr XmlLogText kRefused = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 
 constexpr char kBasicTexts[][100] = {"open", "closed"};
 constexpr XmlEnumeration kBasics = {kBasicTexts[0], sizeof kBasicTexts[0], std::size(kBasicTexts)};
@@ -53,7 +51,7 @@ int ix_ns_oma_pres_service_description::ProcessUnMarshall(char* name, char* text
     if (ixEndNameIs(name, IX_STR_SERVICE_ID)) return setServiceIdValue(text);
     if (ixEndNameIs(name, IX_STR_VERSION)) return setVersionValue(text);
     if (ixEndNameIs(name, IX_STR_DESCRIPTION)) return setDescriptionValue(text);
-    ixLog(kSourceFile, kDescriptionRefused, name, text);
+    ixLog(kSourceFile, kRefused, name, text);
     return child == nullptr ? 1 : 0;
 }
 
@@ -67,7 +65,7 @@ const XmlFieldTable* ix_ns_oma_pres_basicType::FieldTable() const {
 
 int ix_ns_oma_pres_basicType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_BASIC)) return setBasicValue(kBasics.IndexOfPrefix(text));
-    ixLog(kSourceFile, kBasicRefused, name, text);
+    ixLog(kSourceFile, kRefused, name, text);
     return child == nullptr ? 1 : 0;
 }
 

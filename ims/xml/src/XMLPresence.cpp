@@ -18,11 +18,9 @@ constexpr XmlWriterRow kWriters[] = {
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
     XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: PresenceMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: PresenceMarshaller :: Marshall: Deleting mPresenceXml"};
+    IX_MARSHALL_TEXTS(info, "PresenceMarshaller", "mPresenceXml");
     // Required: the text is announced as that of another marshaller.
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: IsComposingMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: PresenceMarshaller XML Failed!"};
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();

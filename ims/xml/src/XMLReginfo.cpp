@@ -122,39 +122,27 @@ constexpr char kTexts[][32] = {
     "rejected",
     // States of a registration.
     "init", "active", "terminated"};
-constexpr int kReginfoStates = 0;
 constexpr int kContactStates = 2;
 constexpr int kContactEvents = 4;
 constexpr int kRegistrationStates = 13;
 
-constexpr XmlEnumeration kReginfoState = {kTexts[kReginfoStates], sizeof kTexts[0], IX_REGINFO_STATE_UNSET};
-constexpr XmlEnumeration kContactState = {kTexts[kContactStates], sizeof kTexts[0], IX_CONTACT_STATE_UNSET};
-constexpr XmlEnumeration kContactEvent = {kTexts[kContactEvents], sizeof kTexts[0], IX_CONTACT_EVENT_UNSET};
-constexpr XmlEnumeration kRegistrationState = {kTexts[kRegistrationStates], sizeof kTexts[0],
-                                               IX_REGISTRATION_STATE_UNSET};
+constexpr XmlEnumeration Rows(int first, int count) {
+    return {kTexts[first], sizeof kTexts[0], count};
+}
+constexpr XmlEnumeration kReginfoState = Rows(0, IX_REGINFO_STATE_UNSET);
+constexpr XmlEnumeration kContactState = Rows(kContactStates, IX_CONTACT_STATE_UNSET);
+constexpr XmlEnumeration kContactEvent = Rows(kContactEvents, IX_CONTACT_EVENT_UNSET);
+constexpr XmlEnumeration kRegistrationState = Rows(kRegistrationStates, IX_REGISTRATION_STATE_UNSET);
 
-/// @name Rows that are looked at for a word.
+/// @name Rows that are looked at for a word, where they are not those of the enumeration.
 /// @{
-constexpr int kReginfoStateReach = 2;
 // Required: one row past the states, "registered", and one past the events, "init": a word that is no state or event
 // has a number of its own, which is not written either.
-constexpr int kContactStateReach = 3;
-constexpr int kContactEventReach = 10;
+constexpr XmlEnumeration kContactStateReach = Rows(kContactStates, IX_CONTACT_STATE_UNSET + 1);
+constexpr XmlEnumeration kContactEventReach = Rows(kContactEvents, IX_CONTACT_EVENT_UNSET + 1);
 // Required: the word "terminated" is not looked for, as any other word is taken for it.
-constexpr int kRegistrationStateReach = 2;
+constexpr XmlEnumeration kRegistrationStateReach = Rows(kRegistrationStates, IX_REGISTRATION_STATE_TERMINATED);
 /// @}
-
-/// The first of `count` rows from `first` that `value` begins with; `count` when there is none.
-int RowOf(const char* value, int first, int count) {
-    if (value == nullptr) return count;
-    for (int row = 0; row < count; ++row) {
-        const char* text = kTexts[first + row];
-        const char* at = value;
-        while (*text != '\0' && *text == *at) ++text, ++at;
-        if (*text == '\0') return row;
-    }
-    return count;
-}
 
 constexpr XmlField kUnknownParamFields[] = {
     {XmlFieldKind::Text, IX_STR_IX_NULL, XmlTextMember(&ix_unknown_param::mValue), 0, nullptr, "text"},
@@ -230,7 +218,7 @@ int Fail(const XmlLogText& missing) {
 
 /// Logs that elements of other classes are not written, if there are any.
 void LogAnyElements(const IxSingleElementList* list, const XmlLogText& text) {
-    if (list != nullptr && list->LastNode() != nullptr) ixLog(kSourceFile, text);
+    if (ixNodesOf(list) != nullptr) ixLog(kSourceFile, text);
 }
 
 }  // namespace
@@ -291,9 +279,9 @@ int ix_ns_reginfo_contact::ProcessUnMarshallAttribute(char* attribute, char* val
     if (ixNameIs(attribute, IX_STR_RETRY_AFTER)) return setRetryAfterValue(__atoi64(value));
     if (ixNameIs(attribute, IX_STR_CSEQ)) return setCseqValue(__atoi64(value));
     if (ixNameIs(attribute, IX_STR_STATE)) {
-        mState = RowOf(value, kContactStates, kContactStateReach);
+        mState = kContactStateReach.IndexOfPrefix(value);
     } else if (ixNameIs(attribute, IX_STR_EVENT)) {
-        mEvent = RowOf(value, kContactEvents, kContactEventReach);
+        mEvent = kContactEventReach.IndexOfPrefix(value);
     } else {
         return RefuseAttribute(attribute, kContactTexts);
     }
@@ -333,7 +321,7 @@ int ix_registration::ProcessUnMarshallAttribute(char* attribute, char* value, XM
     if (ixNameIs(attribute, IX_STR_AOR)) return setAorValue(value);
     if (ixNameIs(attribute, IX_STR_ID)) return setIdValue(value);
     if (!ixNameIs(attribute, IX_STR_STATE)) return RefuseAttribute(attribute, kRegistrationTexts);
-    mState = RowOf(value, kRegistrationStates, kRegistrationStateReach);
+    mState = kRegistrationStateReach.IndexOfPrefix(value);
     return 1;
 }
 
@@ -372,7 +360,7 @@ int ix_reginfo::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttr
         return value != nullptr ? setVersionValue(static_cast<unsigned int>(__atoi64(value))) : 1;
     }
     if (!ixNameIs(attribute, IX_STR_STATE)) return RefuseAttribute(attribute, kReginfoTexts);
-    mState = RowOf(value, kReginfoStates, kReginfoStateReach);
+    mState = kReginfoState.IndexOfPrefix(value);
     return 1;
 }
 

@@ -34,7 +34,7 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
-constexpr XmlLogText kCannotAccommodate = {3, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
+constexpr XmlLogText kCannotAccommodate = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 constexpr XmlLogText kAddResourceLists = {2, kSchemaCode, __LINE__, "<XML Module>: AddResource_listsElementToXml"};
 constexpr XmlLogText kListFailed = {2, kSchemaCode, __LINE__,
                                     "<XML Module>: AddResource_listsElementToXml tempNum: %d "};
@@ -238,11 +238,8 @@ int Resource_listsMarshall::AddResource_listsElementToXml(ix_resource_lists* lis
     AddPrefixedAttribute(IX_STR_XMLNS, IX_STR_CP,
                          ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_COPYCONTROL),
                          Attribute::Closing);
-    const IxSingleElementList* const entries = lists->mListList;
-    const bool empty = entries == nullptr || entries->LastNode() == nullptr;
     int index = 0;
-    for (const IxSingleElementNode* node = empty ? nullptr : entries->GetPtrToListHead(); node != nullptr;
-         node = node->next, ++index) {
+    for (const IxSingleElementNode* node = ixNodesOf(lists->mListList); node != nullptr; node = node->next, ++index) {
         // A list that fails is left out, and the next one is written.
         if (AddListElementToXml(static_cast<ix_listType*>(node->key)) == 0) ixLog(kSourceFile, kListFailed, index);
     }
@@ -254,11 +251,9 @@ int Resource_listsMarshall::AddListElementToXml(ix_listType* list) {
     ixLog(kSourceFile, kAddList);
     if (list == nullptr) return 0;
     // Where nothing more can be written, nothing is descended into.
-    if (m_generator.ixGetXmlDoc() == nullptr || m_generator.IsTruncated()) return 1;
+    if (m_generator.Text() == nullptr || m_generator.IsTruncated()) return 1;
     AddStartTag(IX_STR_LIST, IX_STR_NAME, list->mName, *list);
-    const bool empty = list->mChildren == nullptr || list->mChildren->LastNode() == nullptr;
-    for (const IxSingleElementNode* node = empty ? nullptr : list->mChildren->GetPtrToListHead(); node != nullptr;
-         node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(list->mChildren); node != nullptr; node = node->next) {
         AddChild(static_cast<XMLElement*>(node->key));
     }
     EndElement(IX_STR_LIST);
@@ -299,12 +294,14 @@ int Resource_listsMarshall::AddExternalElementToXml(ix_externalType* external) {
 void Resource_listsMarshall::AddStartTag(e_XmlStrRef name, e_XmlStrRef attribute, const char* value,
                                          const ix_listMemberType& member) {
     const IxSingleElementList* const others = member.mAnyAttribute;
-    if (value == nullptr && others == nullptr) {
+    // Required: a list of other attributes is trusted to hold some. An empty one leaves the start tag open.
+    const bool isEmpty = others != nullptr && ixNodesOf(others) == nullptr;
+    const bool hasOthers = isEmpty || LastAttribute(others) != nullptr;
+    if (value == nullptr && !hasOthers) {
         StartElement(name);
     } else {
         StartElementOpen(name);
-        // Required: a list of other attributes is trusted to hold some. An empty one leaves the start tag open.
-        if (value != nullptr) AddAttribute(attribute, value, others != nullptr ? Attribute::Open : Attribute::Closing);
+        if (value != nullptr) AddAttribute(attribute, value, hasOthers ? Attribute::Open : Attribute::Closing);
         AddAttributeList(others, Attribute::Closing);
     }
     if (member.mDisplayName != nullptr) AddTextElement(IX_STR_DISPLAY_NAME, member.mDisplayName->mValue);

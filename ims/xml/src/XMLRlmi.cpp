@@ -1,6 +1,5 @@
 #include "XMLRlmi.h"
 
-#include <algorithm>
 #include <iterator>
 
 #include "Rlmi.h"
@@ -41,14 +40,14 @@ constexpr XmlLogText kAddName = {2, kSchemaCode, __LINE__, "<XML Module>: AddNam
 constexpr XmlLogText kNameFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddNameElementToXml XML Failed!"};
 
 constexpr char kStateTexts[][32] = {"active", "pending", "terminated"};
-constexpr XmlEnumeration kStates = {kStateTexts[0], sizeof kStateTexts[0], eRlmiStateNotSet};
+constexpr XmlEnumeration kStates = {kStateTexts[0], sizeof kStateTexts[0], IX_RLMI_INSTANCE_NOT_SET};
 
 constexpr XmlField kInstanceFields[] = {
     {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_instance::mAnyAttribute), 0, nullptr, "attributes"},
     {XmlFieldKind::Text, IX_STR_REASON, XmlTextMember(&ix_instance::mReason)},
     {XmlFieldKind::Text, IX_STR_CID, XmlTextMember(&ix_instance::mCid)},
     {XmlFieldKind::Text, IX_STR_ID, XmlTextMember(&ix_instance::mId)},
-    {XmlFieldKind::Enumeration, IX_STR_STATE, XmlIntMember(&ix_instance::mState), eRlmiStateNotSet, &kStates},
+    {XmlFieldKind::Enumeration, IX_STR_STATE, XmlIntMember(&ix_instance::mState), IX_RLMI_INSTANCE_NOT_SET, &kStates},
 };
 constexpr XmlFieldTable kInstanceTable = {nullptr, kInstanceFields, std::size(kInstanceFields)};
 
@@ -70,11 +69,6 @@ constexpr XmlField kListFields[] = {
     {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_list::mAnyAttribute), 0, nullptr, "attributes"},
 };
 constexpr XmlFieldTable kListTable = {nullptr, kListFields, std::size(kListFields)};
-
-/// The nearest number that a version can be.
-unsigned int VersionOf(const char* text) {
-    return static_cast<unsigned int>(std::clamp<std::int64_t>(__atoi64(text), 0, UINT_MAX));
-}
 
 }  // namespace
 
@@ -101,11 +95,6 @@ int ix_instance::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAtt
 
 int ix_instance::addAnyAttribute(ix_AttributeValuePair* pair) {
     return pair != nullptr ? ixAppend(mAnyAttribute, pair, kSourceFile, __LINE__) : 0;
-}
-
-int ix_instance::setStateValue(int state) {
-    mState = state;
-    return 1;
 }
 
 ix_resource::~ix_resource() {
@@ -158,7 +147,7 @@ int ix_list::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
 int ix_list::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair != nullptr) return addAnyAttribute(ixAsPair(pair));
     if (ixNameIs(attribute, IX_STR_URI)) return setUriValue(value);
-    if (ixNameIs(attribute, IX_STR_VERSION)) return setVersionValue(VersionOf(value));
+    if (ixNameIs(attribute, IX_STR_VERSION)) return setVersionValue(ixToUnsigned(value));
     if (ixNameIs(attribute, IX_STR_FULLSTATE)) return setFullStateValue(ixNameIs(value, IX_STR_TRUE) ? 1 : 0);
     if (ixNameIs(attribute, IX_STR_CID)) return setCidValue(value);
     return 0;
@@ -170,16 +159,6 @@ int ix_list::addName(ix_name* name) {
 
 int ix_list::addResource(ix_resource* resource) {
     return resource != nullptr ? ixAppend(mResourceList, resource, kSourceFile, __LINE__) : 0;
-}
-
-int ix_list::setVersionValue(unsigned int version) {
-    mVersion = version;
-    return 1;
-}
-
-int ix_list::setFullStateValue(int fullState) {
-    mFullState = fullState;
-    return 1;
 }
 
 int ix_list::addAnyAttribute(ix_AttributeValuePair* pair) {

@@ -24,7 +24,7 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
-constexpr XmlLogText kCannotAccommodate = {3, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
+constexpr XmlLogText kCannotAccommodate = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 constexpr XmlLogText kAddRlsServices = {2, kSchemaCode, __LINE__, "<XML Module>: AddRlsServicesElementToXml"};
 constexpr XmlLogText kServiceFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddServiceElementToXml XML Failed!"};
 constexpr XmlLogText kAddService = {2, kSchemaCode, __LINE__, "<XML Module>: AddServiceElementToXml"};

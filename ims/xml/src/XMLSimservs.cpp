@@ -148,7 +148,7 @@ struct Target {
 
 /// Has every service written by its own schema.
 void WriteEach(const IxSingleElementList& services, Target& target) {
-    for (const IxSingleElementNode* node = ixFirstNode(&services); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(&services); node != nullptr; node = node->next) {
         auto* const element = static_cast<XMLElement*>(node->key);
         const char* const className = element != nullptr ? element->ClassName() : nullptr;
         if (className == nullptr) {

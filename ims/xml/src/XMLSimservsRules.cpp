@@ -211,7 +211,7 @@ int XmlRuleMarshaller::AddRuleSetElementToXml(ix_ns_common_policy_ruleset* eleme
     ixLog(Source(), kAddRuleset);
     if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_RULESET);
-    for (const IxSingleElementNode* node = ixFirstNode(element->mRuleList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(element->mRuleList); node != nullptr; node = node->next) {
         auto* const rule = static_cast<ix_ns_common_policy_ruleType*>(node->key);
         if (rule != nullptr && AddRuleElementToXml(rule) == 0) {
             ixLog(Source(), kRulesetFailed);
@@ -244,19 +244,19 @@ int XmlRuleMarshaller::AddConditionsElementToXml(ix_ns_common_policy_conditionsT
     ixLog(Source(), kAddConditions);
     if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_CONDITIONS);
-    for (const IxSingleElementNode* node = ixFirstNode(element->mIdentityList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(element->mIdentityList); node != nullptr; node = node->next) {
         const auto* const identity = static_cast<const ix_ns_common_policy_identityType*>(node->key);
         if (identity != nullptr && AddIdentityElementToXml(*identity) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = ixFirstNode(element->mSphereList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(element->mSphereList); node != nullptr; node = node->next) {
         const auto* const sphere = static_cast<const ix_ns_common_policy_sphereType*>(node->key);
         if (sphere != nullptr && AddSphereElementToXml(*sphere) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = ixFirstNode(element->mValidityList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(element->mValidityList); node != nullptr; node = node->next) {
         const auto* const validity = static_cast<const ix_ns_common_policy_validityType*>(node->key);
         if (validity != nullptr && AddValidityElementToXml(*validity) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = ixFirstNode(element->mOtherConditionsList); node != nullptr;
+    for (const IxSingleElementNode* node = ixNodesOf(element->mOtherConditionsList); node != nullptr;
          node = node->next) {
         AddFlagOrMedia(static_cast<XMLElement*>(node->key));
     }
@@ -266,11 +266,11 @@ int XmlRuleMarshaller::AddConditionsElementToXml(ix_ns_common_policy_conditionsT
 
 int XmlRuleMarshaller::AddIdentityElementToXml(const ix_ns_common_policy_identityType& element) {
     StartPrefixed(IX_STR_CP, IX_STR_IDENTITY);
-    if (ixFirstNode(element.mOneList) == nullptr && ixFirstNode(element.mManyList) == nullptr) {
+    if (ixNodesOf(element.mOneList) == nullptr && ixNodesOf(element.mManyList) == nullptr) {
         ixLog(Source(), kEmptyIdentity, CountOf(element.mOneList), CountOf(element.mManyList));
         return 0;
     }
-    for (const IxSingleElementNode* node = ixFirstNode(element.mOneList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(element.mOneList); node != nullptr; node = node->next) {
         const auto* const one = static_cast<const ix_ns_common_policy_oneType*>(node->key);
         if (one == nullptr) continue;
         StartElementOpen(IX_STR_ONE);
@@ -289,7 +289,7 @@ int XmlRuleMarshaller::AddIdentityElementToXml(const ix_ns_common_policy_identit
 /// with a list of n exceptions it goes on at the entry n + 1, which skips entries, or goes back and never ends. Senders
 /// and servers have settled on the documents that come out. IMSXML_WALKS_END makes the walk end where it would go back.
 void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
-    const IxSingleElementNode* node = ixFirstNode(list);
+    const IxSingleElementNode* node = ixNodesOf(list);
     int index = 0;
     while (node != nullptr) {
         const auto* const many = static_cast<const ix_ns_common_policy_manyType*>(node->key);
@@ -299,7 +299,7 @@ void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
             // Required: without a domain nothing closes the start tag.
             if (many->mDomain != nullptr) AddOnlyAttribute(IX_STR_DOMAIN, many->mDomain, Attribute::Closing);
             if (many->mExceptList != nullptr) next = 1;
-            for (const IxSingleElementNode* inner = ixFirstNode(many->mExceptList); inner != nullptr;
+            for (const IxSingleElementNode* inner = ixNodesOf(many->mExceptList); inner != nullptr;
                  inner = inner->next) {
                 if (inner->key != nullptr)
                     AddExceptElementToXml(static_cast<ix_ns_common_policy_exceptType*>(inner->key));
@@ -311,7 +311,7 @@ void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
 #ifdef IMSXML_WALKS_END
             return;
 #endif
-            node = ixFirstNode(list);
+            node = ixNodesOf(list);
             index = 0;
         }
         for (; index < next && node != nullptr; ++index) node = node->next;
@@ -332,8 +332,8 @@ int XmlRuleMarshaller::AddSphereElementToXml(const ix_ns_common_policy_sphereTyp
 
 int XmlRuleMarshaller::AddValidityElementToXml(const ix_ns_common_policy_validityType& element) {
     StartPrefixed(IX_STR_CP, IX_STR_VALIDITY);
-    const IxSingleElementNode* from = ixFirstNode(element.mFromList);
-    const IxSingleElementNode* until = ixFirstNode(element.mUntilList);
+    const IxSingleElementNode* from = ixNodesOf(element.mFromList);
+    const IxSingleElementNode* until = ixNodesOf(element.mUntilList);
     if (from == nullptr || CountOf(element.mFromList) != CountOf(element.mUntilList)) {
         ixLog(Source(), kUnevenValidity, CountOf(element.mFromList), CountOf(element.mUntilList));
         return 0;
@@ -366,7 +366,7 @@ int XmlRuleMarshaller::AddActionsElementToXml(ix_ns_common_policy_extensibleType
     ixLog(Source(), m_texts.addActions);
     if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_ACTIONS);
-    for (const IxSingleElementNode* node = ixFirstNode(element->mElementList); node != nullptr; node = node->next) {
+    for (const IxSingleElementNode* node = ixNodesOf(element->mElementList); node != nullptr; node = node->next) {
         auto* const action = static_cast<XMLElement*>(node->key);
         AddFlagOrMedia(action);
         AddAction(action);

@@ -57,18 +57,26 @@ enum Step { kGoOn = 2, kTagDone = 3, kSyntaxError = 4 };
 class ByteSet {
   public:
     constexpr ByteSet(const char* bytes, std::size_t most) : m_has() {
-        for (std::size_t i = 0; i < most && bytes[i] != '\0'; ++i) m_has[static_cast<unsigned char>(bytes[i])] = true;
+        for (std::size_t i = 0; i < most && bytes[i] != '\0'; ++i) m_has[static_cast<unsigned char>(bytes[i])] = kHas;
+        m_has[0] = kNul;
     }
-    bool Has(char byte) const { return m_has[static_cast<unsigned char>(byte)]; }
+    bool Has(char byte) const { return m_has[static_cast<unsigned char>(byte)] == kHas; }
+    /// The first byte of `text` that the set has, or the NUL.
+    char* EndOf(char* text) const {
+        while (m_has[static_cast<unsigned char>(*text)] == 0) ++text;
+        return text;
+    }
 
   private:
-    bool m_has[256];
+    static constexpr unsigned char kHas = 1;
+    static constexpr unsigned char kNul = 2;
+
+    unsigned char m_has[256];
 };
 
 constexpr std::size_t kMostDelimiters = 32;
 constexpr ByteSet kSpaces(" \t\r\n", kMostDelimiters);
-constexpr ByteSet kEquals("=", kMostDelimiters);
-constexpr ByteSet kListStops("\"'=", kMostDelimiters);
+constexpr ByteSet kNameEnds("\"'= \t\r\n", kMostDelimiters);
 
 /// memchr for a byte that is usually near: the first words are looked at here, without a call.
 char* FindByte(char* from, const char* last, char byte) {
@@ -98,18 +106,16 @@ void EndToken(char* end, char** rest) {
 }
 
 char* CutToken(char* text, const ByteSet& delimiters, char** rest) {
-    while (*text != '\0' && delimiters.Has(*text)) ++text;
+    while (delimiters.Has(*text)) ++text;
     if (*text == '\0') {
         *rest = text;
         return nullptr;
     }
-    char* end = text;
-    while (*end != '\0' && !delimiters.Has(*end)) ++end;
-    EndToken(end, rest);
+    EndToken(delimiters.EndOf(text), rest);
     return text;
 }
 
-/// `CutToken` with one delimiter, for texts long enough for a search to be faster than a loop. `end` is the NUL.
+/// `CutToken` with one delimiter. `end` is the NUL of the text.
 char* CutAt(char* text, char delimiter, char* end, char** rest) {
     while (*text == delimiter) ++text;
     if (text == end) {
@@ -299,24 +305,24 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
 int XmlDecoder::DecodeSelfClosingTag(char* content, char* end) {
     end[-1] = '\0';
     m_iSelfClosing = 1;
-    char* name = nullptr;
-    if (SplitAttributes(content, static_cast<std::size_t>(end - 1 - content), &name) != IX_XML_ERROR) return kTagDone;
+    TagName name;
+    if (SplitAttributes(content, end - 1, &name) != IX_XML_ERROR) return kTagDone;
     ixLog(kSourceFile, kSelfClosingFailed);
     return kSyntaxError;
 }
 
 int XmlDecoder::DecodeStartTag(char* content, char* end) {
-    char* name = nullptr;
-    const int result = SplitAttributes(content, static_cast<std::size_t>(end - content), &name);
+    TagName name;
+    const int result = SplitAttributes(content, end, &name);
     if (result == IX_XML_ERROR) {
         ixLog(kSourceFile, kStartTagFailed);
         return kSyntaxError;
     }
     if (m_pSchemaDecoder != nullptr) {
-        if (result == 1) m_pSchemaDecoder->ProcessElement(name, nullptr);
-        m_pSchemaDecoder->ProcessEndOfStartTag(name);
+        if (result == 1) m_pSchemaDecoder->ProcessElement(name.text, nullptr);
+        m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
     }
-    if (!PushName(name, __strlen(name))) {
+    if (!PushName(name.text, name.length)) {
         ixLog(kSourceFile, kPushFailed);
         return kSyntaxError;
     }
@@ -334,36 +340,36 @@ int XmlDecoder::DecodeAttributes(char* tagContent) {
         ixLog(kSourceFile, kNoTagContent);
         return IX_XML_ERROR;
     }
-    char* name = nullptr;
-    return SplitAttributes(tagContent, __strlen(tagContent), &name);
+    TagName name;
+    return SplitAttributes(tagContent, tagContent + __strlen(tagContent), &name);
 }
 
-/// DecodeAttributes for a tag of known length; also yields the element's name.
-int XmlDecoder::SplitAttributes(char* content, std::size_t length, char** name) {
+/// DecodeAttributes for a tag whose NUL stands at `end`; also yields the element's name.
+int XmlDecoder::SplitAttributes(char* content, char* end, TagName* name) {
     // Unescaping works on a copy of a value. Its memory is taken before the first event of the tag.
-    if (!m_unescapeCopy.Reserve(length + 1)) {
+    if (!m_unescapeCopy.Reserve(static_cast<std::size_t>(end - content) + 1)) {
         ixLog(kSourceFile, kNoMemoryForTag);
         return IX_XML_ERROR;
     }
     char* rest = nullptr;
-    *name = CutToken(content, kSpaces, &rest);
-    if (*name == nullptr) {
+    name->text = CutToken(content, kSpaces, &rest);
+    if (name->text == nullptr) {
         m_DecodeState = IX_XML_PARSE_ERROR;
         return IX_XML_ERROR;
     }
-    char* const end = content + length;
+    // The delimiter behind the name is a NUL by now, if there was one.
+    name->length = static_cast<std::size_t>((rest[-1] == '\0' ? rest - 1 : rest) - name->text);
     const char* token = rest;
     while (*token == '=') ++token;
     if ((*token != '\0' || m_iSelfClosing == 1) && m_pSchemaDecoder != nullptr) {
-        m_pSchemaDecoder->ProcessElement(*name, nullptr);
+        m_pSchemaDecoder->ProcessElement(name->text, nullptr);
     }
-    const auto restSize = static_cast<std::size_t>(end - rest) + 1;
-    if (!m_attributeList.Reserve(restSize)) {
+    // Required: memory for a copy of the list is taken here, and its failure told, although the check needs no copy.
+    if (!m_attributeList.Reserve(static_cast<std::size_t>(end - rest) + 1)) {
         ixLog(kSourceFile, kNoMemoryForList);
         return IX_XML_ERROR;
     }
-    std::memcpy(m_attributeList.Text(), rest, restSize);
-    const int valid = ValidateList(m_attributeList.Text(), m_attributeList.Text() + restSize - 1);
+    const int valid = ValidateList(rest, end);
     ixLog(kSourceFile, kValidated, valid);
     if (valid != 0) {
         ixLog(kSourceFile, kListInvalid);
@@ -372,11 +378,11 @@ int XmlDecoder::SplitAttributes(char* content, std::size_t length, char** name) 
     return m_pSchemaDecoder != nullptr ? ReportAttributes(*name, rest, end) : 0;
 }
 
-int XmlDecoder::ReportAttributes(char* name, char* rest, char* end) {
+int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end) {
     int result = 0;
-    const bool hasEntities = std::memchr(rest, '&', static_cast<std::size_t>(end - rest)) != nullptr;
+    const bool hasEntities = rest != end && std::memchr(rest, '&', static_cast<std::size_t>(end - rest)) != nullptr;
     do {
-        char* attribute = CutToken(rest, kEquals, &rest);
+        char* attribute = CutAt(rest, '=', end, &rest);
         if (attribute == nullptr) {
             result = 1;
             break;
@@ -395,15 +401,15 @@ int XmlDecoder::ReportAttributes(char* name, char* rest, char* end) {
             if (value == nullptr) value = end;
         }
         if (hasEntities) UnescapeXml(value);
-        m_pSchemaDecoder->ProcessAttribute(name, attribute, value);
+        m_pSchemaDecoder->ProcessAttribute(name.text, attribute, value);
     } while (*rest != '\0');
     return m_iSelfClosing == 1 ? ReportSelfClosingEnd(name, rest) : result;
 }
 
-int XmlDecoder::ReportSelfClosingEnd(char* name, char* rest) {
-    m_pSchemaDecoder->ProcessEndOfStartTag(name);
+int XmlDecoder::ReportSelfClosingEnd(const TagName& name, char* rest) {
+    m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
     int result = 0;
-    if (!ReportEnd(name, __strlen(name), rest, kNoMemoryForSelfEnd, &result)) return IX_XML_ERROR;
+    if (!ReportEnd(name.text, name.length, rest, kNoMemoryForSelfEnd, &result)) return IX_XML_ERROR;
     m_iSelfClosing = 0;
     return 0;
 }
@@ -426,31 +432,20 @@ int XmlDecoder::ValidateAttributeList(char* list) {
     return list != nullptr ? ValidateList(list, list + __strlen(list)) : -1;
 }
 
-/// ValidateAttributeList for a list whose NUL stands at `end`.
+/// ValidateAttributeList for a list whose NUL stands at `end`: names, which may be empty, each with "=" and a quoted
+/// value behind it, and white space between all of these.
 int XmlDecoder::ValidateList(char* text, const char* end) {
-    bool pending = false;
-    for (;;) {
-        char* stop = text;
-        while (*stop != '\0' && !kListStops.Has(*stop)) ++stop;
-        if (*stop == '\0') break;
-        const char kind = *stop;
-        *stop++ = '\0';
-        if (kind == '=') {
-            // A name: no white space within.
-            char* name = XmlCommon::SkipSpaces(text);
-            while (*name != '\0' && !XmlCommon::IsSpace(*name)) ++name;
-            if (pending || *XmlCommon::SkipSpaces(name) != '\0') return -1;
-            pending = true;
-            text = stop;
-            continue;
-        }
-        // A value: the quote comes right after "=" and white space, and the next quote of its kind ends it.
-        char* const close = FindByte(stop, end, kind);
-        if (!pending || *XmlCommon::SkipSpaces(text) != '\0' || close == nullptr) return -1;
-        pending = false;
+    for (text = XmlCommon::SkipSpaces(text); text != end; text = XmlCommon::SkipSpaces(text)) {
+        text = XmlCommon::SkipSpaces(kNameEnds.EndOf(text));
+        if (*text != '=') return -1;
+        text = XmlCommon::SkipSpaces(text + 1);
+        const char quote = *text;
+        if (quote != '"' && quote != '\'') return -1;
+        char* const close = FindByte(text + 1, end, quote);
+        if (close == nullptr) return -1;
         text = close + 1;
     }
-    return pending || *XmlCommon::SkipSpaces(text) != '\0' ? -1 : 0;
+    return 0;
 }
 
 unsigned int XmlDecoder::PushElement(const char* name) {

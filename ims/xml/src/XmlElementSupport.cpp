@@ -3,11 +3,6 @@
 #include <climits>
 #include <cstring>
 
-bool ixIsClass(const XMLElement* element, const char* className) {
-    const char* const own = element != nullptr ? element->ClassName() : nullptr;
-    return own != nullptr && std::strcmp(own, className) == 0;
-}
-
 ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute) {
     const char* const own = attribute != nullptr ? attribute->ClassName() : nullptr;
     if (own == nullptr || std::strcmp(own, "ix_AttributeValuePair") != 0) return nullptr;
@@ -57,8 +52,15 @@ int ixSetTextList(IxSingleElementList*& field, IxSingleElementList* list) {
 }
 
 int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line) {
-    if (list == nullptr) list = IX_TRACKED_NEW(kSchemaModule, source, line, IxSingleElementList, ());
-    return list != nullptr && list->Add(entry) != 0 ? 1 : 0;
+    if (list != nullptr) return list->Add(entry) != 0 ? 1 : 0;
+    // A list without an entry is something else than no list: some writers tell them apart.
+    IxSingleElementList* created = IX_TRACKED_NEW(kSchemaModule, source, line, IxSingleElementList, ());
+    if (created != nullptr && created->Add(entry) != 0) {
+        list = created;
+        return 1;
+    }
+    IX_DELETE(created);
+    return 0;
 }
 
 int ixAppendText(IxSingleElementList*& list, const char* text, std::size_t length, const char* source, int line) {

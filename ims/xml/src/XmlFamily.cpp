@@ -23,20 +23,45 @@ void BuildNamespaces(XmlNamespaceTable& table, const XmlNamespaceRow* rows, std:
     if (built < count) ixLog(source, built == 0 ? noFirst : noLater);
 }
 
+/// The rows of a decoder and those that it shares, as one table. NULL: behind its end.
+const XmlContainerRow* ContainerAt(const XmlDecoderInfo& decoder, std::size_t row) {
+    const XmlDecoderInfo* info = &decoder;
+    for (; info != nullptr && row >= info->containerCount; info = info->shared) row -= info->containerCount;
+    return info != nullptr ? &info->containers[row] : nullptr;
+}
+
+const XmlAttributeRow* AttributeAt(const XmlDecoderInfo& decoder, std::size_t row) {
+    const XmlDecoderInfo* info = &decoder;
+    for (; info != nullptr && row >= info->attributeCount; info = info->shared) row -= info->attributeCount;
+    return info != nullptr ? &info->attributes[row] : nullptr;
+}
+
 }  // namespace
 
-bool XmlKnownName::Matches(const char* name) const {
-    if (use != None) {
-        const char* const expected = ix_xml_common_array_definition::getStringName(prefix);
-        const std::size_t length = std::strlen(expected);
-        const bool prefixed = std::strncmp(name, expected, length) == 0 && name[length] == ':';
-        if (!prefixed && use == Required) return false;
-        if (prefixed) name += length + 1;
-    }
-    return ixNameIs(name, Local());
+/// `name` without the prefix, when it has it, and NULL when it must have it and has not.
+char* XmlKnownName::BehindPrefix(char* name) const {
+    const char* const expected = ix_xml_common_array_definition::getStringName(prefix);
+    const std::size_t length = std::strlen(expected);
+    if (std::strncmp(name, expected, length) == 0 && name[length] == ':') return name + length + 1;
+    return use == Required ? nullptr : name;
+}
+
+void XmlRowIndex::Add(std::size_t row, const XmlKnownName& name, unsigned other) {
+    if (row >= kBits) return;
+    if (name.use != XmlKnownName::Required) Add(row, Key(name.Local()) + other);
+    if (name.use == XmlKnownName::None) return;
+    const char* const prefix = ix_xml_common_array_definition::getStringName(name.prefix);
+    Add(row, Key(prefix[0], prefix[1] != '\0' ? prefix[1] : ':') + other);
 }
 
 XmlFamilyDecoder::XmlFamilyDecoder(const XmlDecoderInfo& info) : m_info(info) {
+    const XmlContainerRow* container = nullptr;
+    for (std::size_t i = 0; (container = ContainerAt(info, i)) != nullptr; ++i) m_containers.Add(i, container->name);
+    const XmlAttributeRow* attribute = nullptr;
+    for (std::size_t i = 0; (attribute = AttributeAt(info, i)) != nullptr; ++i) {
+        m_attributes.Add(i, attribute->element,
+                         XmlRowIndex::Key(ix_xml_common_array_definition::getStringName(attribute->attribute)));
+    }
     BuildNamespaces(m_namespaces, info.namespaces, info.namespaceCount, info.source, info.texts.noFirstNamespace,
                     info.texts.noNamespace);
 }
@@ -53,6 +78,7 @@ int XmlFamilyDecoder::SetNameSpaceBinderInfo(XMLObject* binder) {
 
 int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
     m_pMappedTag = nullptr;
+    m_pStarted = nullptr;
     if (tag == nullptr) return 0;
     const bool isEnd = *tag == '/';
     const std::size_t length = std::strlen(tag);
@@ -85,6 +111,7 @@ int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
 
 int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
     m_pPassName = nullptr;
+    m_pStarted = nullptr;
     if (tag == nullptr) {
         ixLog(m_info.source, m_info.texts.removeTagNoTag);
         return 0;
@@ -123,6 +150,12 @@ char* XmlFamilyDecoder::ComparedName(char* element) {
     }
 }
 
+/// `ComparedName` for the attributes of a start tag. They come with the very name that the start tag came with, so what
+/// that was compared as is at hand.
+char* XmlFamilyDecoder::NameOfAttributes(char* element) {
+    return element == m_pStarted ? m_pStartedName : ComparedName(element);
+}
+
 int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
     if (element == nullptr) {
         ixLog(m_info.source, m_info.texts.noElement);
@@ -138,7 +171,10 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
         return -1;
     }
     m_pOwn = nullptr;
-    return *name == '/' ? EndElement(name, text) : StartElement(name);
+    const bool isEnd = *name == '/';
+    m_pStarted = isEnd ? nullptr : element;
+    m_pStartedName = name;
+    return isEnd ? EndElement(name, text) : StartElement(name);
 }
 
 int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* value) {
@@ -148,7 +184,7 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     }
     // White space at the end of a tag arrives as an attribute without a name.
     if (*attribute == '\0') return 0;
-    const char* const name = ComparedName(element);
+    char* const name = NameOfAttributes(element);
     if (name == nullptr) {
         ixLog(m_info.source, m_info.texts.noAttributeName);
         return -1;
@@ -176,32 +212,32 @@ int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) {
     return 0;
 }
 
-/// The row of a start tag.
-const XmlContainerRow* XmlFamilyDecoder::FindContainer(const char* name) const {
-    for (const XmlDecoderInfo* info = &m_info; info != nullptr; info = info->shared) {
-        for (std::size_t i = 0; i < info->containerCount; ++i) {
-            const XmlContainerRow& row = info->containers[i];
-            if (!row.name.Matches(name)) continue;
-            if (row.parentClass == nullptr || (!m_stack.empty() && ixIsClass(Top(), row.parentClass))) return &row;
-        }
+/// The row of a start tag. @param local out: the local part of its name.
+const XmlContainerRow* XmlFamilyDecoder::FindContainer(char* name, char** local) const {
+    const unsigned key = XmlRowIndex::Key(name);
+    const XmlContainerRow* row = nullptr;
+    for (std::size_t i = 0; (row = ContainerAt(m_info, i = m_containers.Next(key, i))) != nullptr; ++i) {
+        *local = row->name.LocalPartOf(name);
+        if (*local == nullptr) continue;
+        if (row->parentClass == nullptr || (!m_stack.empty() && ixIsClass(Top(), row->parentClass))) return row;
     }
     return nullptr;
 }
 
-const XmlAttributeRow* XmlFamilyDecoder::FindAttribute(const char* element, const char* attribute,
+const XmlAttributeRow* XmlFamilyDecoder::FindAttribute(char* element, const char* attribute,
                                                        const XMLElement* receiver) const {
-    for (const XmlDecoderInfo* info = &m_info; info != nullptr; info = info->shared) {
-        for (std::size_t i = 0; i < info->attributeCount; ++i) {
-            const XmlAttributeRow& row = info->attributes[i];
-            if (!ixNameIs(attribute, row.attribute) || !row.element.Matches(element)) continue;
-            if (row.className == nullptr || ixIsClass(receiver, row.className)) return &row;
-        }
+    const unsigned key = XmlRowIndex::Key(element) + XmlRowIndex::Key(attribute);
+    const XmlAttributeRow* row = nullptr;
+    for (std::size_t i = 0; (row = AttributeAt(m_info, i = m_attributes.Next(key, i))) != nullptr; ++i) {
+        if (!ixNameIs(attribute, row->attribute) || !row->element.Matches(element)) continue;
+        if (row->className == nullptr || ixIsClass(receiver, row->className)) return row;
     }
     return nullptr;
 }
 
 int XmlFamilyDecoder::StartElement(char* name) {
-    const XmlContainerRow* const row = FindContainer(name);
+    char* local = nullptr;
+    const XmlContainerRow* const row = FindContainer(name, &local);
     if (row == nullptr) return OtherElement(name, nullptr);
     const bool isRoot = row->role == XmlContainerRow::Root;
     // Where a part of a document may be the result, a root inside another one is a part like any other.
@@ -212,7 +248,7 @@ int XmlFamilyDecoder::StartElement(char* name) {
         ixLog(m_info.source, m_info.texts.noObject, name);
         return 0;
     }
-    if (isResult ? !SetSessionData(object) : !OfferToTop(*row, object)) return 0;
+    if (isResult ? !SetSessionData(object) : !Offer(*Top(), local, object)) return 0;
     if (row->role == XmlContainerRow::Leaf && !isResult) return 0;
     Push(object);
     m_bOwnIsRoot = isRoot;
@@ -222,14 +258,13 @@ int XmlFamilyDecoder::StartElement(char* name) {
 int XmlFamilyDecoder::EndElement(char* name, char* text) {
     bool isContainer = false;
     bool offered = false;
-    for (const XmlDecoderInfo* info = &m_info; info != nullptr; info = info->shared) {
-        for (std::size_t i = 0; i < info->containerCount; ++i) {
-            const XmlContainerRow& row = info->containers[i];
-            if (!row.name.Matches(name + 1)) continue;
-            isContainer = true;
-            // Where a name stands for objects of several classes, the class on top says which one ends.
-            if (EndContainer(row, name, text, offered)) return 0;
-        }
+    const unsigned key = XmlRowIndex::Key(name + 1);
+    const XmlContainerRow* row = nullptr;
+    for (std::size_t i = 0; (row = ContainerAt(m_info, i = m_containers.Next(key, i))) != nullptr; ++i) {
+        if (!row->name.Matches(name + 1)) continue;
+        isContainer = true;
+        // Where a name stands for objects of several classes, the class on top says which one ends.
+        if (EndContainer(*row, name, text, offered)) return 0;
     }
     return isContainer ? 0 : OtherElement(name, text);
 }
@@ -283,13 +318,6 @@ bool XmlFamilyDecoder::SetSessionData(XMLElement* root) {
     }
     m_pSessionData = root;
     return true;
-}
-
-/// Offers a new object to the one on top, under its local name. @return true when it was taken.
-bool XmlFamilyDecoder::OfferToTop(const XmlContainerRow& row, XMLElement* object) {
-    char local[sizeof ix_xml_common_array_definition::arrXmlStrRef[0]];
-    __strlcpy(local, row.name.Local(), sizeof local);
-    return Offer(*Top(), local, object);
 }
 
 bool XmlFamilyDecoder::Offer(XMLElement& receiver, char* name, XMLElement* object) {
@@ -424,12 +452,15 @@ int XmlFamilyMarshaller::AddRootElementToXml(XMLElement* root) {
 
 /// Copies the generator's text. Without a declaration, the line feed in front of the root element is left out.
 int XmlFamilyMarshaller::KeepGeneratedText() {
-    const char* text = m_generator.ixGetXmlDoc();
+    const char* text = m_generator.Text();
     if (text == nullptr) return 0;
-    if (!m_info.writesDeclaration && *text != '\0') ++text;
-    m_pXml = __strdup(text);
+    const std::size_t left = !m_info.writesDeclaration && *text != '\0' ? 1 : 0;
+    const std::size_t size = m_generator.Length() + 1 - left;
     m_bTruncated = m_generator.IsTruncated();
-    return m_pXml != nullptr ? 1 : 0;
+    m_pXml = static_cast<char*>(__malloc(size));
+    if (m_pXml == nullptr) return 0;
+    std::memcpy(m_pXml, text + left, size);
+    return 1;
 }
 
 void XmlFamilyMarshaller::StartElement(e_XmlStrRef name) {

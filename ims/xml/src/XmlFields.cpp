@@ -27,14 +27,14 @@ bool EntriesEqual(XmlFieldKind kind, const void* left, const void* right) {
     }
 }
 
-/// The nodes, without the log line that GetPtrToListHead writes for an empty list.
-const IxSingleElementNode* NodesOf(const IxSingleElementList* list) {
-    return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+bool EndsWith(const IxSingleElementList* list, const void* key) {
+    const IxSingleElementNode* const last = list != nullptr ? list->LastNode() : nullptr;
+    return last != nullptr && last->key == key;
 }
 
 bool ListsEqual(XmlFieldKind kind, const IxSingleElementList* left, const IxSingleElementList* right) {
-    const IxSingleElementNode* one = NodesOf(left);
-    const IxSingleElementNode* other = NodesOf(right);
+    const IxSingleElementNode* one = ixNodesOf(left);
+    const IxSingleElementNode* other = ixNodesOf(right);
     while (one != nullptr && other != nullptr) {
         if (!EntriesEqual(kind, one->key, other->key)) return false;
         one = one->next;
@@ -106,7 +106,10 @@ bool XmlFields::IsSet(const XMLElement& element, const XmlField& field) {
         case XmlFieldKind::ChildList:
         case XmlFieldKind::TextList:
         case XmlFieldKind::AttributeList:
-            return NodesOf(List(element, field)) != nullptr;
+            return ixNodesOf(List(element, field)) != nullptr;
+        case XmlFieldKind::Enumeration:
+            return Number(element, field) != field.notSet &&
+                   field.enumeration->TextOf(Number(element, field)) != nullptr;
         default:
             return Number(element, field) != field.notSet;
     }
@@ -141,27 +144,27 @@ void XmlFields::Release(XMLElement* element, const XmlFieldTable& table) {
 }
 
 bool XmlFields::HoldsChild(const XMLElement& element, const XMLElement* child) {
-    if (element.FieldTable() == nullptr) return true;
-    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+    const XmlFieldTable* table = element.FieldTable();
+    if (table == nullptr) return true;
+    for (; table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& field = table->fields[i];
-            if (Child(element, field) == child) return true;
-            const IxSingleElementList* const list =
-                field.kind == XmlFieldKind::ChildList ? List(element, field) : nullptr;
-            if (list != nullptr && list->LastNode() != nullptr && list->LastNode()->key == child) return true;
+            if (field.kind == XmlFieldKind::ChildList ? EndsWith(element.*field.member.list, child)
+                                                      : Child(element, field) == child) {
+                return true;
+            }
         }
     }
     return false;
 }
 
 bool XmlFields::HoldsAttribute(const XMLElement& element, const XMLAttribute* pair) {
-    if (element.FieldTable() == nullptr) return true;
-    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+    const XmlFieldTable* table = element.FieldTable();
+    if (table == nullptr) return true;
+    for (; table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& field = table->fields[i];
-            const IxSingleElementList* const list =
-                field.kind == XmlFieldKind::AttributeList ? List(element, field) : nullptr;
-            if (list != nullptr && list->LastNode() != nullptr && list->LastNode()->key == pair) return true;
+            if (field.kind == XmlFieldKind::AttributeList && EndsWith(element.*field.member.list, pair)) return true;
         }
     }
     return false;

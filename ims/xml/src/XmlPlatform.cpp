@@ -15,8 +15,3 @@ void XmlHeapObject::operator delete(void* object) noexcept {
 void XmlHeapObject::operator delete(void* object, const std::nothrow_t&) noexcept {
     __free(object);
 }
-
-void* ixTrack(int module, const char* source, int line, void* object, std::size_t size) {
-    if (object != nullptr) trmemlog_add(module, source, line, object, size);
-    return object;
-}

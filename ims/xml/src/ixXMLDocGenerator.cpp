@@ -13,6 +13,24 @@ constexpr std::size_t kQuoteLength = sizeof kQuote - 1;
 
 }  // namespace
 
+/// Appends what fits. The length is kept, so that the cost of a piece does not depend on how full the buffer is.
+inline void IxXMLDocGenerator::Append(const char* text, std::size_t length) {
+    const std::size_t room = kCapacity - 1 - m_length;
+    if (length > room) {
+        m_bTruncated = true;
+        std::memcpy(m_pBuffer + m_length, text, room);
+        m_length += room;
+    } else {
+        std::memcpy(m_pBuffer + m_length, text, length);
+        m_length += length;
+    }
+    m_pBuffer[m_length] = '\0';
+}
+
+inline void IxXMLDocGenerator::Append(const char* text) {
+    Append(text, std::strlen(text));
+}
+
 IxXMLDocGenerator::~IxXMLDocGenerator() {
     ixDeInitXmlDoc();
 }
@@ -24,12 +42,14 @@ void IxXMLDocGenerator::ClearFields() {
     m_pDefaultPrefix = nullptr;
     m_length = 0;
     m_bTruncated = false;
+    m_bZeroFilled = false;
 }
 
 void IxXMLDocGenerator::ixInitXmlDoc() {
     if (m_iInitialised != 0) return;
     ClearFields();
-    m_pBuffer = static_cast<char*>(__calloc(kCapacity, 1));
+    m_pBuffer = static_cast<char*>(__malloc(kCapacity));
+    if (m_pBuffer != nullptr) *m_pBuffer = '\0';
     m_iInitialised = 1;
 }
 
@@ -47,6 +67,7 @@ void IxXMLDocGenerator::ixResetHeader() {
     __memset(m_pBuffer, 0, kCapacity);
     // Required: the prefix is forgotten, not freed, by a reset.
     ClearFields();
+    m_bZeroFilled = true;
 }
 
 void IxXMLDocGenerator::ixAddHeader(const char* version, const char* encoding) {
@@ -174,6 +195,15 @@ void IxXMLDocGenerator::ixEndXmlElementNs(const char* name, const char* prefix) 
     m_iStartTagOpen = 0;
 }
 
+char* IxXMLDocGenerator::ixGetXmlDoc() const {
+    // Zeros behind the text are for those who are handed the buffer; it takes less time to write a document than them.
+    if (m_pBuffer != nullptr && !m_bZeroFilled) {
+        __memset(m_pBuffer + m_length, 0, kCapacity - m_length);
+        m_bZeroFilled = true;
+    }
+    return m_pBuffer;
+}
+
 void IxXMLDocGenerator::CutBack(const Place& place) {
     if (m_pBuffer == nullptr || place.length > m_length) return;
     m_length = place.length;
@@ -204,18 +234,6 @@ char* IxXMLDocGenerator::escapeString(const char* value) const {
     return escaped;
 }
 
-/// Appends what fits. The length is kept, so that the cost of a piece does not depend on how full the buffer is.
-void IxXMLDocGenerator::Append(const char* text, std::size_t length) {
-    const std::size_t room = kCapacity - 1 - m_length;
-    if (length > room) {
-        length = room;
-        m_bTruncated = true;
-    }
-    std::memcpy(m_pBuffer + m_length, text, length);
-    m_length += length;
-    m_pBuffer[m_length] = '\0';
-}
-
 void IxXMLDocGenerator::AppendPrefixed(const char* prefix, const char* name) {
     if (prefix != nullptr) {
         Append(prefix);
@@ -226,12 +244,13 @@ void IxXMLDocGenerator::AppendPrefixed(const char* prefix, const char* name) {
 
 void IxXMLDocGenerator::AppendValue(const char* value) {
     Append("=\"", 2);
-    if (value != nullptr && __strchr(value, '"') != nullptr) {
+    const std::size_t length = __strlen(value);
+    if (length != 0 && std::memchr(value, '"', length) != nullptr) {
         char* const escaped = escapeString(value);
         if (escaped != nullptr) Append(escaped);
         __free(escaped);
-    } else if (value != nullptr) {
-        Append(value);
+    } else if (length != 0) {
+        Append(value, length);
     }
     Append("\"", 1);
 }
