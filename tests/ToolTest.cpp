@@ -215,13 +215,34 @@ TEST_F(ToolTest, ConvertTellsWhyADocumentCannotBeWritten) {
     EXPECT_EQ(result.status, 3);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors,
-              "empty: schema gruu cannot write the document: "
-              "<XML Module>: AddPubGruuElementToXml: Uri is a mandatory attribute\n");
+              "empty: schema gruu cannot write the document: AddPubGruuElementToXml: Uri is a mandatory attribute\n");
     Write("volte", "<volte-config-info/>");
     const Result readOnly = Run("convert volte gruu");
     EXPECT_EQ(readOnly.status, 3);
     EXPECT_EQ(readOnly.errors, "volte: documents of schema volte-config-info are only read\n");
-    EXPECT_EQ(Run("convert --schema namespaces gruu").status, 3);
+    EXPECT_EQ(Run("convert --schema namespaces gruu").errors, "gruu: documents of schema namespaces are only read\n");
+    // The cause is told rather than the steps that fail because of it, and those rather than nothing.
+    const struct {
+        const char* text;
+        const char* reason;
+    } cases[] = {
+        {"<reginfo version='1'/>",
+         "schema reginfo cannot write the document: AddReginfoElementToXml state is required"},
+        {"<conference-info entity='a'><users><user entity='b'><endpoint><media/></endpoint></user></users>"
+         "</conference-info>",
+         "schema conference-info cannot write the document: AddMediaElementToXml: id attribute mandatory"},
+        {"<presence entity='a'><tuple/></presence>",
+         "schema presence cannot write the document: PresenceMarshaller XML Failed at AddTupleElementToXml!"},
+        {"<isComposing/>", "schema is-composing cannot write the document: the library does not say why"},
+        {"<cp:rule/>",
+         "schema communication-diversion cannot write the document: AddRuleElementToXml Rule ID mandatory"},
+    };
+    for (const auto& c : cases) {
+        Write("bad", c.text);
+        const Result unwritten = Run("convert bad");
+        EXPECT_EQ(unwritten.status, 3) << c.text;
+        EXPECT_EQ(unwritten.errors, "bad: " + std::string(c.reason) + '\n');
+    }
 }
 
 TEST_F(ToolTest, NamespacesPrintsDeclarations) {
@@ -231,6 +252,8 @@ TEST_F(ToolTest, NamespacesPrintsDeclarations) {
               "many\t(default)\turn:d\nmany\tp\turn:p\ngruu\tgr\turn:ietf:params:xml:ns:gruuinfo\n");
     Write("none", "<a/>");
     EXPECT_EQ(Run("namespaces none").output, "");
+    Write("lines", "<a xmlns:p\n = 'u\nx\ty'/>");
+    EXPECT_EQ(Run("namespaces lines").output, "p\tu x y\n");
 }
 
 TEST_F(ToolTest, SchemasPrintsEverySchema) {
@@ -278,6 +301,28 @@ TEST_F(ToolTest, TheWorstStatusCountsAndEveryFileIsTried) {
               ".: Is a directory\nbad:1:11: <pub-gruu> opened at 1:1 is never closed\n");
 }
 
+TEST_F(ToolTest, FilesThatCannotBeRead) {
+    ASSERT_EQ(symlink("loop", (m_folder + "/loop").c_str()), 0);
+    // Memory at 0, which nobody can read, not even root.
+    const std::pair<const char*, const char*> cases[] = {{"missing", "No such file or directory"},
+                                                         {"gruu/below", "Not a directory"},
+                                                         {".", "Is a directory"},
+                                                         {"loop", "Too many levels of symbolic links"},
+                                                         {"/proc/self/mem", "Input/output error"}};
+    for (const auto& [name, message] : cases) {
+        for (const char* command : {"decode ", "convert ", "namespaces "}) {
+            const Result result = Run(command + std::string(name));
+            EXPECT_EQ(result.status, 2) << name;
+            EXPECT_EQ(result.output, "");
+            EXPECT_EQ(result.errors, std::string(name) + ": " + message + '\n');
+        }
+    }
+    if (geteuid() == 0) return;
+    Write("closed", kGruu);
+    ASSERT_EQ(chmod((m_folder + "/closed").c_str(), 0), 0);
+    EXPECT_EQ(Run("decode closed").errors, "closed: Permission denied\n");
+}
+
 TEST_F(ToolTest, TheTimeLimitEndsAFile) {
     // Nobody ever writes to it.
     ASSERT_EQ(mkfifo((m_folder + "/pipe").c_str(), 0600), 0);
@@ -285,14 +330,33 @@ TEST_F(ToolTest, TheTimeLimitEndsAFile) {
     EXPECT_EQ(result.status, 4);
     EXPECT_EQ(result.output, kGruuLine);
     EXPECT_EQ(result.errors,
-              "pipe: no result after 0.5 s: the document makes the decoder run without end, or it needs a longer "
-              "--timeout\n");
+              "pipe: no result after 0.5 s: the file did not come to its end; it may need a longer --timeout\n");
     EXPECT_EQ(Run("decode --timeout 0 gruu").status, 0);
+}
+
+TEST_F(ToolTest, TheTimeLimitEndsTheWalksWithoutEnd) {
+    Write("service", "<simservs><vendor service=\"communication-waiting\"></vendor></simservs>");
+    const Result decoded = Run("decode --timeout 1 service gruu");
+    EXPECT_EQ(decoded.status, 4);
+    EXPECT_EQ(decoded.output, kGruuLine);
+    EXPECT_EQ(decoded.errors,
+              "service: no result after 1 s: the document makes the decoder run without end, or it needs a longer "
+              "--timeout\n");
+    Write("rule",
+          "<incoming-communication-barring><cp:ruleset><cp:rule id='a'><cp:conditions><cp:identity><cp:many/><cp:many/>"
+          "<cp:many><cp:except id='b'/></cp:many></cp:identity></cp:conditions></cp:rule></cp:ruleset>"
+          "</incoming-communication-barring>");
+    EXPECT_EQ(Run("decode rule").status, 0);
+    const Result converted = Run("convert --timeout 1 rule");
+    EXPECT_EQ(converted.status, 4);
+    EXPECT_EQ(converted.output, "");
+    EXPECT_EQ(converted.errors,
+              "rule: no result after 1 s: decoded, but writing it runs without end, or it needs a longer --timeout\n");
 }
 
 TEST_F(ToolTest, WrongUsage) {
     for (const char* arguments : {"", "decode", "encode gruu", "decode --format yaml gruu", "decode --color maybe gruu",
-                                  "decode --timeout x gruu", "decode --schema gru gruu"}) {
+                                  "decode --timeout x gruu", "decode --schema gru gruu", "decode gruu ''"}) {
         const Result result = Run(arguments);
         EXPECT_EQ(result.status, 2) << arguments;
         EXPECT_EQ(result.output, "") << arguments;
@@ -300,6 +364,9 @@ TEST_F(ToolTest, WrongUsage) {
         EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << arguments;
     }
     EXPECT_EQ(Run("decode --schema gru gruu").errors, "imsxml: no schema has the name \"gru\"; the nearest: gruu\n");
+    EXPECT_EQ(Run("encode gruu").errors, "imsxml: \"encode\" is no command; see imsxml --help\n");
+    EXPECT_EQ(Run("convert --format tree gruu").errors,
+              "imsxml: The following argument was not expected: --format; see imsxml convert --help\n");
 }
 
 TEST_F(ToolTest, HelpAndVersion) {
@@ -356,9 +423,75 @@ TEST_F(ToolTest, EachFaultHasItsMessageAndPlace) {
         {"hello > world", " no element found; this is no XML document"},
         {"", " the file is empty"},
         {"<a/>", "1:1: root element <a> is not <pub-gruu> or <temp-gruu> of schema gruu"},
+        {kWaiting,
+         "1:1: root element <ss:communication-waiting> is not <pub-gruu> or <temp-gruu> of schema gruu, but of schema "
+         "communication-waiting"},
     };
     for (const auto& fault : cases) EXPECT_EQ(MessageFor(fault.text), fault.message);
     EXPECT_EQ(MessageFor(std::string("<a>\0</a>", 8)), "1:4: NUL byte at offset 3, where the decoder would stop");
+    EXPECT_EQ(MessageFor(std::string("\xff\xfe<\0a\0", 6)), " UTF-16, which no decoder reads");
+}
+
+TEST_F(ToolTest, PrefixesThatTheSchemaDoesNotKnow) {
+    const std::string start = "1:1: root element <x:communication-waiting> is ";
+    const std::string unknown =
+        start + "not understood by schema communication-waiting: it does not know the prefix \"x\"";
+    EXPECT_EQ(MessageFor(kOtherPrefix, "decode"), unknown + "; --binder gives it the document's own declarations");
+    EXPECT_EQ(Run("decode --binder other").status, 0);
+    // A binder has no more than what is declared.
+    const char undeclared[] = "<x:communication-waiting/>";
+    EXPECT_EQ(MessageFor(undeclared, "decode"), unknown + ", which the element does not declare");
+    EXPECT_EQ(MessageFor(undeclared, "decode --binder"), unknown + ", which the element does not declare");
+    EXPECT_EQ(
+        MessageFor("<x:communication-waiting xmlns:x='urn:x'/>", "decode --binder --schema communication-waiting"),
+        start +
+            "of namespace \"urn:x\", not of \"http://uri.etsi.org/ngn/params/xml/simservs/xcap\" as in "
+            "schema communication-waiting");
+    // This schema takes no binder.
+    EXPECT_EQ(MessageFor("<x:volte-config-info xmlns:x='urn:x'/>", "decode"),
+              "1:1: root element <x:volte-config-info> is not understood by schema volte-config-info: it does not know "
+              "the prefix \"x\"");
+    EXPECT_EQ(MessageFor("<rule id='a'/>", "decode"),
+              "1:1: root element <rule> is not understood by schema communication-diversion without a prefix");
+    EXPECT_EQ(MessageFor("<cp:rule xmlns:cp='urn:x'/>", "decode"),
+              "1:1: root element <cp:rule> is of namespace \"urn:x\", not of \"urn:ietf:params:xml:ns:common-policy\" "
+              "as in schema communication-diversion");
+}
+
+TEST_F(ToolTest, EverySampleHasItsSchemaWithoutBeingTold) {
+    int schemas = 0;
+    for (int id = 0; id < kXmlSchemaCount; ++id) {
+        const XmlSchemaInfo* const schema = XMLFactory::SchemaInfo(id);
+        // Any document is one of declarations; that is asked for by its own command.
+        if (schema == nullptr || id == IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL) continue;
+        ++schemas;
+        std::string samples;
+        const std::vector<std::string> files = FilesBelow(PROJECT_DIR "/samples/" + std::string(schema->name));
+        for (const std::string& file : files) samples += " '" + file + '\'';
+        const Result result = Run("decode --binder" + samples);
+        EXPECT_EQ(result.status, 0) << result.errors;
+        std::istringstream lines(result.output);
+        std::size_t count = 0;
+        for (std::string line; std::getline(lines, line); ++count)
+            EXPECT_EQ(line.find("{\"schema\":\"" + std::string(schema->name) + '"'), 0U) << line;
+        EXPECT_GE(count, 3U) << schema->name;
+        EXPECT_EQ(count, files.size());
+    }
+    EXPECT_EQ(schemas, 25);
+}
+
+TEST_F(ToolTest, PartsOfARuleGoByWhatTheRuleDoes) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"<cp:rule id='a'><cp:actions><ss:allow>false</ss:allow></cp:actions></cp:rule>", "communication-barring"},
+        {"<cp:rule id='a'><cp:actions><forward-to><target>t</target></forward-to></cp:actions></cp:rule>",
+         "communication-diversion"},
+        {"<cp:conditions allow='x'><ss:busy/></cp:conditions>", "communication-diversion"},
+    };
+    for (const auto& [text, schema] : cases) {
+        Write("rule", text);
+        EXPECT_NE(Run("decode rule").output.find("\"schema\": \"" + std::string(schema) + '"'), std::string::npos)
+            << text;
+    }
 }
 
 TEST_F(ToolTest, RootsWithoutASchema) {
@@ -371,9 +504,6 @@ TEST_F(ToolTest, RootsWithoutASchema) {
     // A default namespace that was taken away counts as none.
     Write("undeclared", "<pub-gruu xmlns='' uri='a'/>");
     EXPECT_EQ(Run("decode undeclared").status, 0);
-    EXPECT_EQ(MessageFor(kOtherPrefix, "decode"),
-              "1:1: root element <x:communication-waiting> is not understood by schema communication-waiting: it does "
-              "not know the prefix \"x\"; --binder gives it the document's own declarations");
     EXPECT_EQ(MessageFor("<a><b></a>", "namespaces"), "1:7: end tag </a> does not match <b> opened at 1:4");
     for (int id = 0; id < kXmlSchemaCount; ++id) {
         const XmlSchemaInfo* const schema = XMLFactory::SchemaInfo(id);

@@ -57,7 +57,7 @@ OwnElement DecodeNamespaces(const Document& document, bool log) {
 const XmlSchemaInfo& FindSchema(const Document& document) {
     Scanner scanner(document.text);
     if (!scanner.FindRoot()) throw Diagnose(document);
-    return SchemaOfRoot(*scanner.Root());
+    return SchemaOf(scanner);
 }
 
 Decoded Decode(const Document& document, const Options& options) {
@@ -81,8 +81,8 @@ std::string MarshallText(const Decoded& decoded, const Document& document, bool 
     if (marshaller == nullptr) throw DocumentError{kNotMarshalled, "documents of schema " + name + " are only read"};
     const char* const text = marshaller->Marshall(decoded.root.get());
     if (text == nullptr) {
-        const std::string reason = watch.Reason().empty() ? "" : ": " + watch.Reason();
-        throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document" + reason};
+        const std::string reason = watch.Reason().empty() ? "the library does not say why" : watch.Reason();
+        throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document: " + reason};
     }
     if (marshaller->IsTruncated() != 0) Warn(document, "the text was cut at 32767 characters");
     return text;
@@ -97,13 +97,25 @@ bool HasColour(Colour colour) {
     return isatty(STDOUT_FILENO) == 1;
 }
 
-const char* TextOrEmpty(const char* text) {
-    return text != nullptr ? text : "";
+/// White space in an attribute stands for blanks, which also keeps a declaration on its line.
+std::string WithBlanks(const char* text) {
+    std::string result = text != nullptr ? text : "";
+    std::replace_if(
+        result.begin(), result.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
+    return result;
+}
+
+/// The tokenizer leaves the white space between the name of an attribute and the "=".
+std::string PrefixOf(const ix_AttributeValuePair& declaration) {
+    if (declaration.mName == nullptr) return "(default)";
+    std::string prefix = WithBlanks(declaration.mName);
+    prefix.erase(prefix.find_last_not_of(' ') + 1);
+    return prefix;
 }
 
 }  // namespace
 
-std::string DecodeDocument(const Document& document, const Options& options) {
+std::string DecodeDocument(const Document& document, const Options& options, const Progress& /*progress*/) {
     const Decoded decoded = Decode(document, options);
     const Json root = ToJson(*decoded.root);
     bool replaced = false;
@@ -122,11 +134,13 @@ std::string DecodeDocument(const Document& document, const Options& options) {
     return text;
 }
 
-std::string ConvertDocument(const Document& document, const Options& options) {
-    return MarshallText(Decode(document, options), document, options.log);
+std::string ConvertDocument(const Document& document, const Options& options, const Progress& progress) {
+    const Decoded decoded = Decode(document, options);
+    progress.Enter(Stage::Writing);
+    return MarshallText(decoded, document, options.log);
 }
 
-std::string ListNamespaces(const Document& document, const Options& options) {
+std::string ListNamespaces(const Document& document, const Options& options, const Progress& /*progress*/) {
     const OwnElement root = DecodeNamespaces(document, options.log);
     if (root == nullptr) throw Diagnose(document);
     const IxSingleElementList* const list = static_cast<ix_schema_namespace_retrieval&>(*root).getNameSpaceInfo();
@@ -134,8 +148,7 @@ std::string ListNamespaces(const Document& document, const Options& options) {
     for (auto* node = list != nullptr ? list->GetPtrToListHead() : nullptr; node != nullptr; node = node->next) {
         const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
         if (options.HasManyFiles()) text += document.name + '\t';
-        text += pair->mName != nullptr ? pair->mName : "(default)";
-        text += std::string("\t") + TextOrEmpty(pair->mValue) + '\n';
+        text += PrefixOf(*pair) + '\t' + WithBlanks(pair->mValue) + '\n';
     }
     return text;
 }

@@ -8,13 +8,14 @@
 
 #include "Document.h"
 #include "Options.h"
+#include "Progress.h"
 
 /// @return what goes to the standard output.
-using Command = std::string (*)(const Document& document, const Options& options);
+using Command = std::string (*)(const Document& document, const Options& options, const Progress& progress);
 
-std::string DecodeDocument(const Document& document, const Options& options);
-std::string ConvertDocument(const Document& document, const Options& options);
-std::string ListNamespaces(const Document& document, const Options& options);
+std::string DecodeDocument(const Document& document, const Options& options, const Progress& progress);
+std::string ConvertDocument(const Document& document, const Options& options, const Progress& progress);
+std::string ListNamespaces(const Document& document, const Options& options, const Progress& progress);
 
 /// A table of all schemas; needs no document.
 std::string ListSchemas();

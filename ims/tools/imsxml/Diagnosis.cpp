@@ -17,11 +17,6 @@ bool Ends(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
-std::string Quoted(std::string_view name) {
-    const std::string tag = TagText(name);
-    return '"' + tag.substr(1, tag.size() - 2) + '"';
-}
-
 void SkipSpaces(std::string_view& text) {
     text.remove_prefix(std::min(text.size(), text.find_first_not_of(kSpaces)));
 }
@@ -39,7 +34,7 @@ std::string AttributeFault(std::string_view rest, const std::string& tag) {
         if (Begins(name, "<")) return "start tag " + tag + " has no \">\" before the next \"<\"";
         if (name.empty()) return "attribute without a name in " + tag;
         SkipSpaces(rest);
-        const std::string attribute = "attribute " + Quoted(name) + " of " + tag;
+        const std::string attribute = "attribute " + QuotedText(name) + " of " + tag;
         if (!Begins(rest, "=")) return attribute + " has no \"=\"";
         rest.remove_prefix(1);
         SkipSpaces(rest);
@@ -107,6 +102,27 @@ DocumentError FaultOf(const Document& document, const Scanner& scanner) {
     return {kNotDecoded, RefusedTag(document, scanner), scanner.TagOffset()};
 }
 
+/// Why a schema makes nothing of a root element that it does not have.
+std::string OtherRoot(const RootElement& root, const XmlSchemaInfo& schema) {
+    std::string expected;
+    for (const std::string_view name : RootsOf(schema)) expected += (expected.empty() ? "" : " or ") + TagText(name);
+    const XmlSchemaInfo* const other = SchemaWithRoot(root.Local());
+    return "is not " + expected + " of schema " + schema.name +
+           (other != nullptr ? std::string(", but of schema ") + other->name : "");
+}
+
+/// Why a schema makes nothing of a root element that it has.
+std::string RefusedRoot(const RootElement& root, const XmlSchemaInfo& schema, bool hasBinder) {
+    std::string namespaceFault = NamespaceFault(root, schema);
+    if (!namespaceFault.empty()) return namespaceFault;
+    std::string fault = std::string("is not understood by schema ") + schema.name;
+    if (root.Prefix().empty()) return fault + (IsRulePart(root.Local()) ? " without a prefix" : "");
+    fault += ": it does not know the prefix " + QuotedText(root.Prefix());
+    if (!schema.takesBinder) return fault;
+    if (!root.Namespace()) return fault + ", which the element does not declare";
+    return fault + (hasBinder ? "" : "; --binder gives it the document's own declarations");
+}
+
 }  // namespace
 
 DocumentError Diagnose(const Document& document) {
@@ -118,21 +134,8 @@ DocumentError Diagnose(const Document& document) {
 DocumentError Diagnose(const Document& document, const XmlSchemaInfo& schema, bool hasBinder) {
     Scanner scanner(document.text);
     if (!scanner.FindEnd()) return FaultOf(document, scanner);
-
     const RootElement& root = *scanner.Root();
-    std::string expected;
-    bool matches = RootsOf(schema).empty();
-    for (const std::string_view name : RootsOf(schema)) {
-        expected += (expected.empty() ? "" : " or ") + TagText(name);
-        matches = matches || name == root.Local();
-    }
-    std::string message = "root element " + TagText(root.name);
-    if (!matches) {
-        message += " is not " + expected + " of schema " + schema.name;
-    } else {
-        message += std::string(" is not understood by schema ") + schema.name;
-        if (!root.Prefix().empty()) message += ": it does not know the prefix " + Quoted(root.Prefix());
-        if (schema.takesBinder && !hasBinder) message += "; --binder gives it the document's own declarations";
-    }
-    return {kNotDecoded, message, root.offset};
+    const std::string fault =
+        TakesRoot(schema, root.Local()) ? RefusedRoot(root, schema, hasBinder) : OtherRoot(root, schema);
+    return {kNotDecoded, "root element " + TagText(root.name) + ' ' + fault, root.offset};
 }

@@ -47,6 +47,8 @@ void RequireText(const std::string& text) {
     }
     const std::size_t nul = text.find('\0');
     if (nul == std::string::npos) return;
+    const std::string mark = text.substr(0, 2);
+    if (mark == "\xfe\xff" || mark == "\xff\xfe") throw DocumentError{kNotDecoded, "UTF-16, which no decoder reads"};
     throw DocumentError{kNotDecoded, "NUL byte at offset " + std::to_string(nul) + ", where the decoder would stop",
                         nul};
 }

@@ -6,6 +6,16 @@
 
 namespace {
 
+constexpr char kModule[] = "<XML Module>: ";
+
+bool Begins(std::string_view text, std::string_view beginning) {
+    return text.substr(0, beginning.size()) == beginning;
+}
+
+bool Has(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
 bool Ends(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
@@ -41,7 +51,14 @@ void LogWatch::Take(const ixDplHostLogLine& line) {
     if (std::strcmp(line.text, "stack overflow\n") == 0) m_tooDeep = true;
     const std::string text = OnOneLine(line.text);
     if (m_print) std::fprintf(stderr, "%d %d %s:%d %s\n", line.level, line.code, line.source, line.line, text.c_str());
-    // Progress has the level of refusals, too, but only the entry of a marshaller is logged where one fails.
-    if (line.level >= 3 && !Ends(text, "Marshall")) m_refusal = text;
-    if (text.find("ailed") != std::string::npos) m_failure = text;
+    // Which module speaks is known here.
+    std::string message = text.substr(Begins(text, kModule) ? std::strlen(kModule) : 0);
+    message.erase(message.find_last_not_of(' ') + 1);
+    if (Has(text, "ailed")) {
+        // The last step is the whole document, which is no news.
+        if (!Ends(text, "XML Failed!")) m_failedStep = message;
+    } else if (Has(text, "mandatory") || Has(text, "required") || (line.level >= 3 && !Ends(text, "Marshall"))) {
+        // Progress has the level of refusals, too, but only the entry of a marshaller is logged where one fails.
+        m_cause = message;
+    }
 }

@@ -29,8 +29,8 @@ class LogWatch {
     LogWatch(const LogWatch&) = delete;
     LogWatch& operator=(const LogWatch&) = delete;
 
-    /// The last line that tells of a failure; "" when there was none.
-    const std::string& Reason() const { return m_refusal.empty() ? m_failure : m_refusal; }
+    /// What the library says of a failed `Marshall`: the last cause, or else the last step that failed; "": neither.
+    const std::string& Reason() const { return m_cause.empty() ? m_failedStep : m_cause; }
     /// True when a document had more objects under construction than a decoder holds. The line has level 2.
     bool IsTooDeep() const { return m_tooDeep; }
 
@@ -39,8 +39,8 @@ class LogWatch {
 
     bool m_print;
     bool m_tooDeep = false;
-    std::string m_refusal;
-    std::string m_failure;
+    std::string m_cause;
+    std::string m_failedStep;
 };
 
 #endif

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "Runner.h"
 #include "Schema.h"
@@ -79,6 +80,15 @@ std::string CheckSeconds(const std::string& text) {
     return valid ? "" : "\"" + text + "\" is no number of seconds";
 }
 
+/// The one line about a command line that is not understood.
+std::string WrongUsage(const CLI::App* app, const CLI::Error& error) {
+    const std::vector<CLI::App*> commands = app->get_subcommands();
+    const std::vector<std::string> rest = app->remaining();
+    const bool isUnknown = commands.empty() && !rest.empty();
+    return "imsxml: " + (isUnknown ? '"' + rest[0] + "\" is no command" : error.what()) + "; see imsxml " +
+           (commands.empty() ? "" : commands[0]->get_name() + ' ') + "--help\n";
+}
+
 class CommandLine {
   public:
     CommandLine();
@@ -102,9 +112,7 @@ CommandLine::CommandLine() {
     m_app.set_version_flag("--version", "imsxml " IMSXML_VERSION, "Print the version and exit");
     m_app.footer(kFooter);
     m_app.require_subcommand(1);
-    m_app.failure_message([](const CLI::App*, const CLI::Error& error) {
-        return std::string("imsxml: ") + error.what() + "; see imsxml --help\n";
-    });
+    m_app.failure_message(WrongUsage);
     m_decode = AddFileCommand("decode", "Print documents as typed trees", kDecodeFooter);
     AddDecoding(m_decode);
     m_decode->add_option("--format", m_format, "json, or tree, an outline for people")
@@ -124,7 +132,9 @@ CommandLine::CommandLine() {
 CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const char* footer) {
     CLI::App* const command = m_app.add_subcommand(name, about);
     command->footer(footer);
-    command->add_option("FILE", m_options.files, "Documents; \"-\" is the standard input")->required();
+    command->add_option("FILE", m_options.files, "Documents; \"-\" is the standard input")
+        ->required()
+        ->check([](const std::string& file) { return std::string(file.empty() ? "a name is empty" : ""); });
     command->add_flag("--log", m_options.log, "Print the library's log lines to the standard error");
     command->add_flag("--leaks", m_options.leaks, "Print to the standard error what memory is alive after each file");
     command->add_option("--timeout", m_options.timeout, "Seconds that a file may take; 0: no limit")

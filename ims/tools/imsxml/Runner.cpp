@@ -1,16 +1,12 @@
 #include "Runner.h"
 
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
-#include <climits>
-#include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -55,14 +51,15 @@ void PrintLedger(const std::string& name) {
 
 /// @param input the text of the standard input, when that is the document.
 int RunCommand(Command command, const Options& options, const std::string& name, const std::string* input,
-               std::string& output) {
+               const Progress& progress, std::string& output) {
     Document document{name, {}};
     int status = kDone;
     if (options.leaks) ixDplHostEnableLedger(true);
     try {
         document.text = input != nullptr ? *input : ReadText(name);
         RequireText(document.text);
-        output = command(document, options);
+        progress.Enter(Stage::Decoding);
+        output = command(document, options, progress);
     } catch (const DocumentError& error) {
         PrintError(document.Describe(error));
         status = error.status;
@@ -72,21 +69,6 @@ int RunCommand(Command command, const Options& options, const std::string& name,
     }
     if (options.leaks) PrintLedger(name);
     return status;
-}
-
-/// Waits until the other end of a pipe is closed. @return false when the time was up before.
-bool WaitForClose(int pipeEnd, double seconds) {
-    using Clock = std::chrono::steady_clock;
-    const auto start = Clock::now();
-    for (;;) {
-        const double left = seconds - std::chrono::duration<double>(Clock::now() - start).count();
-        const double wait = std::min(std::ceil(std::max(left, 0.0) * 1000), static_cast<double>(INT_MAX));
-        pollfd end = {pipeEnd, POLLIN, 0};
-        const int count = poll(&end, 1, seconds > 0 ? static_cast<int>(wait) : -1);
-        if (count > 0) return true;
-        if (count < 0 && errno != EINTR) return true;
-        if (seconds > 0 && left <= 0) return false;
-    }
 }
 
 int StatusOf(int childStatus, const std::string& name) {
@@ -100,11 +82,18 @@ int StatusOf(int childStatus, const std::string& name) {
     return kNotDecoded;
 }
 
-std::string TimeMessage(const std::string& name, double seconds) {
+std::string TimeMessage(Stage stage, double seconds) {
     char number[32];
     std::snprintf(number, sizeof number, "%g", seconds);
-    return name + ": no result after " + number +
-           " s: the document makes the decoder run without end, or it needs a longer --timeout";
+    const std::string start = std::string("no result after ") + number + " s: ";
+    switch (stage) {
+        case Stage::Reading:
+            return start + "the file did not come to its end; it may need a longer --timeout";
+        case Stage::Decoding:
+            return start + "the document makes the decoder run without end, or it needs a longer --timeout";
+        default:
+            return start + "decoded, but writing it runs without end, or it needs a longer --timeout";
+    }
 }
 
 int RunInChild(Command command, const Options& options, const std::string& name, const std::string* input) {
@@ -115,21 +104,22 @@ int RunInChild(Command command, const Options& options, const std::string& name,
     if (child == 0) {
         close(ends[0]);
         std::string output;
-        int status = RunCommand(command, options, name, input, output);
+        int status = RunCommand(command, options, name, input, Progress(ends[1]), output);
         // The clock stops here: a reader of the output may take its time.
         close(ends[1]);
         status = std::max(status, Print(output));
         _exit(kReported + status);
     }
     close(ends[1]);
-    const bool inTime = WaitForClose(ends[0], options.timeout);
+    Stage stage = Stage::Reading;
+    const bool inTime = WaitForEnd(ends[0], options.timeout, stage);
     close(ends[0]);
     if (!inTime) kill(child, SIGKILL);
     int childStatus = 0;
     while (waitpid(child, &childStatus, 0) < 0 && errno == EINTR) {
     }
     if (inTime) return StatusOf(childStatus, name);
-    PrintError(TimeMessage(name, options.timeout));
+    PrintError(name + ": " + TimeMessage(stage, options.timeout));
     return kTimeLimit;
 }
 

@@ -12,14 +12,23 @@ std::string TrimEnd(std::string text) {
     return text;
 }
 
+/// What of a text fits a message.
+std::string Short(std::string_view whole) {
+    constexpr std::size_t kMost = 80;
+    std::string text(whole.substr(0, kMost));
+    std::replace_if(
+        text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
+    return text + (whole.size() > kMost ? "..." : "");
+}
+
 }  // namespace
 
 std::string TagText(std::string_view name) {
-    constexpr std::size_t kMost = 80;
-    std::string text(name.substr(0, kMost));
-    std::replace_if(
-        text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
-    return '<' + text + (name.size() > kMost ? "...>" : ">");
+    return '<' + Short(name) + '>';
+}
+
+std::string QuotedText(std::string_view text) {
+    return '"' + Short(text) + '"';
 }
 
 std::string_view RootElement::Prefix() const {
@@ -27,7 +36,7 @@ std::string_view RootElement::Prefix() const {
     return colon == std::string::npos ? std::string_view() : std::string_view(name).substr(0, colon);
 }
 
-std::string_view RootElement::Local() const {
+std::string_view OpenElement::Local() const {
     return std::string_view(name).substr(name.find(':') + 1);
 }
 
@@ -47,6 +56,14 @@ bool Scanner::FindRoot() {
     while (!m_root && Next()) {
     }
     return m_root.has_value() && !Refused();
+}
+
+bool Scanner::FindElement(std::string_view local) {
+    m_wanted = local;
+    m_found = false;
+    while (!m_found && m_result == IX_XML_INCOMPLETE && Next()) {
+    }
+    return m_found;
 }
 
 bool Scanner::FindEnd() {
@@ -97,6 +114,7 @@ int Scanner::ProcessElement(char* element, char* /*text*/) {
 
 int Scanner::ProcessEndOfStartTag(char* element) {
     m_open.push_back({element, m_tag});
+    m_found = m_found || m_open.back().Local() == m_wanted;
     if (!m_root) m_root = RootElement{m_open.back(), std::move(m_attributes)};
     return 0;
 }

@@ -15,17 +15,20 @@
 
 /// A tag for a message that has one line: "<name>", cut when it is long, line feeds as blanks.
 std::string TagText(std::string_view name);
+/// Any other text of a document, in double quotes.
+std::string QuotedText(std::string_view text);
 
 struct OpenElement {
     std::string name;  ///< As written, prefix included.
     std::size_t offset;
+
+    std::string_view Local() const;
 };
 
 struct RootElement : OpenElement {
     std::vector<std::pair<std::string, std::string>> attributes;
 
     std::string_view Prefix() const;
-    std::string_view Local() const;
     /// The namespace that the element's own declarations give it; none: its prefix is not declared there.
     std::optional<std::string> Namespace() const;
 };
@@ -37,6 +40,9 @@ class Scanner : public XmlDecoderSchema {
 
     /// Goes to the end of the root's start tag. @return false when there is none, or a fault comes before it.
     bool FindRoot();
+    /// Goes on to the next start tag with this local name. @return false when there is none up to the root's end or the
+    /// first fault.
+    bool FindElement(std::string_view local);
     /// Goes to the end of the root element, or to the first fault. @return true for the former.
     bool FindEnd();
 
@@ -66,6 +72,8 @@ class Scanner : public XmlDecoderSchema {
     std::vector<OpenElement> m_open;
     std::vector<std::pair<std::string, std::string>> m_attributes;  ///< Of the root's start tag.
     std::optional<RootElement> m_root;
+    std::string_view m_wanted;  ///< Local name that `FindElement` looks for.
+    bool m_found = false;
 };
 
 #endif

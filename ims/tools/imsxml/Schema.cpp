@@ -2,9 +2,15 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <numeric>
 
 namespace {
+
+constexpr std::string_view kRuleParts[] = {"ruleset", "rule",    "conditions",     "identity",
+                                           "one",     "many",    "except",         "validity",
+                                           "sphere",  "actions", "transformations"};
+constexpr char kRuleNamespace[] = "urn:ietf:params:xml:ns:common-policy";
 
 /// Single-byte insertions, deletions and replacements that make one word of the other.
 std::size_t EditDistance(std::string_view left, std::string_view right) {
@@ -40,15 +46,6 @@ std::string Nearest(std::string_view word, const std::vector<std::pair<std::stri
     return list;
 }
 
-const XmlSchemaInfo* FindByRoot(std::string_view local) {
-    for (const XmlSchemaInfo* schema : AllSchemas()) {
-        for (const std::string_view root : RootsOf(*schema)) {
-            if (root == local) return schema;
-        }
-    }
-    return nullptr;
-}
-
 [[noreturn]] void RefuseRoot(const RootElement& root) {
     std::vector<std::pair<std::string_view, std::string>> candidates;
     for (const XmlSchemaInfo* schema : AllSchemas()) {
@@ -60,6 +57,14 @@ const XmlSchemaInfo* FindByRoot(std::string_view local) {
         kNotDecoded,
         "root element " + TagText(root.name) + " is of no schema; the nearest: " + Nearest(root.Local(), candidates),
         root.offset};
+}
+
+/// The schema of a document that is a part of a rule. What the rule does tells the two services apart: barring allows,
+/// diversion forwards. A part that says neither is the same in both.
+const XmlSchemaInfo& SchemaOfRule(Scanner& scanner) {
+    const bool allows = scanner.FindElement("allow");
+    return *XMLFactory::SchemaInfo(allows ? IX_XML_SCHEMA_COMMUNICATION_BARRING
+                                          : IX_XML_SCHEMA_COMMUNICATION_DIVERSION);
 }
 
 }  // namespace
@@ -97,17 +102,41 @@ const XmlSchemaInfo& SchemaByName(const std::string& name) {
                         "no schema has the name \"" + name + "\"; the nearest: " + Nearest(name, candidates)};
 }
 
-const XmlSchemaInfo& SchemaOfRoot(const RootElement& root) {
-    const XmlSchemaInfo* const schema = FindByRoot(root.Local());
-    if (schema == nullptr) RefuseRoot(root);
-    const std::optional<std::string> uri = root.Namespace();
-    // Some senders take the default namespace away (xmlns=""); that says as little as no declaration.
-    if (uri && !uri->empty() && *schema->namespaceUri != '\0' && *uri != schema->namespaceUri) {
-        throw DocumentError{kNotDecoded,
-                            "root element " + TagText(root.name) + " is of namespace \"" + *uri + "\", not of \"" +
-                                schema->namespaceUri + "\" as in schema " + schema->name,
-                            root.offset};
+bool IsRulePart(std::string_view local) {
+    return std::find(std::begin(kRuleParts), std::end(kRuleParts), local) != std::end(kRuleParts);
+}
+
+bool TakesRoot(const XmlSchemaInfo& schema, std::string_view local) {
+    const std::vector<std::string_view> roots = RootsOf(schema);
+    const bool hasRules =
+        schema.id == IX_XML_SCHEMA_COMMUNICATION_DIVERSION || schema.id == IX_XML_SCHEMA_COMMUNICATION_BARRING;
+    return roots.empty() || (hasRules && IsRulePart(local)) ||
+           std::find(roots.begin(), roots.end(), local) != roots.end();
+}
+
+const XmlSchemaInfo* SchemaWithRoot(std::string_view local) {
+    for (const XmlSchemaInfo* schema : AllSchemas()) {
+        if (!RootsOf(*schema).empty() && TakesRoot(*schema, local)) return schema;
     }
+    return nullptr;
+}
+
+std::string NamespaceFault(const RootElement& root, const XmlSchemaInfo& schema) {
+    const std::string_view expected = IsRulePart(root.Local()) ? kRuleNamespace : schema.namespaceUri;
+    const std::string uri = root.Namespace().value_or("");
+    // Some senders take the default namespace away (xmlns=""); that says as little as no declaration.
+    if (uri.empty() || expected.empty() || uri == expected) return "";
+    return "is of namespace " + QuotedText(uri) + ", not of " + QuotedText(expected) + " as in schema " + schema.name;
+}
+
+const XmlSchemaInfo& SchemaOf(Scanner& scanner) {
+    const RootElement root = *scanner.Root();
+    const XmlSchemaInfo* const schema =
+        IsRulePart(root.Local()) ? &SchemaOfRule(scanner) : SchemaWithRoot(root.Local());
+    if (schema == nullptr) RefuseRoot(root);
+    const std::string fault = NamespaceFault(root, *schema);
+    if (!fault.empty())
+        throw DocumentError{kNotDecoded, "root element " + TagText(root.name) + ' ' + fault, root.offset};
     if (schema->create == nullptr) {
         throw DocumentError{kNotDecoded,
                             "schema " + std::string(schema->name) + " of root element " + TagText(root.name) +

@@ -20,7 +20,21 @@ std::vector<std::string_view> RootsOf(const XmlSchemaInfo& schema);
 /// Throws `DocumentError` (wrong usage) for a name that no schema of this build has.
 const XmlSchemaInfo& SchemaByName(const std::string& name);
 
-/// Throws `DocumentError` for a root element that no schema of this build has.
-const XmlSchemaInfo& SchemaOfRoot(const RootElement& root);
+/// True for the elements of a rule of communication diversion and barring. XCAP transports them alone, and both schemas
+/// take each of them as a root element, too.
+bool IsRulePart(std::string_view local);
+
+/// True when the schema takes this root element.
+bool TakesRoot(const XmlSchemaInfo& schema, std::string_view local);
+
+/// The schema whose documents have this root element; none: NULL.
+const XmlSchemaInfo* SchemaWithRoot(std::string_view local);
+
+/// What is wrong with the namespace of a root element of this schema; "": nothing, as far as it is declared.
+std::string NamespaceFault(const RootElement& root, const XmlSchemaInfo& schema);
+
+/// Throws `DocumentError` for a document whose root element no schema of this build has.
+/// @param scanner stands behind the root's start tag.
+const XmlSchemaInfo& SchemaOf(Scanner& scanner);
 
 #endif

@@ -1,0 +1,43 @@
+# Completion of the command imsxml. It needs nothing but bash.
+
+_imsxml() {
+    local word=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[COMP_CWORD - 1]}
+    # "=" is a word of its own: --format=tree arrives as three.
+    if [ "$word" = = ]; then
+        word=''
+    elif [ "$option" = = ]; then
+        option=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    case $option in
+        --schema)
+            mapfile -t COMPREPLY < <(compgen -W "$("$1" schemas 2>/dev/null | awk 'NR > 1 { print $2 }')" -- "$word")
+            return
+            ;;
+        --format) mapfile -t COMPREPLY < <(compgen -W 'json tree' -- "$word"); return ;;
+        --color) mapfile -t COMPREPLY < <(compgen -W 'auto always never' -- "$word"); return ;;
+        --timeout) COMPREPLY=(); return ;;
+    esac
+
+    local command='' earlier words
+    for earlier in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        case $earlier in
+            -*) ;;
+            *) command=$earlier; break ;;
+        esac
+    done
+    case $command in
+        '') words='decode convert namespaces schemas --help --version' ;;
+        decode) words='--schema --binder --format --color --log --leaks --timeout --help' ;;
+        convert) words='--schema --binder --log --leaks --timeout --help' ;;
+        namespaces) words='--log --leaks --timeout --help' ;;
+        *) words='--help' ;;
+    esac
+    if [ -z "$command" ] || [ "${word:0:1}" = - ] || [ "$command" = schemas ]; then
+        mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
+    else
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+    fi
+}
+
+complete -F _imsxml imsxml
