@@ -1,5 +1,6 @@
 #include "XMLSimservs.h"
 
+#include <algorithm>
 #include <cstring>
 #include <iterator>
 
@@ -463,9 +464,8 @@ char* SimservsMarshaller::InsertString(char* document, const char* piece) {
         ixLog(kSourceFile, kNoMemoryToInsert);
         return document;
     }
-    std::memcpy(text, document, before);
-    std::memcpy(text + before, piece, pieceLength);
-    std::memcpy(text + before + pieceLength, endTag, after + 1);
+    char* const rest = std::copy_n(piece, pieceLength, std::copy(document, endTag, text));
+    std::copy_n(endTag, after + 1, rest);
     __free(document);
     return text;
 }
