@@ -1,8 +1,9 @@
 /// @file
 /// The device platform layer: everything the XML library takes from the device it runs on.
 ///
-/// The library calls these functions and nothing else of the system. A device replaces them all by linking its own
-/// library in place of the host implementation that comes with the project (ixDplHost.h controls that one).
+/// The library takes memory, log, files and the text functions below from here, and nothing else of the system but the
+/// plain functions of the C library that need none of it (such as memcpy). A device replaces them all by linking its
+/// own library in place of the host implementation that comes with the project (ixDplHost.h controls that one).
 ///
 /// The functions have C++ linkage on purpose: the C library exports a `__strdup` of its own, and a function of the same
 /// linkage name would replace it for the whole process.
@@ -22,7 +23,7 @@
 /// Writes one line to the device's log.
 ///
 /// @param level 1 rare traces, 2 results and resource problems, 3 progress and rejected input, 4 failed duplications
-/// and allocations.
+/// and allocations, missing mandatory fields.
 /// @param code event number: 6070 schema families, containers and generator; 6053 tokenizer and namespace operations;
 /// 6052 the tokenizer's buffer check.
 /// @param source path of the source file without extension, for example "ims/xml/src/XmlDecoder".

@@ -7,7 +7,7 @@
 
 enum eXMLFileAccessMode { eXMLFileRead = 0, eXMLFileWrite = 1, eXMLFileReadWrite = 2 };
 
-/// A thin wrapper over the platform layer's IO device. Every failure is one log line and a result of 0 or NULL.
+/// A thin wrapper over the platform layer's IO device. Every failure is logged, and a result of 0 or NULL.
 ///
 /// `Read` and `Write` open the file themselves and leave it open; call `CloseFile` before the object goes, because the
 /// destructor does not.

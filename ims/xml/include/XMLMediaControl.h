@@ -6,7 +6,7 @@
 /// - Namespace: none is expected or written.
 /// - Prefixes: removed, but `picture_fast_update` is written back with the prefix it came with.
 /// - Read and written. Attributes and other elements (`stream_id`, `general_error`) are lost; an unknown element behind
-///   `picture_fast_update` cancels it.
+///   `picture_fast_update`, inside `to_encoder`, cancels it.
 #ifndef IX_XML_MEDIA_CONTROL_H
 #define IX_XML_MEDIA_CONTROL_H
 

@@ -2,7 +2,8 @@
 /// Schema namespace retrieval: the namespace declarations of any XML text (Namespaces in XML 1.0), so that a caller
 /// learns which schemas a document uses before choosing one.
 ///
-/// - Root element: any. Every declaration counts, whatever element carries it.
+/// - Root element: any. Every declaration counts, whatever element carries it; so does any attribute whose name
+/// begins with "xmlns".
 /// - Prefixes: not looked at.
 /// - Read only. The result serves as namespace binder (`XMLContext::SetNamespaceBinder`).
 #ifndef IX_XML_SCHEMA_NAME_SPACE_RETRIEVAL_H

@@ -92,8 +92,8 @@ class IX_XML_EXPORT ix_ns_xcap_simservType : public XMLObject {
                                                     ///< the pairs have no base class in common. NULL: none.
 
   protected:
-    /// Appends `pair`, if it is one, unless the attribute is "active", which never comes as a pair. @return 1, or 0 for
-    /// "active".
+    /// Appends `pair`, if it is one, unless the attribute is "active": that of the service does not come as a pair, and
+    /// that of a child element does not count. @return 1, or 0 for "active".
     int TakeExtension(const char* attribute, XMLAttribute* pair);
     /// The source file of the service's own class, under which its list is registered.
     virtual const char* SourceFile() const = 0;

@@ -448,7 +448,8 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     static const ix_AttributeValuePair* LastAttribute(const IxSingleElementList* list);
     /// Each pair that has a name as an attribute, the last one with `end`.
     void AddAttributeList(const IxSingleElementList* list, Attribute end = Attribute::Open);
-    /// Calls `add` for each entry in order until one answers 0, whose index `failedChild` then logs. @return 1, or 0.
+    /// Calls `add` for each entry in order until one answers 0, whose index `failedChild` then logs. NULL entries are
+    /// passed over. @return 1, or 0.
     int AddChildList(const IxSingleElementList* list, XmlWriter add, const XmlLogText& failedChild = {});
     /// Logs `text` of a failed child, after giving up the document. @return 0.
     int ReleaseAndFail(const XmlLogText& text);
