@@ -8,8 +8,8 @@
 /// - Prefixes: removed.
 /// - Read and written. Of several notifications the first in the order above is written, and a processing notification
 ///   under a name that is not read back. Attributes of the root and of `status`, and of the texts and values inside
-///   them, are written back on these two; those of notifications are lost. Elements of other schemas are lost with a
-///   log line.
+///   them, are written back on these two; those of notifications are lost. Elements of other schemas are lost,
+///   those of the root with a log line.
 #ifndef IX_XML_IMDN_H
 #define IX_XML_IMDN_H
 

@@ -5,7 +5,7 @@
 /// - Namespace: urn:ietf:params:xml:ns:im-iscomposing, written as the default namespace, not expected.
 /// - Prefixes: removed.
 /// - Read and written, the elements in the order above. Attributes, namespace declarations among them, and other
-///   elements are lost with a log line.
+///   elements are lost with a log line; an attribute with the name of one of the four elements is lost without.
 #ifndef IX_XML_IS_COMPOSING_H
 #define IX_XML_IS_COMPOSING_H
 
