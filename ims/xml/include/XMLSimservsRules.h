@@ -122,6 +122,21 @@ struct XmlRuleWriterTexts {
             {2, kSchemaCode, __LINE__, marshaller "::AddEmptyElementtoXml: Malloc cannot assign memory"},    \
     }
 
+/// The rows of the elements that every marshaller of rules accepts.
+/// Required: a transformations element has the class of the actions, and is written as actions.
+#define IX_RULE_WRITER_ROWS                                                                                \
+    {"ix_ns_common_policy_ruleset",                                                                        \
+     IX_WRITER(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},                   \
+        {"ix_ns_common_policy_ruleType",                                                                   \
+         IX_WRITER(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},                 \
+        {"ix_ns_common_policy_conditionsType",                                                             \
+         IX_WRITER(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)},     \
+        {"ix_ns_common_policy_extensibleType",                                                             \
+         IX_WRITER(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)},        \
+    {                                                                                                      \
+        "ix_empty_element_type", IX_WRITER(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type) \
+    }
+
 /// Base of the marshallers of the services with a ruleset. Every operation writes one element, and answers 0 for NULL,
 /// and when it left the element unfinished because something mandatory is missing.
 ///

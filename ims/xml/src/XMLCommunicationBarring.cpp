@@ -25,14 +25,7 @@ constexpr XmlWriterRow kWriters[] = {
      IX_WRITER(Communication_barringMarshaller, AddOutgoing_communication_barringElementToXml,
                ix_outgoing_communication_barring),
      {2, kSchemaCode, __LINE__, "<XML Module>: outgoing_communication_barringMarshaller XML Failed!"}},
-    {"ix_ns_common_policy_ruleset", IX_WRITER(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},
-    {"ix_ns_common_policy_ruleType", IX_WRITER(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},
-    {"ix_ns_common_policy_conditionsType",
-     IX_WRITER(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)},
-    // Required: a transformations element has this class, too, and is written as actions.
-    {"ix_ns_common_policy_extensibleType",
-     IX_WRITER(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)},
-    {"ix_empty_element_type", IX_WRITER(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type)},
+    IX_RULE_WRITER_ROWS,
     {"ix_ns_common_policy_exceptType",
      IX_WRITER(XmlRuleMarshaller, AddExceptElementToXml, ix_ns_common_policy_exceptType)},
 };

@@ -19,16 +19,9 @@ constexpr XmlWriterRow kWriters[] = {
     {kClass,
      IX_WRITER(Communication_diversionMarshaller, AddCommunication_diversionElementToXml, ix_communication_diversion)},
     {kTimerClass, IX_WRITER(Communication_diversionMarshaller, AddNoReplyTimerElementToXml, ix_NoReplyTimer)},
-    {"ix_ns_common_policy_ruleset", IX_WRITER(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},
-    {"ix_ns_common_policy_ruleType", IX_WRITER(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},
-    {"ix_ns_common_policy_conditionsType",
-     IX_WRITER(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)},
-    // Required: a transformations element has this class, too, and is written as actions.
-    {"ix_ns_common_policy_extensibleType",
-     IX_WRITER(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)},
+    IX_RULE_WRITER_ROWS,
     {kForwardToClass,
      IX_WRITER(Communication_diversionMarshaller, AddForwardToElementtoXml, ix_ns_xcap_forward_to_type)},
-    {"ix_empty_element_type", IX_WRITER(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
