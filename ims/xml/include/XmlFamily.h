@@ -182,15 +182,21 @@ constexpr XmlDecoderInfo ixDecoderInfo(const char* source, int line,
     return info;
 }
 
+/// The two lines about events without an element, which name the decoder.
+#define IX_DECODER_NULL_TEXTS(texts, decoder)                                                        \
+    do {                                                                                             \
+        (texts).noElement = {3, kSchemaCode, __LINE__,                                               \
+                             "<XML Module>" decoder " :: ProcessElement: n_strElement is NULL"};     \
+        (texts).noAttribute = {3, kSchemaCode, __LINE__,                                             \
+                               "<XML Module>" decoder " :: ProcessAttribute: n_strElement is NULL"}; \
+    } while (false)
+
 /// The four lines about missing names, which name the decoder and the copies of the names that it works on.
 #define IX_DECODER_TEXTS(texts, decoder, elementName, attributeName)                                          \
     do {                                                                                                      \
-        (texts).noElement = {3, kSchemaCode, __LINE__,                                                        \
-                             "<XML Module>" decoder " :: ProcessElement: n_strElement is NULL"};              \
+        IX_DECODER_NULL_TEXTS(texts, decoder);                                                                \
         (texts).noElementName = {3, kSchemaCode, __LINE__,                                                    \
                                  "<XML Module>" decoder " :: ProcessElement: " elementName " is NULL"};       \
-        (texts).noAttribute = {3, kSchemaCode, __LINE__,                                                      \
-                               "<XML Module>" decoder " :: ProcessAttribute: n_strElement is NULL"};          \
         (texts).noAttributeName = {3, kSchemaCode, __LINE__,                                                  \
                                    "<XML Module>" decoder " :: ProcessAttribute: " attributeName " is NULL"}; \
     } while (false)

@@ -70,10 +70,7 @@ constexpr XmlAttributeRow kAttributes[] = {
 constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Raw;
-    info.texts.noElement = {3, kSchemaCode, __LINE__,
-                            "<XML Module>XMLConferenceInfoDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>XMLConferenceInfoDecoder :: ProcessAttribute: n_strElement is NULL"};
+    IX_DECODER_NULL_TEXTS(info.texts, "XMLConferenceInfoDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

@@ -69,12 +69,8 @@ constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
-    info.texts.noElement = {3, kSchemaCode, __LINE__,
-                            "<XML Module>XMLPresenceDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noElementName = {3, kSchemaCode, __LINE__,
-                                "<XML Module>XMLPresenceDecoder :: ProcessElement: m_PassName is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>XMLPresenceDecoder :: ProcessAttribute: n_strElement is NULL"};
+    // Required: one of the four texts ends in a blank.
+    IX_DECODER_TEXTS(info.texts, "XMLPresenceDecoder", "m_PassName", "m_PassName");
     info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
                                   "<XML Module>XMLPresenceDecoder :: ProcessAttribute: m_PassName is NULL "};
     info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,

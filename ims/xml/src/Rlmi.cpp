@@ -25,10 +25,7 @@ constexpr XmlAttributeRow kAttributes[] = {
 
 constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.texts.noElement = {3, kSchemaCode, __LINE__,
-                            "<XML Module>XMLListDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>XMLListDecoder :: ProcessAttribute: n_strElement is NULL"};
+    IX_DECODER_NULL_TEXTS(info.texts, "XMLListDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

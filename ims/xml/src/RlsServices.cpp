@@ -33,10 +33,7 @@ constexpr XmlAttributeRow kAttributes[] = {
 
 constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.texts.noElement = {3, kSchemaCode, __LINE__,
-                            "<XML Module>XMLRlsServicesDecoder :: ProcessElement: n_strElement is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>XMLRlsServicesDecoder :: ProcessAttribute: n_strElement is NULL"};
+    IX_DECODER_NULL_TEXTS(info.texts, "XMLRlsServicesDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

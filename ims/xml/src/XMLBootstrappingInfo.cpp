@@ -18,12 +18,8 @@ constexpr XmlWriterRow kWriters[] = {
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.entersFirst = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller pObj is NULL"};
     IX_MARSHALL_TEXTS(info, "BootstrappingInfoMarshaller", "mBootstrappingInfoXml");
     return info;

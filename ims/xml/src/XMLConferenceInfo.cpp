@@ -22,12 +22,8 @@ constexpr XmlWriterRow kWriters[] = {
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
     info.entersFirst = true;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
     IX_MARSHALL_TEXTS(info, "Conference_infoMarshall", "mConferenceInfoXml");
     // Required: the text is spelt like this.
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: Conference_infoMarshall :: Marshall: Receiven NULL Object"};

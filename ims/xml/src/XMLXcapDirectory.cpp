@@ -19,10 +19,8 @@ constexpr XmlWriter kFolderWriter = IX_WRITER(XcapDirectoryMarshaller, AddFolder
 constexpr XmlWriter kEntryWriter = IX_WRITER(XcapDirectoryMarshaller, AddEntryElementToXml, ix_entry);
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writers = kWriters;
-    info.writerCount = std::size(kWriters);
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    info.writesDeclaration = false;
     IX_MARSHALL_TEXTS(info, "XcapDirectoryMarshaller", "mXcapDirectoryXml");
     return info;
 }
