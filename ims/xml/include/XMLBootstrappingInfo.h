@@ -16,8 +16,10 @@
 /// The element `BootstrappingInfo`.
 class IX_XML_EXPORT ix_bootstrappinginfo : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_bootstrappinginfo";
+
     ~ix_bootstrappinginfo() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "BootstrappingInfo"; }
     int Reserved() const override { return 0; }

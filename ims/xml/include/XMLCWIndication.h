@@ -17,8 +17,10 @@
 /// The element `alternative-service`.
 class IX_XML_EXPORT ix_alternative_service : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_alternative_service";
+
     ~ix_alternative_service() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "AlternativeService"; }
     int Reserved() const override { return 0; }
@@ -41,8 +43,10 @@ class IX_XML_EXPORT ix_alternative_service : public XMLElement {
 /// The element `ims-3gpp`.
 class IX_XML_EXPORT ix_ims_3gpp : public ix_imsBodyType {
   public:
+    static constexpr char kClassName[] = "ix_ims_3gpp";
+
     ~ix_ims_3gpp() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Ims3gpp"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;

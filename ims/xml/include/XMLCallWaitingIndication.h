@@ -16,8 +16,10 @@
 /// The element `action`: what the caller is told.
 class IX_XML_EXPORT ix_ns_call_waiting_indication_action : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_call_waiting_indication_action";
+
     ~ix_ns_call_waiting_indication_action() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Action"; }
     int Reserved() const override { return 0; }
@@ -36,8 +38,10 @@ class IX_XML_EXPORT ix_ns_call_waiting_indication_action : public XMLElement {
 /// The element `alternative-service`.
 class IX_XML_EXPORT ix_ns_call_waiting_indication_alternative_service : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_call_waiting_indication_alternative_service";
+
     ~ix_ns_call_waiting_indication_alternative_service() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "AlternativeService"; }
     int Reserved() const override { return 0; }
@@ -54,8 +58,10 @@ class IX_XML_EXPORT ix_ns_call_waiting_indication_alternative_service : public X
 /// The element `3gpp-ims`.
 class IX_XML_EXPORT ix_3gpp_ims : public ix_imsBodyType {
   public:
+    static constexpr char kClassName[] = "ix_3gpp_ims";
+
     ~ix_3gpp_ims() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "3gppIms"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;

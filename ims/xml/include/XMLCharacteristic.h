@@ -18,17 +18,17 @@
 #include "XmlFamily.h"
 #include "XmlFields.h"
 
-/// The names of the two elements, and what `ClassName` of their objects returns.
-constexpr char kCharacteristicName[] = "characteristic";
-constexpr char kParmName[] = "parm";
-constexpr char kCharacteristicClass[] = "ix_characteristic";
-constexpr char kParmClass[] = "ix_parm";
+/// The names of the two elements.
+inline constexpr char kCharacteristicName[] = "characteristic";
+inline constexpr char kParmName[] = "parm";
 
 /// The element `parm`: one setting.
 class IX_XML_EXPORT ix_parm : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_parm";
+
     ~ix_parm() override;
-    const char* ClassName() const override { return kParmClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Parm"; }
     int Reserved() const override { return 0; }
@@ -51,8 +51,10 @@ class IX_XML_EXPORT ix_parm : public XMLElement {
 /// The element `characteristic`: a group of settings.
 class IX_XML_EXPORT ix_characteristic : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_characteristic";
+
     ~ix_characteristic() override;
-    const char* ClassName() const override { return kCharacteristicClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Characteristic"; }
     int Reserved() const override { return 0; }
@@ -133,9 +135,8 @@ class IX_XML_EXPORT XmlCharacteristicContext : public XmlFamilyContext {
 /// @{
 
 constexpr XmlContainerRow kCharacteristicRow = {XmlKnownName::Of(kCharacteristicName), XmlContainerRow::Child,
-                                                kCharacteristicClass, IX_CREATOR(ix_characteristic)};
-constexpr XmlContainerRow kParmRow = {XmlKnownName::Of(kParmName), XmlContainerRow::Child, kParmClass,
-                                      IX_CREATOR(ix_parm)};
+                                                IX_OBJECT(ix_characteristic)};
+constexpr XmlContainerRow kParmRow = {XmlKnownName::Of(kParmName), XmlContainerRow::Child, IX_OBJECT(ix_parm)};
 
 /// @param containers the row of the root and the two rows above.
 template <std::size_t count>

@@ -68,8 +68,10 @@ class IX_XML_EXPORT XMLAttribute : public XmlHeapObject {
 /// An element whose content is one text.
 class IX_XML_EXPORT ix_string : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_string";
+
     ~ix_string() override;
-    const char* ClassName() const override { return "ix_string"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "string_class"; }
     int Reserved() const override { return 0; }
@@ -84,8 +86,10 @@ class IX_XML_EXPORT ix_string : public XMLElement {
 /// An element without content, whose presence is the information.
 class IX_XML_EXPORT ix_empty_element_type : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_empty_element_type";
+
     ~ix_empty_element_type() override;
-    const char* ClassName() const override { return "ix_empty_element_type"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "empty_element"; }
     int Reserved() const override { return 0; }
@@ -103,8 +107,10 @@ class IX_XML_EXPORT ix_empty_element_type : public XMLElement {
 /// One attribute: a name and its value.
 class IX_XML_EXPORT ix_AttributeValuePair : public XMLAttribute {
   public:
+    static constexpr char kClassName[] = "ix_AttributeValuePair";
+
     ~ix_AttributeValuePair() override;
-    const char* ClassName() const override { return "ix_AttributeValuePair"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLAttribute"; }
     const char* TypeName() const override { return "AttributeValuePair"; }
     int Reserved() const override { return 0; }

@@ -26,8 +26,10 @@ class IX_XML_EXPORT ix_ns_common_policy_type : public XMLElement {
 /// Actions or transformations of a rule: any elements, in document order.
 class IX_XML_EXPORT ix_ns_common_policy_extensibleType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_extensibleType";
+
     ~ix_ns_common_policy_extensibleType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_extensibleType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:ExtensibleType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -43,8 +45,10 @@ class IX_XML_EXPORT ix_ns_common_policy_extensibleType : public ix_ns_common_pol
 /// The element `except`: whom a `many` does not match.
 class IX_XML_EXPORT ix_ns_common_policy_exceptType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_exceptType";
+
     ~ix_ns_common_policy_exceptType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_exceptType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:ExceptType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
@@ -60,8 +64,10 @@ class IX_XML_EXPORT ix_ns_common_policy_exceptType : public ix_ns_common_policy_
 /// The element `one`: exactly one identity.
 class IX_XML_EXPORT ix_ns_common_policy_oneType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_oneType";
+
     ~ix_ns_common_policy_oneType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_oneType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:OneType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -81,8 +87,10 @@ class IX_XML_EXPORT ix_ns_common_policy_oneType : public ix_ns_common_policy_typ
 /// The element `many`: every identity, or every one of a domain, with exceptions.
 class IX_XML_EXPORT ix_ns_common_policy_manyType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_manyType";
+
     ~ix_ns_common_policy_manyType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_manyType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:ManyType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -106,8 +114,10 @@ class IX_XML_EXPORT ix_ns_common_policy_manyType : public ix_ns_common_policy_ty
 /// The element `identity`: who a rule is about.
 class IX_XML_EXPORT ix_ns_common_policy_identityType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_identityType";
+
     ~ix_ns_common_policy_identityType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_identityType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:IdentityType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -129,8 +139,10 @@ class IX_XML_EXPORT ix_ns_common_policy_identityType : public ix_ns_common_polic
 /// The element `sphere`: the state that the user is in, such as "work".
 class IX_XML_EXPORT ix_ns_common_policy_sphereType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_sphereType";
+
     ~ix_ns_common_policy_sphereType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_sphereType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:SphereType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
@@ -144,8 +156,10 @@ class IX_XML_EXPORT ix_ns_common_policy_sphereType : public ix_ns_common_policy_
 /// The element `validity`: periods in which a rule holds. The n-th entries of both lists are one period.
 class IX_XML_EXPORT ix_ns_common_policy_validityType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_validityType";
+
     ~ix_ns_common_policy_validityType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_validityType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:ValidityType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -164,8 +178,10 @@ class IX_XML_EXPORT ix_ns_common_policy_validityType : public ix_ns_common_polic
 /// The element `conditions`: when a rule applies.
 class IX_XML_EXPORT ix_ns_common_policy_conditionsType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_conditionsType";
+
     ~ix_ns_common_policy_conditionsType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_conditionsType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:ConditionsType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -191,8 +207,10 @@ class IX_XML_EXPORT ix_ns_common_policy_conditionsType : public ix_ns_common_pol
 /// The element `rule`.
 class IX_XML_EXPORT ix_ns_common_policy_ruleType : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_ruleType";
+
     ~ix_ns_common_policy_ruleType() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_ruleType"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:RuleType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -216,8 +234,10 @@ class IX_XML_EXPORT ix_ns_common_policy_ruleType : public ix_ns_common_policy_ty
 /// The element `ruleset`.
 class IX_XML_EXPORT ix_ns_common_policy_ruleset : public ix_ns_common_policy_type {
   public:
+    static constexpr char kClassName[] = "ix_ns_common_policy_ruleset";
+
     ~ix_ns_common_policy_ruleset() override;
-    const char* ClassName() const override { return "ix_ns_common_policy_ruleset"; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommonPolicy:Ruleset"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;

@@ -21,8 +21,10 @@ enum XML_COMMUNICATION_BARRING_TYPE { XML_CB_INCOMING = 1, XML_CB_OUTGOING = 2, 
 /// The action `allow`.
 class IX_XML_EXPORT ix_allow_action_type : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_allow_action_type";
+
     ~ix_allow_action_type() override;
-    const char* ClassName() const override { return "ix_allow_action_type"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "CommunicationBarring:AllowActionType"; }
     int Reserved() const override { return 0; }
@@ -44,7 +46,9 @@ class IX_XML_EXPORT ix_ns_communication_barringType : public ix_ns_xcap_ruleServ
 /// The element `incoming-communication-barring`.
 class IX_XML_EXPORT ix_incoming_communication_barring : public ix_ns_communication_barringType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "incoming-communication-barring";
+
+    const char* ClassName() const override { return kClassName; }
     /// Required: spelt with one "m".
     const char* TypeName() const override { return "IncomingComunicationBarring"; }
 };
@@ -52,7 +56,9 @@ class IX_XML_EXPORT ix_incoming_communication_barring : public ix_ns_communicati
 /// The element `outgoing-communication-barring`.
 class IX_XML_EXPORT ix_outgoing_communication_barring : public ix_ns_communication_barringType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "outgoing-communication-barring";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "OutgoingCommunicationBarring"; }
 };
 

@@ -18,8 +18,10 @@
 /// The element `NoReplyTimer`: for how long a call rings before it is forwarded.
 class IX_XML_EXPORT ix_NoReplyTimer : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_NoReplyTimer";
+
     ~ix_NoReplyTimer() override;
-    const char* ClassName() const override { return "ix_NoReplyTimer"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "NoReplyTimer"; }
     int Reserved() const override { return 0; }
@@ -31,51 +33,13 @@ class IX_XML_EXPORT ix_NoReplyTimer : public XMLElement {
     unsigned int mNoReplyTimer = 0;  ///< Seconds; 0 until set.
 };
 
-/// The element `forward-to`: the target of a forwarded call, and who is told what about it.
-///
-/// The notifications are 1 (true), 0 (false) or -1 (not set); the others are indices of the texts "false",
-/// "not-reveal-GRUU" and "true", or 3 (not set).
-class IX_XML_EXPORT ix_ns_xcap_forward_to_type : public XMLElement {
-  public:
-    static constexpr int kNotifyNotSet = -1;
-    static constexpr int kRevealNotSet = 3;
-
-    ~ix_ns_xcap_forward_to_type() override;
-    const char* ClassName() const override { return "ix_ns_xcap_forward_to_type"; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "CommunicationDiversion:ForwardToType"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-
-    /// Copies the address; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
-    int setTargetValue(const char* target) { return ixSetText(mTarget, target); }
-    /// @return 1.
-    int setNotifyCallerValue(int value) { return ixSetNumber(mNotifyCaller, value); }
-    int setRevealIdentityToCallerValue(int value) { return ixSetNumber(mRevealIdentityToCaller, value); }
-    int setRevealServedUserIdentityToCallerValue(int value) {
-        return ixSetNumber(mRevealServedUserIdentityToCaller, value);
-    }
-    int setNotifyServedUserValue(int value) { return ixSetNumber(mNotifyServedUser, value); }
-    int setNotifyServedUserOnOutboundCallValue(int value) {
-        return ixSetNumber(mNotifyServedUserOnOutboundCall, value);
-    }
-    int setRevealIdentityToTargetValue(int value) { return ixSetNumber(mRevealIdentityToTarget, value); }
-
-    char* mTarget = nullptr;  ///< Owned; a URI. NULL: not set.
-    int mNotifyCaller = kNotifyNotSet;
-    int mRevealIdentityToCaller = kRevealNotSet;
-    int mRevealServedUserIdentityToCaller = kRevealNotSet;
-    int mNotifyServedUser = kNotifyNotSet;
-    int mNotifyServedUserOnOutboundCall = kNotifyNotSet;
-    int mRevealIdentityToTarget = kRevealNotSet;
-};
-
 /// The element `communication-diversion`.
 class IX_XML_EXPORT ix_communication_diversion : public ix_ns_xcap_ruleServiceType {
   public:
+    static constexpr char kClassName[] = "communication-diversion";
+
     ~ix_communication_diversion() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommunicationDiversion"; }
     const XmlFieldTable* FieldTable() const override;
     /// As the base class; also takes the text of `NoReplyTimer`.

@@ -15,10 +15,12 @@
 /// The element `communication-waiting`.
 class IX_XML_EXPORT ix_communication_waiting : public ix_ns_xcap_simservType {
   public:
+    static constexpr char kClassName[] = "communication-waiting";
+
     /// Unlike the other services, a new one is inactive.
     ix_communication_waiting() { mActive = 0; }
 
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CommunicationWaiting"; }
     /// Child elements are ignored. @return 1.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;

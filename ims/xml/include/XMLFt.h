@@ -16,8 +16,10 @@
 /// The element `data`: where a file is, and how long.
 class IX_XML_EXPORT ix_ns_ft_data : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_ft_data";
+
     ~ix_ns_ft_data() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Data"; }
     int Reserved() const override { return 0; }
@@ -39,8 +41,10 @@ class IX_XML_EXPORT ix_ns_ft_data : public XMLElement {
 /// The element `file-info`: the file itself, or its thumbnail.
 class IX_XML_EXPORT ix_ns_ft_file_info : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_ft_file_info";
+
     ~ix_ns_ft_file_info() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "FileInfo"; }
     int Reserved() const override { return 0; }
@@ -63,8 +67,10 @@ class IX_XML_EXPORT ix_ns_ft_file_info : public XMLElement {
 /// The element `file`.
 class IX_XML_EXPORT ix_file : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_file";
+
     ~ix_file() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "File"; }
     int Reserved() const override { return 0; }

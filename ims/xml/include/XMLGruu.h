@@ -34,7 +34,9 @@ class IX_XML_EXPORT ix_gruuType : public XMLObject {
 /// The element `pub-gruu`: a public GRUU.
 class IX_XML_EXPORT ix_pub_gruu : public ix_gruuType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "ix_pub_gruu";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "PubGruu"; }
 
   protected:
@@ -44,7 +46,9 @@ class IX_XML_EXPORT ix_pub_gruu : public ix_gruuType {
 /// The element `temp-gruu`: a temporary GRUU.
 class IX_XML_EXPORT ix_temp_gruu : public ix_gruuType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "ix_temp_gruu";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "TempGruu"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
@@ -61,7 +65,9 @@ class IX_XML_EXPORT ix_temp_gruu : public ix_gruuType {
 /// A public GRUU inside another document.
 class IX_XML_EXPORT ix_ns_gruuinfo_pubGruu : public ix_pub_gruu {
   public:
-    const char* ClassName() const override { return "ix_ns_gruuinfo_pubGruu"; }
+    static constexpr char kClassName[] = "ix_ns_gruuinfo_pubGruu";
+
+    const char* ClassName() const override { return kClassName; }
     int IsRootElement() const override { return 0; }
 
   protected:
@@ -71,7 +77,9 @@ class IX_XML_EXPORT ix_ns_gruuinfo_pubGruu : public ix_pub_gruu {
 /// A temporary GRUU inside another document.
 class IX_XML_EXPORT ix_ns_gruuinfo_tempGruu : public ix_temp_gruu {
   public:
-    const char* ClassName() const override { return "ix_ns_gruuinfo_tempGruu"; }
+    static constexpr char kClassName[] = "ix_ns_gruuinfo_tempGruu";
+
+    const char* ClassName() const override { return kClassName; }
     int IsRootElement() const override { return 0; }
 
   protected:

@@ -19,7 +19,7 @@
 
 /// The element of a processing notification as it is read. Required: it is written by the fixed string, which lacks a
 /// letter, so that a written processing notification is not read back as one.
-constexpr char kProcessingNotificationElement[] = "processing-notification";
+inline constexpr char kProcessingNotificationElement[] = "processing-notification";
 
 /// What the seven values of a status share: an empty element, present as soon as there is an object.
 class IX_XML_EXPORT ix_statusValueType : public ix_empty_element_type {
@@ -30,57 +30,73 @@ class IX_XML_EXPORT ix_statusValueType : public ix_empty_element_type {
 /// The element `delivered`: the message reached the recipient's device.
 class IX_XML_EXPORT ix_delivered : public ix_statusValueType {
   public:
-    const char* ClassName() const override { return "ix_delivered"; }
+    static constexpr char kClassName[] = "ix_delivered";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Delivered"; }
 };
 
 /// The element `failed`: the message could not be delivered.
 class IX_XML_EXPORT ix_failed : public ix_statusValueType {
   public:
-    const char* ClassName() const override { return "ix_failed"; }
+    static constexpr char kClassName[] = "ix_failed";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Failed"; }
 };
 
 /// The element `displayed`: the message was shown to the recipient.
 class IX_XML_EXPORT ix_displayed : public ix_statusValueType {
   public:
-    const char* ClassName() const override { return "ix_displayed"; }
+    static constexpr char kClassName[] = "ix_displayed";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Displayed"; }
 };
 
 /// The element `processed`: an intermediary has processed the message.
 class IX_XML_EXPORT ix_processed : public ix_statusValueType {
   public:
-    const char* ClassName() const override { return "ix_processed"; }
+    static constexpr char kClassName[] = "ix_processed";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Processed"; }
 };
 
 /// The element `stored`: an intermediary keeps the message for later delivery.
 class IX_XML_EXPORT ix_stored : public ix_statusValueType {
   public:
-    const char* ClassName() const override { return "ix_stored"; }
+    static constexpr char kClassName[] = "ix_stored";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Stored"; }
 };
 
 /// The element `forbidden`: the recipient does not want to say.
 class IX_XML_EXPORT ix_forbidden : public ix_statusValueType {
   public:
-    const char* ClassName() const override { return "ix_forbidden"; }
+    static constexpr char kClassName[] = "ix_forbidden";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Forbidden"; }
 };
 
 /// The element `error`: what became of the message is not known.
 class IX_XML_EXPORT ix_error : public ix_statusValueType {
   public:
-    const char* ClassName() const override { return "ix_error"; }
+    static constexpr char kClassName[] = "ix_error";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Error"; }
 };
 
 /// The element `status` of a notification. At most one of the seven values is expected to be set.
 class IX_XML_EXPORT ix_status : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_status";
+
     ~ix_status() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Status"; }
     int Reserved() const override { return 0; }
@@ -141,29 +157,37 @@ class IX_XML_EXPORT ix_notificationType : public XMLElement {
 /// The element `delivery-notification`, whose status is delivered, failed, forbidden or error.
 class IX_XML_EXPORT ix_delivery_notification : public ix_notificationType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "ix_delivery_notification";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "DeliveryNotification"; }
 };
 
 /// The element `display-notification`, whose status is displayed, forbidden or error.
 class IX_XML_EXPORT ix_display_notification : public ix_notificationType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "ix_display_notification";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "DisplayNotification"; }
 };
 
 /// The element `processing-notification`, whose status is processed, stored, forbidden or error.
 class IX_XML_EXPORT ix_processing_notification : public ix_notificationType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "ix_processing_notification";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "ProcessingNotification"; }
 };
 
 /// The element `imdn`.
 class IX_XML_EXPORT ix_imdn : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_imdn";
+
     ~ix_imdn() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "Imdn"; }
     int Reserved() const override { return 0; }

@@ -16,8 +16,10 @@
 /// The element `isComposing`.
 class IX_XML_EXPORT ix_isComposing : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_isComposing";
+
     ~ix_isComposing() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "IsComposing"; }
     int Reserved() const override { return 0; }

@@ -17,8 +17,10 @@
 /// The element `to_encoder`: what the sender's encoder is to do.
 class IX_XML_EXPORT ix_to_encoder : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_to_encoder";
+
     ~ix_to_encoder() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "ToEncoder"; }
     int Reserved() const override { return 0; }
@@ -34,8 +36,10 @@ class IX_XML_EXPORT ix_to_encoder : public XMLElement {
 /// The element `vc_primitive`.
 class IX_XML_EXPORT ix_vc_primitive : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_vc_primitive";
+
     ~ix_vc_primitive() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "VcPrimitive"; }
     int Reserved() const override { return 0; }
@@ -51,8 +55,10 @@ class IX_XML_EXPORT ix_vc_primitive : public XMLElement {
 /// The element `media_control`.
 class IX_XML_EXPORT ix_media_control : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_media_control";
+
     ~ix_media_control() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "MediaControl"; }
     int Reserved() const override { return 0; }

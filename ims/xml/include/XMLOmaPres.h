@@ -54,21 +54,27 @@ class IX_XML_EXPORT ix_ns_oma_pres_basicType : public XMLElement {
 /// The element `willingness`: whether the user wants to be reached by a service.
 class IX_XML_EXPORT ix_ns_oma_pres_willingness : public ix_ns_oma_pres_basicType {
   public:
-    const char* ClassName() const override { return "ix_ns_oma_pres_willingness"; }
+    static constexpr char kClassName[] = "ix_ns_oma_pres_willingness";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "Willingness"; }
 };
 
 /// The element `session-participation`: whether the user takes part in a session of a service.
 class IX_XML_EXPORT ix_ns_oma_pres_session_participation : public ix_ns_oma_pres_basicType {
   public:
-    const char* ClassName() const override { return "ix_ns_oma_pres_session_participation"; }
+    static constexpr char kClassName[] = "ix_ns_oma_pres_session_participation";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "SessionParticipation"; }
 };
 
 /// The element `overriding-willingness`: whether the user wants to be reached at all.
 class IX_XML_EXPORT ix_ns_oma_pres_overriding_willingness : public ix_ns_oma_pres_basicType {
   public:
-    const char* ClassName() const override { return "ix_ns_oma_pres_overriding_willingness"; }
+    static constexpr char kClassName[] = "ix_ns_oma_pres_overriding_willingness";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "OverridingWillingness"; }
 };
 
@@ -94,7 +100,9 @@ class IX_XML_EXPORT ix_ns_oma_pres_stateType : public XMLElement {
 /// The element `registration-state`: whether the user is registered for a service.
 class IX_XML_EXPORT ix_ns_oma_pres_registration_state : public ix_ns_oma_pres_stateType {
   public:
-    const char* ClassName() const override { return "ix_ns_oma_pres_registration_state"; }
+    static constexpr char kClassName[] = "ix_ns_oma_pres_registration_state";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "RegistrationState"; }
 
   protected:
@@ -105,7 +113,9 @@ class IX_XML_EXPORT ix_ns_oma_pres_registration_state : public ix_ns_oma_pres_st
 /// the end tag of `barring`, not at that of its own name, which it ignores like any other.
 class IX_XML_EXPORT ix_ns_oma_pres_barring_state : public ix_ns_oma_pres_stateType {
   public:
-    const char* ClassName() const override { return "ix_ns_oma_pres_barring_state"; }
+    static constexpr char kClassName[] = "ix_ns_oma_pres_barring_state";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "BarringState"; }
 
   protected:

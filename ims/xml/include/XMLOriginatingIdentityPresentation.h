@@ -14,7 +14,9 @@
 /// The element `originating-identity-presentation`.
 class IX_XML_EXPORT ix_originating_identity_presentation : public ix_ns_identity_presentationType {
   public:
-    const char* ClassName() const override;
+    static constexpr char kClassName[] = "originating-identity-presentation";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "OriginatingIdentityPresentation"; }
 
   protected:

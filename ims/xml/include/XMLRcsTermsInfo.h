@@ -16,8 +16,10 @@
 /// The element `term`: one document for the user to read.
 class IX_XML_EXPORT ix_ns_rcs_terms_info_term : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_rcs_terms_info_term";
+
     ~ix_ns_rcs_terms_info_term() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Term"; }
     int Reserved() const override { return 0; }
@@ -37,8 +39,10 @@ class IX_XML_EXPORT ix_ns_rcs_terms_info_term : public XMLElement {
 /// The element `rcs-terms-info`.
 class IX_XML_EXPORT ix_rcs_terms_info : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_rcs_terms_info";
+
     ~ix_rcs_terms_info() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "RcsTermsInfo"; }
     int Reserved() const override { return 0; }

@@ -49,8 +49,10 @@ enum ix_contact_event_type_enum {
 /// The element `unknown-param`: a parameter of the Contact header field that has no attribute of its own.
 class IX_XML_EXPORT ix_unknown_param : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_unknown_param";
+
     ~ix_unknown_param() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "unknown-param"; }
     int Reserved() const override { return 0; }
@@ -71,8 +73,10 @@ class IX_XML_EXPORT ix_unknown_param : public XMLObject {
 /// The element `contact`: a binding of an address of record to a device.
 class IX_XML_EXPORT ix_ns_reginfo_contact : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_reginfo_contact";
+
     ~ix_ns_reginfo_contact() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "contact"; }
     int Reserved() const override { return 0; }
@@ -128,8 +132,10 @@ class IX_XML_EXPORT ix_ns_reginfo_contact : public XMLElement {
 /// The element `registration`: an address of record and its contacts.
 class IX_XML_EXPORT ix_registration : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_registration";
+
     ~ix_registration() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "registration"; }
     int Reserved() const override { return 0; }
@@ -170,8 +176,10 @@ class IX_XML_EXPORT ix_registration : public XMLElement {
 /// The root element `reginfo`.
 class IX_XML_EXPORT ix_reginfo : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_reginfo";
+
     ~ix_reginfo() override;
-    const char* ClassName() const override;
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "reginfo"; }
     int Reserved() const override { return 0; }

@@ -17,17 +17,14 @@
 
 /// @name Class names, as `ClassName()` returns them.
 /// @{
-constexpr char kListTypeClass[] = "ix_listType";
-constexpr char kEntryTypeClass[] = "ix_entryType";
-constexpr char kEntryRefTypeClass[] = "ix_entry_refType";
-constexpr char kExternalTypeClass[] = "ix_externalType";
-constexpr char kDisplayNameTypeClass[] = "ix_display_nameType";
 /// @}
 
 /// The element `display-name`: a name for people, its text. It takes no attributes.
 class IX_XML_EXPORT ix_display_nameType : public ix_string {
   public:
-    const char* ClassName() const override { return kDisplayNameTypeClass; }
+    static constexpr char kClassName[] = "ix_display_nameType";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "display-nameType"; }
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 };
@@ -58,8 +55,10 @@ class IX_XML_EXPORT ix_listMemberType : public XMLElement {
 /// The element `entry`: one contact.
 class IX_XML_EXPORT ix_entryType : public ix_listMemberType {
   public:
+    static constexpr char kClassName[] = "ix_entryType";
+
     ~ix_entryType() override;
-    const char* ClassName() const override { return kEntryTypeClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "entryType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
@@ -73,8 +72,10 @@ class IX_XML_EXPORT ix_entryType : public ix_listMemberType {
 /// The element `entry-ref`: a contact by reference to an entry of another list.
 class IX_XML_EXPORT ix_entry_refType : public ix_listMemberType {
   public:
+    static constexpr char kClassName[] = "ix_entry_refType";
+
     ~ix_entry_refType() override;
-    const char* ClassName() const override { return kEntryRefTypeClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "entry-refType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
@@ -88,8 +89,10 @@ class IX_XML_EXPORT ix_entry_refType : public ix_listMemberType {
 /// The element `external`: a list of another server.
 class IX_XML_EXPORT ix_externalType : public ix_listMemberType {
   public:
+    static constexpr char kClassName[] = "ix_externalType";
+
     ~ix_externalType() override;
-    const char* ClassName() const override { return kExternalTypeClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "externalType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
@@ -103,8 +106,10 @@ class IX_XML_EXPORT ix_externalType : public ix_listMemberType {
 /// The element `list`.
 class IX_XML_EXPORT ix_listType : public ix_listMemberType {
   public:
+    static constexpr char kClassName[] = "ix_listType";
+
     ~ix_listType() override;
-    const char* ClassName() const override { return kListTypeClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "listType"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -134,8 +139,10 @@ class IX_XML_EXPORT ix_listType : public ix_listMemberType {
 /// The element `resource-lists`. Anything but lists is refused.
 class IX_XML_EXPORT ix_resource_lists : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_resource_lists";
+
     ~ix_resource_lists() override;
-    const char* ClassName() const override { return "ix_resource_lists"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "resource-lists"; }
     int Reserved() const override { return 0; }

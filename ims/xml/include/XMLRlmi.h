@@ -16,15 +16,14 @@
 
 /// @name Class names, as `ClassName()` returns them.
 /// @{
-constexpr char kRlmiNameClass[] = "ix_name";
-constexpr char kRlmiResourceClass[] = "ix_resource";
-constexpr char kRlmiInstanceClass[] = "ix_instance";
 /// @}
 
 /// The element `name`: a name for people, its text. Its language is not kept.
 class IX_XML_EXPORT ix_name : public ix_string {
   public:
-    const char* ClassName() const override { return kRlmiNameClass; }
+    static constexpr char kClassName[] = "ix_name";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "name"; }
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 };
@@ -40,8 +39,10 @@ enum eRlmiInstanceState {
 /// The element `instance`: one subscription to a resource. It has no content; what stands in one is ignored.
 class IX_XML_EXPORT ix_instance : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_instance";
+
     ~ix_instance() override;
-    const char* ClassName() const override { return kRlmiInstanceClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "instance"; }
     int Reserved() const override { return 0; }
@@ -74,8 +75,10 @@ class IX_XML_EXPORT ix_instance : public XMLElement {
 /// The element `resource`: a member of the list. Anything but names and instances is refused.
 class IX_XML_EXPORT ix_resource : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_resource";
+
     ~ix_resource() override;
-    const char* ClassName() const override { return kRlmiResourceClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "resource"; }
     int Reserved() const override { return 0; }
@@ -112,8 +115,10 @@ class IX_XML_EXPORT ix_resource : public XMLElement {
 /// The root element `list`. Anything but names and resources is refused.
 class IX_XML_EXPORT ix_list : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_list";
+
     ~ix_list() override;
-    const char* ClassName() const override { return "ix_list"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "list"; }
     int Reserved() const override { return 0; }

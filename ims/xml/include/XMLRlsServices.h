@@ -19,15 +19,14 @@
 
 /// @name Class names, as `ClassName()` returns them.
 /// @{
-constexpr char kRlsServiceClass[] = "ix_ns_rls_services_serviceType";
-constexpr char kRlsPackagesClass[] = "ix_ns_rls_services_packagesType";
-constexpr char kRlsPackageClass[] = "ix_ns_rls_services_packageType";
 /// @}
 
 /// The element `package`: an event package ("presence"), its text.
 class IX_XML_EXPORT ix_ns_rls_services_packageType : public ix_string {
   public:
-    const char* ClassName() const override { return kRlsPackageClass; }
+    static constexpr char kClassName[] = "ix_ns_rls_services_packageType";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "packageType"; }
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 };
@@ -35,8 +34,10 @@ class IX_XML_EXPORT ix_ns_rls_services_packageType : public ix_string {
 /// The element `packages`. Anything but packages is refused.
 class IX_XML_EXPORT ix_ns_rls_services_packagesType : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_rls_services_packagesType";
+
     ~ix_ns_rls_services_packagesType() override;
-    const char* ClassName() const override { return kRlsPackagesClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "packagesType"; }
     int Reserved() const override { return 0; }
@@ -57,8 +58,10 @@ class IX_XML_EXPORT ix_ns_rls_services_packagesType : public XMLElement {
 /// The element `service`. Content that has no place is logged and ignored.
 class IX_XML_EXPORT ix_ns_rls_services_serviceType : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_rls_services_serviceType";
+
     ~ix_ns_rls_services_serviceType() override;
-    const char* ClassName() const override { return kRlsServiceClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "serviceType"; }
     int Reserved() const override { return 0; }
@@ -93,8 +96,10 @@ class IX_XML_EXPORT ix_ns_rls_services_serviceType : public XMLElement {
 /// The element `rls-services`. Anything but services is refused.
 class IX_XML_EXPORT ix_rls_services : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_rls_services";
+
     ~ix_rls_services() override;
-    const char* ClassName() const override { return "ix_rls_services"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "rls-services"; }
     int Reserved() const override { return 0; }

@@ -12,13 +12,14 @@
 #include "XmlFamily.h"
 
 /// What `ix_schema_namespace_retrieval::ClassName` returns.
-constexpr char kSchemaNamespaceRetrievalClass[] = "ix_schema_namespace_retrieval";
 
 /// The declarations of a document.
 class IX_XML_EXPORT ix_schema_namespace_retrieval : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_schema_namespace_retrieval";
+
     ~ix_schema_namespace_retrieval() override;
-    const char* ClassName() const override { return kSchemaNamespaceRetrievalClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "SchemaNamespaceRetrieval"; }
     int Reserved() const override { return 0; }

@@ -25,8 +25,10 @@
 /// The element `simservs`.
 class IX_XML_EXPORT ix_Simservs : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_Simservs";
+
     ~ix_Simservs() override;
-    const char* ClassName() const override { return "ix_Simservs"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Simservs"; }
     int Reserved() const override { return 0; }

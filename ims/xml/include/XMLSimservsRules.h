@@ -10,8 +10,10 @@
 /// The condition `media`: a media type of the call, such as "audio".
 class IX_XML_EXPORT ix_ns_xcap_media_type : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_ns_xcap_media_type";
+
     ~ix_ns_xcap_media_type() override;
-    const char* ClassName() const override { return "ix_ns_xcap_media_type"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "MediaType"; }
     int Reserved() const override { return 0; }
@@ -27,8 +29,10 @@ class IX_XML_EXPORT ix_ns_xcap_media_type : public XMLElement {
 /// The condition `presence-status`. Read, but never written.
 class IX_XML_EXPORT ix_presence_status_activity_type : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_presence_status_activity_type";
+
     ~ix_presence_status_activity_type() override;
-    const char* ClassName() const override { return "ix_presence_status_activity_type"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "PresenceStatusActivityType"; }
     int Reserved() const override { return 0; }
@@ -44,8 +48,10 @@ class IX_XML_EXPORT ix_presence_status_activity_type : public XMLElement {
 /// The condition `external-list`. Neither read nor written; the class is there for applications.
 class IX_XML_EXPORT ix_external_list : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_external_list";
+
     ~ix_external_list() override;
-    const char* ClassName() const override { return "ix_external_list"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "ExternalList"; }
     int Reserved() const override { return 0; }
@@ -55,6 +61,50 @@ class IX_XML_EXPORT ix_external_list : public XMLElement {
     int setExternalListValue(const char* list) { return ixOverwriteWithText(mExternalList, list); }
 
     char* mExternalList = nullptr;  ///< Owned; NULL: not set.
+};
+
+/// The action `forward-to`: the target of a forwarded call, and who is told what about it.
+///
+/// The notifications are 1 (true), 0 (false) or -1 (not set); the others are indices of the texts "false",
+/// "not-reveal-GRUU" and "true", or 3 (not set).
+class IX_XML_EXPORT ix_ns_xcap_forward_to_type : public XMLElement {
+  public:
+    static constexpr char kClassName[] = "ix_ns_xcap_forward_to_type";
+
+    static constexpr int kNotifyNotSet = -1;
+    static constexpr int kRevealNotSet = 3;
+    /// The text of a value that is no notification; NULL: not set.
+    static const char* RevealText(int value);
+
+    ~ix_ns_xcap_forward_to_type() override;
+    const char* ClassName() const override { return kClassName; }
+    const char* BaseClassName() const override { return "XMLElement"; }
+    const char* TypeName() const override { return "CommunicationDiversion:ForwardToType"; }
+    int Reserved() const override { return 0; }
+    const XmlFieldTable* FieldTable() const override;
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+
+    /// Copies the address; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
+    int setTargetValue(const char* target) { return ixSetText(mTarget, target); }
+    /// @return 1.
+    int setNotifyCallerValue(int value) { return ixSetNumber(mNotifyCaller, value); }
+    int setRevealIdentityToCallerValue(int value) { return ixSetNumber(mRevealIdentityToCaller, value); }
+    int setRevealServedUserIdentityToCallerValue(int value) {
+        return ixSetNumber(mRevealServedUserIdentityToCaller, value);
+    }
+    int setNotifyServedUserValue(int value) { return ixSetNumber(mNotifyServedUser, value); }
+    int setNotifyServedUserOnOutboundCallValue(int value) {
+        return ixSetNumber(mNotifyServedUserOnOutboundCall, value);
+    }
+    int setRevealIdentityToTargetValue(int value) { return ixSetNumber(mRevealIdentityToTarget, value); }
+
+    char* mTarget = nullptr;  ///< Owned; a URI. NULL: not set.
+    int mNotifyCaller = kNotifyNotSet;
+    int mRevealIdentityToCaller = kRevealNotSet;
+    int mRevealServedUserIdentityToCaller = kRevealNotSet;
+    int mNotifyServedUser = kNotifyNotSet;
+    int mNotifyServedUserOnOutboundCall = kNotifyNotSet;
+    int mRevealIdentityToTarget = kRevealNotSet;
 };
 
 /// The root element of a service with a ruleset.
@@ -124,17 +174,12 @@ struct XmlRuleWriterTexts {
 
 /// The rows of the elements that every marshaller of rules accepts.
 /// Required: a transformations element has the class of the actions, and is written as actions.
-#define IX_RULE_WRITER_ROWS                                                                                \
-    {"ix_ns_common_policy_ruleset",                                                                        \
-     IX_WRITER(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},                   \
-        {"ix_ns_common_policy_ruleType",                                                                   \
-         IX_WRITER(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},                 \
-        {"ix_ns_common_policy_conditionsType",                                                             \
-         IX_WRITER(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)},     \
-        {"ix_ns_common_policy_extensibleType",                                                             \
-         IX_WRITER(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)},        \
-    {                                                                                                      \
-        "ix_empty_element_type", IX_WRITER(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type) \
+#define IX_RULE_WRITER_ROWS                                                                               \
+    {IX_WRITER_OF(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},               \
+        {IX_WRITER_OF(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},             \
+        {IX_WRITER_OF(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)}, \
+        {IX_WRITER_OF(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)}, {  \
+        IX_WRITER_OF(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type)                      \
     }
 
 /// Base of the marshallers of the services with a ruleset. Every operation writes one element, and answers 0 for NULL,

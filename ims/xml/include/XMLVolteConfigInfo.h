@@ -14,7 +14,9 @@
 /// The element `volte-config-info`.
 class IX_XML_EXPORT ix_volte_config_info : public ix_characteristicDocType {
   public:
-    const char* ClassName() const override { return "ix_volte_config_info"; }
+    static constexpr char kClassName[] = "ix_volte_config_info";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "VolteConfigInfo"; }
 };
 

@@ -14,7 +14,9 @@
 /// The element `wap-provisioningdoc`.
 class IX_XML_EXPORT ix_wap_provisioning_doc : public ix_characteristicDocType {
   public:
-    const char* ClassName() const override { return "ix_wap_provisioning_doc"; }
+    static constexpr char kClassName[] = "ix_wap_provisioning_doc";
+
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "WapProvisioningDoc"; }
 };
 

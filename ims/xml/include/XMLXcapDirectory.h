@@ -22,10 +22,10 @@ class ix_folder;
 /// The element `xcap-directory`.
 class IX_XML_EXPORT ix_xcap_directory : public XMLElement {
   public:
-    static constexpr char kClass[] = "ix_xcap_directory";
+    static constexpr char kClassName[] = "ix_xcap_directory";
 
     ~ix_xcap_directory() override;
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "XcapDirectory"; }
     int Reserved() const override { return 0; }
@@ -43,10 +43,10 @@ class IX_XML_EXPORT ix_xcap_directory : public XMLElement {
 /// The element `folder`: the documents of one application usage.
 class IX_XML_EXPORT ix_folder : public XMLElement {
   public:
-    static constexpr char kClass[] = "ix_folder";
+    static constexpr char kClassName[] = "ix_folder";
 
     ~ix_folder() override;
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Folder"; }
     int Reserved() const override { return 0; }
@@ -73,10 +73,10 @@ class IX_XML_EXPORT ix_folder : public XMLElement {
 /// The element `entry`: one document.
 class IX_XML_EXPORT ix_entry : public XMLElement {
   public:
-    static constexpr char kClass[] = "ix_entry";
+    static constexpr char kClassName[] = "ix_entry";
 
     ~ix_entry() override;
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Entry"; }
     int Reserved() const override { return 0; }

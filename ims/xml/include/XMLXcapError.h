@@ -36,10 +36,10 @@ class IX_XML_EXPORT ix_phraseType : public XMLElement {
 /// The element `xcap-error`.
 class IX_XML_EXPORT ix_xcap_error : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_xcap_error";
+    static constexpr char kClassName[] = "ix_xcap_error";
 
     ~ix_xcap_error() override;
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "XcapError"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -54,9 +54,9 @@ class IX_XML_EXPORT ix_xcap_error : public ix_phraseType {
 /// The element `extension`: a condition of the server's own, of which nothing but its presence is kept.
 class IX_XML_EXPORT ix_extension : public XMLElement {
   public:
-    static constexpr char kClass[] = "ix_extension";
+    static constexpr char kClassName[] = "ix_extension";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Extension"; }
     int Reserved() const override { return 0; }
@@ -67,28 +67,28 @@ class IX_XML_EXPORT ix_extension : public XMLElement {
 /// The element `schema-validation-error`: the document would not fit its schema.
 class IX_XML_EXPORT ix_schema_validation_error : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_schema_validation_error";
+    static constexpr char kClassName[] = "ix_schema_validation_error";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "SchemaValidationError"; }
 };
 
 /// The element `not-xml-frag`: the body is no XML element.
 class IX_XML_EXPORT ix_not_xml_frag : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_not_xml_frag";
+    static constexpr char kClassName[] = "ix_not_xml_frag";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "NotXmlFrag"; }
 };
 
 /// The element `no-parent`: there is nothing into which the element or document could be put.
 class IX_XML_EXPORT ix_no_parent : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_no_parent";
+    static constexpr char kClassName[] = "ix_no_parent";
 
     ~ix_no_parent() override;
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "NoParent"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -102,28 +102,28 @@ class IX_XML_EXPORT ix_no_parent : public ix_phraseType {
 /// The element `cannot-insert`: the request would not be idempotent.
 class IX_XML_EXPORT ix_cannot_insert : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_cannot_insert";
+    static constexpr char kClassName[] = "ix_cannot_insert";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CannotInsert"; }
 };
 
 /// The element `not-xml-att-value`: the body is no attribute value.
 class IX_XML_EXPORT ix_not_xml_att_value : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_not_xml_att_value";
+    static constexpr char kClassName[] = "ix_not_xml_att_value";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "NotXmlAttValue"; }
 };
 
 /// The element `uniqueness-failure`: values that have to be unique are in use.
 class IX_XML_EXPORT ix_uniqueness_failure : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_uniqueness_failure";
+    static constexpr char kClassName[] = "ix_uniqueness_failure";
 
     ~ix_uniqueness_failure() override;
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "UniquenessFailure"; }
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
@@ -140,10 +140,10 @@ class IX_XML_EXPORT ix_uniqueness_failure : public ix_phraseType {
 /// The element `exists` of a uniqueness failure: one value in use.
 class IX_XML_EXPORT ix_exists : public XMLElement {
   public:
-    static constexpr char kClass[] = "ix_exists";
+    static constexpr char kClassName[] = "ix_exists";
 
     ~ix_exists() override;
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Exists"; }
     int Reserved() const override { return 0; }
@@ -165,36 +165,36 @@ class IX_XML_EXPORT ix_exists : public XMLElement {
 /// The element `not-well-formed`: the body is no well-formed XML.
 class IX_XML_EXPORT ix_not_well_formed : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_not_well_formed";
+    static constexpr char kClassName[] = "ix_not_well_formed";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "NotWellFormed"; }
 };
 
 /// The element `constraint-failure`: the document would break a rule of its application usage.
 class IX_XML_EXPORT ix_constraint_failure : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_constraint_failure";
+    static constexpr char kClassName[] = "ix_constraint_failure";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "ConstraintFailure"; }
 };
 
 /// The element `cannot-delete`: the request would not be idempotent.
 class IX_XML_EXPORT ix_cannot_delete : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_cannot_delete";
+    static constexpr char kClassName[] = "ix_cannot_delete";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "CannotDelete"; }
 };
 
 /// The element `not-utf-8`: the body is in another encoding.
 class IX_XML_EXPORT ix_not_utf_8 : public ix_phraseType {
   public:
-    static constexpr char kClass[] = "ix_not_utf_8";
+    static constexpr char kClassName[] = "ix_not_utf_8";
 
-    const char* ClassName() const override { return kClass; }
+    const char* ClassName() const override { return kClassName; }
     const char* TypeName() const override { return "NotUtf8"; }
 };
 

@@ -29,6 +29,12 @@ inline bool ixIsClass(const XMLElement* element, const char* className) {
     return own != nullptr && (own == className || std::strcmp(own, className) == 0);
 }
 
+/// True when `element` is an object of the class `Element`, by its name. NULL is of no class.
+template <class Element>
+bool ixIs(const XMLElement* element) {
+    return ixIsClass(element, Element::kClassName);
+}
+
 /// True for an object that has no class name, which a hook answers with 1 and does not take.
 inline bool ixIsNameless(const XMLElement* element) {
     return element != nullptr && element->ClassName() == nullptr;
@@ -84,11 +90,11 @@ int ixSetChild(Element*& field, Element* child) {
     return 1;
 }
 
-/// Takes over `child` as `ixSetChild` does, when it is an object of the class `className`, whose type the field has.
+/// Takes over `child` as `ixSetChild` does, when it is an object of the field's class.
 /// @return 1, or 0 for NULL and any other class.
 template <class Element>
-int ixTakeChild(Element*& field, XMLElement* child, const char* className) {
-    return ixIsClass(child, className) ? ixSetChild(field, static_cast<Element*>(child)) : 0;
+int ixTakeChild(Element*& field, XMLElement* child) {
+    return ixIs<Element>(child) ? ixSetChild(field, static_cast<Element*>(child)) : 0;
 }
 
 /// Replaces an owned list of owned elements by `list`, which passes to the element; the earlier one is deleted. NULL
@@ -106,6 +112,13 @@ IX_XML_EXPORT int ixSetTextList(IxSingleElementList*& field, IxSingleElementList
 /// Appends `entry` to a list that is created on first use and registered under `source` and `line`.
 /// @return 1, or 0 without memory, when the entry stays with the caller and no list is created.
 IX_XML_EXPORT int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line);
+
+/// `ixAppend` for `child` when it is an object of the class `Element`.
+/// @return 1, or 0 for NULL, any other class and without memory, when it stays with the caller.
+template <class Element>
+int ixTakeInto(IxSingleElementList*& list, XMLElement* child, const char* source, int line) {
+    return ixIs<Element>(child) ? ixAppend(list, child, source, line) : 0;
+}
 
 /// Appends a copy of the `length` characters at `text` as `ixAppend` does. @return 1, or 0 for NULL or without memory.
 IX_XML_EXPORT int ixAppendText(IxSingleElementList*& list, const char* text, std::size_t length, const char* source,

@@ -103,6 +103,9 @@ struct XmlContainerRow {
         return IX_TRACKED_NEW(kSchemaModule, source, __LINE__, type, ()); \
     }
 
+/// The two columns of a row that tell a class, `type`, and how to make an object of it.
+#define IX_OBJECT(type) type::kClassName, IX_CREATOR(type)
+
 /// An attribute that a decoder gives to an object without making a pair of it.
 struct XmlAttributeRow {
     XmlKnownName element;
@@ -358,6 +361,9 @@ using XmlWriter = int (*)(XmlFamilyMarshaller& self, XMLElement* element);
     [](XmlFamilyMarshaller& writer, XMLElement* written) -> int {                       \
         return static_cast<marshaller&>(writer).operation(static_cast<type*>(written)); \
     }
+
+/// The two columns of a table that tell a class, `type`, and its writer.
+#define IX_WRITER_OF(marshaller, operation, type) type::kClassName, IX_WRITER(marshaller, operation, type)
 
 /// An element that `Marshall` accepts.
 struct XmlWriterRow {

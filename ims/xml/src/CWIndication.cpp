@@ -10,10 +10,7 @@ constexpr XmlKnownName kRoot = {IX_STR_IMS_3GPP};
 
 constexpr XmlContainerRow kContainers[] = {
     {kRoot, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_ims_3gpp)},
-    {{IX_STR_ALTERNATIVE_SERVICE},
-     XmlContainerRow::Child,
-     "ix_alternative_service",
-     IX_CREATOR(ix_alternative_service)},
+    {{IX_STR_ALTERNATIVE_SERVICE}, XmlContainerRow::Child, IX_OBJECT(ix_alternative_service)},
 };
 
 constexpr XmlAttributeRow kAttribute = {kRoot, IX_STR_VERSION};

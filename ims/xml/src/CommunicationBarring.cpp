@@ -14,7 +14,7 @@ constexpr XmlKnownName kAllow = {IX_STR_ALLOW, XmlKnownName::Optional, IX_STR_SS
 constexpr XmlContainerRow kContainers[] = {
     {kIncoming, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_incoming_communication_barring)},
     {kOutgoing, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_outgoing_communication_barring)},
-    {kAllow, XmlContainerRow::Text, "ix_allow_action_type", IX_CREATOR(ix_allow_action_type)},
+    {kAllow, XmlContainerRow::Text, IX_OBJECT(ix_allow_action_type)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

@@ -11,13 +11,13 @@ constexpr XmlKnownName kEntry = {IX_STR_ENTRY};
 
 /// A row of an element that is of the same class in every parent. A parent that does not know the element refuses it.
 #define IX_ROW(name, type) \
-    { {name}, XmlContainerRow::Child, type::kClassName, IX_CREATOR(type) }
+    { {name}, XmlContainerRow::Child, IX_OBJECT(type) }
 /// A row of an `entry`, whose class depends on its parent.
 #define IX_ENTRY_ROW(parent, type) \
-    { kEntry, XmlContainerRow::Child, type::kClassName, IX_CREATOR(type), parent::kClassName }
+    { kEntry, XmlContainerRow::Child, IX_OBJECT(type), parent::kClassName }
 
 constexpr XmlContainerRow kContainers[] = {
-    {kConferenceInfo, XmlContainerRow::Root, ix_conference_type::kClassName, IX_CREATOR(ix_conference_type)},
+    {kConferenceInfo, XmlContainerRow::Root, IX_OBJECT(ix_conference_type)},
     IX_ROW(IX_STR_CONFERENCE_DESCRIPTION, ix_conference_description_type),
     IX_ROW(IX_STR_CONF_URIS, ix_uris_type),
     IX_ROW(IX_STR_SERVICE_URIS, ix_uris_type),
@@ -80,7 +80,7 @@ constexpr XmlDecoderInfo kInfo = Info();
 XMLConferenceInfoDecoder::XMLConferenceInfoDecoder() : XmlFamilyDecoder(kInfo) {}
 
 int XMLConferenceInfoDecoder::EndElement(char* name, char* text) {
-    if (ixEndNameIs(name, IX_STR_ENTRY) && ixIsClass(Top(), ix_user_roles_type::kClassName)) {
+    if (ixEndNameIs(name, IX_STR_ENTRY) && ixIs<ix_user_roles_type>(Top())) {
         return OtherElement(name, text);
     }
     return XmlFamilyDecoder::EndElement(name, text);

@@ -11,8 +11,8 @@ constexpr XmlKnownName kData = {IX_STR_DATA};
 
 constexpr XmlContainerRow kContainers[] = {
     {{IX_STR_FILE}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_file)},
-    {kFileInfo, XmlContainerRow::Child, "ix_ns_ft_file_info", IX_CREATOR(ix_ns_ft_file_info)},
-    {kData, XmlContainerRow::Child, "ix_ns_ft_data", IX_CREATOR(ix_ns_ft_data)},
+    {kFileInfo, XmlContainerRow::Child, IX_OBJECT(ix_ns_ft_file_info)},
+    {kData, XmlContainerRow::Child, IX_OBJECT(ix_ns_ft_data)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

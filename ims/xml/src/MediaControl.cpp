@@ -8,8 +8,8 @@ const char kSourceFile[] = "ims/xml/src/MediaControl";
 
 constexpr XmlContainerRow kContainers[] = {
     {{IX_STR_MEDIA_CONTROL}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_media_control)},
-    {{IX_STR_VC_PRIMITIVE}, XmlContainerRow::Child, "ix_vc_primitive", IX_CREATOR(ix_vc_primitive)},
-    {{IX_STR_TO_ENCODER}, XmlContainerRow::Child, "ix_to_encoder", IX_CREATOR(ix_to_encoder)},
+    {{IX_STR_VC_PRIMITIVE}, XmlContainerRow::Child, IX_OBJECT(ix_vc_primitive)},
+    {{IX_STR_TO_ENCODER}, XmlContainerRow::Child, IX_OBJECT(ix_to_encoder)},
 };
 
 constexpr XmlDecoderInfo Info() {

@@ -23,20 +23,14 @@ constexpr XmlKnownName kContact = {IX_STR_CONTACT};
 
 constexpr XmlContainerRow kContainers[] = {
     {kPresence, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_presence)},
-    {kTuple, XmlContainerRow::Text, ix_tuple::kClassName, IX_CREATOR(ix_tuple)},
-    {{IX_STR_STATUS}, XmlContainerRow::Text, ix_status::kClassName, IX_CREATOR(ix_status)},
-    {kContact, XmlContainerRow::Text, ix_contact::kClassName, IX_CREATOR(ix_contact)},
-    {{IX_STR_NOTE}, XmlContainerRow::Text, ix_note::kClassName, IX_CREATOR(ix_note)},
-    {{IX_STR_SERVICE_DESCRIPTION},
-     XmlContainerRow::Child,
-     ix_ns_oma_pres_service_description::kClassName,
-     IX_CREATOR(ix_ns_oma_pres_service_description)},
-    {{IX_STR_SERVCAPS}, XmlContainerRow::Child, ix_ns_caps_servcaps::kClassName, IX_CREATOR(ix_ns_caps_servcaps)},
-    {{IX_STR_DUPLEX}, XmlContainerRow::Child, ix_ns_caps_duplextype::kClassName, IX_CREATOR(ix_ns_caps_duplextype)},
-    {{IX_STR_SUPPORTED},
-     XmlContainerRow::Child,
-     ix_ns_caps_duplextypes::kClassName,
-     IX_CREATOR(ix_ns_caps_duplextypes)},
+    {kTuple, XmlContainerRow::Text, IX_OBJECT(ix_tuple)},
+    {{IX_STR_STATUS}, XmlContainerRow::Text, IX_OBJECT(ix_status)},
+    {kContact, XmlContainerRow::Text, IX_OBJECT(ix_contact)},
+    {{IX_STR_NOTE}, XmlContainerRow::Text, IX_OBJECT(ix_note)},
+    {{IX_STR_SERVICE_DESCRIPTION}, XmlContainerRow::Child, IX_OBJECT(ix_ns_oma_pres_service_description)},
+    {{IX_STR_SERVCAPS}, XmlContainerRow::Child, IX_OBJECT(ix_ns_caps_servcaps)},
+    {{IX_STR_DUPLEX}, XmlContainerRow::Child, IX_OBJECT(ix_ns_caps_duplextype)},
+    {{IX_STR_SUPPORTED}, XmlContainerRow::Child, IX_OBJECT(ix_ns_caps_duplextypes)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

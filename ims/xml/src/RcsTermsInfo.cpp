@@ -10,7 +10,7 @@ constexpr XmlKnownName kRoot = {IX_STR_RCS_TERMS_INFO};
 
 constexpr XmlContainerRow kContainers[] = {
     {kRoot, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_rcs_terms_info)},
-    {{IX_STR_TERM}, XmlContainerRow::Child, "ix_ns_rcs_terms_info_term", IX_CREATOR(ix_ns_rcs_terms_info_term)},
+    {{IX_STR_TERM}, XmlContainerRow::Child, IX_OBJECT(ix_ns_rcs_terms_info_term)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

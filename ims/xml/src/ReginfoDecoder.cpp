@@ -6,16 +6,13 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/ReginfoDecoder";
 
-constexpr char kPubGruuClass[] = "ix_pub_gruu";
-constexpr char kTempGruuClass[] = "ix_temp_gruu";
-
 constexpr XmlLogText kNoAnyElement = {3, kSchemaCode, __LINE__,
                                       "In XMLReginfoDecoder :: ProcessAnyElement, Element name is NULL"};
 
 constexpr XmlContainerRow kContainers[] = {
-    {{IX_STR_CONTACT}, XmlContainerRow::Child, "ix_ns_reginfo_contact", IX_CREATOR(ix_ns_reginfo_contact)},
+    {{IX_STR_CONTACT}, XmlContainerRow::Child, IX_OBJECT(ix_ns_reginfo_contact)},
     {{IX_STR_UNKNOWN_PARAM}, XmlContainerRow::Text, nullptr, IX_CREATOR(ix_unknown_param)},
-    {{IX_STR_REGISTRATION}, XmlContainerRow::Child, "ix_registration", IX_CREATOR(ix_registration)},
+    {{IX_STR_REGISTRATION}, XmlContainerRow::Child, IX_OBJECT(ix_registration)},
     {{IX_STR_REGINFO}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_reginfo)},
 };
 
@@ -48,8 +45,8 @@ XMLElement* XMLReginfoDecoder::ProcessAnyElement(char* name, char* /*text*/) {
         return nullptr;
     }
     // One that was refused is off the stack before its end tag, so the class is looked at.
-    if (ixEndNameIs(name, IX_STR_PUB_GRUU)) Pop(kPubGruuClass);
-    if (ixEndNameIs(name, IX_STR_TEMP_GRUU)) Pop(kTempGruuClass);
+    if (ixEndNameIs(name, IX_STR_PUB_GRUU)) Pop(ix_pub_gruu::kClassName);
+    if (ixEndNameIs(name, IX_STR_TEMP_GRUU)) Pop(ix_temp_gruu::kClassName);
     XMLElement* object = nullptr;
     if (ixNameIs(name, IX_STR_PUB_GRUU)) object = IX_NEW(ix_pub_gruu);
     if (ixNameIs(name, IX_STR_TEMP_GRUU)) object = IX_NEW(ix_temp_gruu);

@@ -13,11 +13,11 @@ constexpr XmlKnownName kEntryRef = {IX_STR_ENTRY_REF};
 
 constexpr XmlContainerRow kContainers[] = {
     {{IX_STR_RESOURCE_LISTS}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_resource_lists)},
-    {kList, XmlContainerRow::Text, kListTypeClass, IX_CREATOR(ix_listType)},
-    {kExternal, XmlContainerRow::Text, kExternalTypeClass, IX_CREATOR(ix_externalType)},
-    {kEntry, XmlContainerRow::Text, kEntryTypeClass, IX_CREATOR(ix_entryType)},
-    {kEntryRef, XmlContainerRow::Text, kEntryRefTypeClass, IX_CREATOR(ix_entry_refType)},
-    {{IX_STR_DISPLAY_NAME}, XmlContainerRow::Text, kDisplayNameTypeClass, IX_CREATOR(ix_display_nameType)},
+    {kList, XmlContainerRow::Text, IX_OBJECT(ix_listType)},
+    {kExternal, XmlContainerRow::Text, IX_OBJECT(ix_externalType)},
+    {kEntry, XmlContainerRow::Text, IX_OBJECT(ix_entryType)},
+    {kEntryRef, XmlContainerRow::Text, IX_OBJECT(ix_entry_refType)},
+    {{IX_STR_DISPLAY_NAME}, XmlContainerRow::Text, IX_OBJECT(ix_display_nameType)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

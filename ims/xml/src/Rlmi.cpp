@@ -12,9 +12,9 @@ constexpr XmlKnownName kInstance = {IX_STR_INSTANCE};
 
 constexpr XmlContainerRow kContainers[] = {
     {kList, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_list)},
-    {{IX_STR_NAME}, XmlContainerRow::Text, kRlmiNameClass, IX_CREATOR(ix_name)},
-    {kResource, XmlContainerRow::Child, kRlmiResourceClass, IX_CREATOR(ix_resource)},
-    {kInstance, XmlContainerRow::Child, kRlmiInstanceClass, IX_CREATOR(ix_instance)},
+    {{IX_STR_NAME}, XmlContainerRow::Text, IX_OBJECT(ix_name)},
+    {kResource, XmlContainerRow::Child, IX_OBJECT(ix_resource)},
+    {kInstance, XmlContainerRow::Child, IX_OBJECT(ix_instance)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

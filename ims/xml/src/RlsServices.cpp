@@ -15,15 +15,15 @@ constexpr XmlKnownName kEntryRef = {IX_STR_ENTRY_REF, XmlKnownName::Required, IX
 
 constexpr XmlContainerRow kContainers[] = {
     {{IX_STR_RLS_SERVICES}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_rls_services)},
-    {kService, XmlContainerRow::Child, kRlsServiceClass, IX_CREATOR(ix_ns_rls_services_serviceType)},
-    {kList, XmlContainerRow::Child, kListTypeClass, IX_CREATOR(ix_listType)},
-    {kExternal, XmlContainerRow::Child, kExternalTypeClass, IX_CREATOR(ix_externalType)},
-    {kEntry, XmlContainerRow::Child, kEntryTypeClass, IX_CREATOR(ix_entryType)},
-    {kEntryRef, XmlContainerRow::Child, kEntryRefTypeClass, IX_CREATOR(ix_entry_refType)},
+    {kService, XmlContainerRow::Child, IX_OBJECT(ix_ns_rls_services_serviceType)},
+    {kList, XmlContainerRow::Child, IX_OBJECT(ix_listType)},
+    {kExternal, XmlContainerRow::Child, IX_OBJECT(ix_externalType)},
+    {kEntry, XmlContainerRow::Child, IX_OBJECT(ix_entryType)},
+    {kEntryRef, XmlContainerRow::Child, IX_OBJECT(ix_entry_refType)},
     // Required: unlike the list that it stands in, a display name has no prefix.
-    {{IX_STR_DISPLAY_NAME}, XmlContainerRow::Text, kDisplayNameTypeClass, IX_CREATOR(ix_display_nameType)},
-    {{IX_STR_PACKAGES}, XmlContainerRow::Child, kRlsPackagesClass, IX_CREATOR(ix_ns_rls_services_packagesType)},
-    {{IX_STR_PACKAGE}, XmlContainerRow::Text, kRlsPackageClass, IX_CREATOR(ix_ns_rls_services_packageType)},
+    {{IX_STR_DISPLAY_NAME}, XmlContainerRow::Text, IX_OBJECT(ix_display_nameType)},
+    {{IX_STR_PACKAGES}, XmlContainerRow::Child, IX_OBJECT(ix_ns_rls_services_packagesType)},
+    {{IX_STR_PACKAGE}, XmlContainerRow::Text, IX_OBJECT(ix_ns_rls_services_packageType)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

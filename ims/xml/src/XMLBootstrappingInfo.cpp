@@ -8,13 +8,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLBootstrappingInfo";
 
-constexpr char kClass[] = "ix_bootstrappinginfo";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLBootstrappingInfoDecoder, "BootstrappingInfoUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kClass, IX_WRITER(BootstrappingInfoMarshaller, AddBootstrappingInfoElementToXml, ix_bootstrappinginfo)},
+    {IX_WRITER_OF(BootstrappingInfoMarshaller, AddBootstrappingInfoElementToXml, ix_bootstrappinginfo)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -45,10 +43,6 @@ constexpr XmlFieldTable kTable = {nullptr, kFields, std::size(kFields)};
 
 ix_bootstrappinginfo::~ix_bootstrappinginfo() {
     XmlFields::Release(this, kTable);
-}
-
-const char* ix_bootstrappinginfo::ClassName() const {
-    return kClass;
 }
 
 const XmlFieldTable* ix_bootstrappinginfo::FieldTable() const {

@@ -8,13 +8,10 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCWIndication";
 
-constexpr char kRootClass[] = "ix_ims_3gpp";
-constexpr char kServiceClass[] = "ix_alternative_service";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixImsBodyUnMarshallerInfo(
     kSourceFile, __LINE__, [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCWIndicationDecoder); });
 
-constexpr XmlWriterRow kWriter = {kRootClass, IX_WRITER(CWIndicationMarshaller, AddIms3gppElementToXml, ix_ims_3gpp)};
+constexpr XmlWriterRow kWriter = {IX_WRITER_OF(CWIndicationMarshaller, AddIms3gppElementToXml, ix_ims_3gpp)};
 constexpr XmlMarshallerInfo kMarshallerInfo = ixImsBodyMarshallerInfo(kSourceFile, __LINE__, kWriter);
 
 constexpr XmlLogText kRootHook = {2, kSchemaCode, __LINE__, "In ix_ims_3gpp::ProcessUnMarshall"};
@@ -45,10 +42,6 @@ ix_alternative_service::~ix_alternative_service() {
     XmlFields::Release(this, kServiceTable);
 }
 
-const char* ix_alternative_service::ClassName() const {
-    return kServiceClass;
-}
-
 const XmlFieldTable* ix_alternative_service::FieldTable() const {
     return &kServiceTable;
 }
@@ -70,10 +63,6 @@ ix_ims_3gpp::~ix_ims_3gpp() {
     XmlFields::Release(this, kRootTable);
 }
 
-const char* ix_ims_3gpp::ClassName() const {
-    return kRootClass;
-}
-
 const XmlFieldTable* ix_ims_3gpp::FieldTable() const {
     return &kRootTable;
 }
@@ -82,7 +71,7 @@ int ix_ims_3gpp::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     ixLog(kSourceFile, kRootHook);
     if (ixEndNameIs(name, IX_STR_SERVICE_INFO)) return ixTakeText(mServiceInfo, text, child);
     if (!ixNameIs(name, IX_STR_ALTERNATIVE_SERVICE) || ixIsNameless(child)) return 1;
-    return ixTakeChild(mAlternativeService, child, kServiceClass);
+    return ixTakeChild(mAlternativeService, child);
 }
 
 const char* ix_ims_3gpp::SourceFile() const {

@@ -8,16 +8,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCallWaitingIndication";
 
-constexpr char kRootClass[] = "ix_3gpp_ims";
-constexpr char kServiceClass[] = "ix_ns_call_waiting_indication_alternative_service";
-constexpr char kActionClass[] = "ix_ns_call_waiting_indication_action";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixImsBodyUnMarshallerInfo(
     kSourceFile, __LINE__,
     [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCallWaitingIndicationDecoder); });
 
-constexpr XmlWriterRow kWriter = {kRootClass,
-                                  IX_WRITER(CallWaitingIndicationMarshaller, Add3gppImsElementToXml, ix_3gpp_ims)};
+constexpr XmlWriterRow kWriter = {IX_WRITER_OF(CallWaitingIndicationMarshaller, Add3gppImsElementToXml, ix_3gpp_ims)};
 constexpr XmlMarshallerInfo kMarshallerInfo = ixImsBodyMarshallerInfo(kSourceFile, __LINE__, kWriter);
 
 constexpr XmlLogText kRootHook = {2, kSchemaCode, __LINE__, "In ix_3gpp_ims::ProcessUnMarshall"};
@@ -64,10 +59,6 @@ ix_ns_call_waiting_indication_action::~ix_ns_call_waiting_indication_action() {
     XmlFields::Release(this, kActionTable);
 }
 
-const char* ix_ns_call_waiting_indication_action::ClassName() const {
-    return kActionClass;
-}
-
 const XmlFieldTable* ix_ns_call_waiting_indication_action::FieldTable() const {
     return &kActionTable;
 }
@@ -75,7 +66,7 @@ const XmlFieldTable* ix_ns_call_waiting_indication_action::FieldTable() const {
 int ix_ns_call_waiting_indication_action::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     ixLog(kSourceFile, kActionHook);
     if (!ixNameIs(name, IX_STR_CALL_WAITING_INDICATION) || ixIsNameless(child)) return 1;
-    return ixTakeChild(mCallWaitingIndication, child, "ix_empty_element_type");
+    return ixTakeChild(mCallWaitingIndication, child);
 }
 
 int ix_ns_call_waiting_indication_action::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/,
@@ -88,10 +79,6 @@ ix_ns_call_waiting_indication_alternative_service::~ix_ns_call_waiting_indicatio
     XmlFields::Release(this, kServiceTable);
 }
 
-const char* ix_ns_call_waiting_indication_alternative_service::ClassName() const {
-    return kServiceClass;
-}
-
 const XmlFieldTable* ix_ns_call_waiting_indication_alternative_service::FieldTable() const {
     return &kServiceTable;
 }
@@ -100,7 +87,7 @@ int ix_ns_call_waiting_indication_alternative_service::ProcessUnMarshall(char* n
                                                                          XMLElement* child) {
     ixLog(kSourceFile, kServiceHook);
     if (!ixNameIs(name, IX_STR_ACTION) || ixIsNameless(child)) return 1;
-    return ixTakeChild(mAction, child, kActionClass);
+    return ixTakeChild(mAction, child);
 }
 
 int ix_ns_call_waiting_indication_alternative_service::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/,
@@ -113,10 +100,6 @@ ix_3gpp_ims::~ix_3gpp_ims() {
     XmlFields::Release(this, kRootTable);
 }
 
-const char* ix_3gpp_ims::ClassName() const {
-    return kRootClass;
-}
-
 const XmlFieldTable* ix_3gpp_ims::FieldTable() const {
     return &kRootTable;
 }
@@ -124,7 +107,7 @@ const XmlFieldTable* ix_3gpp_ims::FieldTable() const {
 int ix_3gpp_ims::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     ixLog(kSourceFile, kRootHook);
     if (!ixNameIs(name, IX_STR_ALTERNATIVE_SERVICE) || ixIsNameless(child)) return 1;
-    return ixTakeChild(mAlternativeService, child, kServiceClass);
+    return ixTakeChild(mAlternativeService, child);
 }
 
 const char* ix_3gpp_ims::SourceFile() const {

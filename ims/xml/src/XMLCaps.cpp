@@ -76,9 +76,9 @@ const XmlFieldTable* ix_ns_caps_duplextype::FieldTable() const {
 }
 
 int ix_ns_caps_duplextype::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_SUPPORTED)) return ixTakeChild(mSupported, child, ix_ns_caps_duplextypes::kClassName);
+    if (ixNameIs(name, IX_STR_SUPPORTED)) return ixTakeChild(mSupported, child);
     if (ixNameIs(name, IX_STR_NOTSUPPORTED)) {
-        return ixTakeChild(mNotsupported, child, ix_ns_caps_duplextypes::kClassName);
+        return ixTakeChild(mNotsupported, child);
     }
     return child == nullptr ? 1 : 0;
 }
@@ -94,6 +94,6 @@ const XmlFieldTable* ix_ns_caps_servcaps::FieldTable() const {
 int ix_ns_caps_servcaps::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_AUDIO)) return setAudioValue(FlagOf(text));
     if (ixEndNameIs(name, IX_STR_VIDEO)) return setVideoValue(FlagOf(text));
-    if (ixNameIs(name, IX_STR_DUPLEX)) return ixTakeChild(mDuplex, child, ix_ns_caps_duplextype::kClassName);
+    if (ixNameIs(name, IX_STR_DUPLEX)) return ixTakeChild(mDuplex, child);
     return child == nullptr ? 1 : 0;
 }

@@ -68,9 +68,9 @@ const XmlFieldTable* ix_characteristic::FieldTable() const {
 
 int ix_characteristic::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_TYPE)) return child == nullptr ? setTypeValue(text) : 0;
-    if (ixNameIs(name, kParmName)) return ixIsClass(child, kParmClass) ? addParm(static_cast<ix_parm*>(child)) : 0;
+    if (ixNameIs(name, kParmName)) return ixIs<ix_parm>(child) ? addParm(static_cast<ix_parm*>(child)) : 0;
     if (ixNameIs(name, kCharacteristicName)) {
-        return ixIsClass(child, kCharacteristicClass) ? addCharacteristic(static_cast<ix_characteristic*>(child)) : 0;
+        return ixIs<ix_characteristic>(child) ? addCharacteristic(static_cast<ix_characteristic*>(child)) : 0;
     }
     return 1;
 }
@@ -106,7 +106,7 @@ const XmlFieldTable* ix_characteristicDocType::FieldTable() const {
 int ix_characteristicDocType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_VERSION)) return child == nullptr ? setVersionValue(text) : 0;
     if (ixNameIs(name, kCharacteristicName)) {
-        return ixIsClass(child, kCharacteristicClass) ? addCharacteristic(static_cast<ix_characteristic*>(child)) : 0;
+        return ixIs<ix_characteristic>(child) ? addCharacteristic(static_cast<ix_characteristic*>(child)) : 0;
     }
     // A setting belongs to a group.
     return ixNameIs(name, kParmName) && child != nullptr ? 0 : 1;

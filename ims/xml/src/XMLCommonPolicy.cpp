@@ -80,11 +80,6 @@ int TakeAny(IxSingleElementList*& list, const char* name, const char* text, XMLE
     return 1;
 }
 
-/// Takes a child of the class that belongs to its name. @return 1, or 0 for another class or without memory.
-int TakeOf(const char* className, IxSingleElementList*& list, XMLElement* child, int line) {
-    return ixIsClass(child, className) ? ixAppend(list, child, kSourceFile, line) : 0;
-}
-
 /// Takes the value of an attribute. @return 1, or 0 when it comes as a pair, or without memory.
 int TakeText(char*& field, const char* value, const XMLAttribute* pair) {
     return pair == nullptr ? ixOverwriteWithText(field, value) : 0;
@@ -162,7 +157,8 @@ const XmlFieldTable* ix_ns_common_policy_manyType::FieldTable() const {
 
 int ix_ns_common_policy_manyType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_EXCEPT)) return TakeOf("ix_ns_common_policy_exceptType", mExceptList, child, __LINE__);
+    if (ixNameIs(name, IX_STR_EXCEPT))
+        return ixTakeInto<ix_ns_common_policy_exceptType>(mExceptList, child, kSourceFile, __LINE__);
     return TakeAny(mExtensionList, name, text, child, __LINE__);
 }
 
@@ -188,8 +184,10 @@ const XmlFieldTable* ix_ns_common_policy_identityType::FieldTable() const {
 
 int ix_ns_common_policy_identityType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_ONE)) return TakeOf("ix_ns_common_policy_oneType", mOneList, child, __LINE__);
-    if (ixNameIs(name, IX_STR_MANY)) return TakeOf("ix_ns_common_policy_manyType", mManyList, child, __LINE__);
+    if (ixNameIs(name, IX_STR_ONE))
+        return ixTakeInto<ix_ns_common_policy_oneType>(mOneList, child, kSourceFile, __LINE__);
+    if (ixNameIs(name, IX_STR_MANY))
+        return ixTakeInto<ix_ns_common_policy_manyType>(mManyList, child, kSourceFile, __LINE__);
     return TakeAny(mExtensionList, name, text, child, __LINE__);
 }
 
@@ -250,11 +248,12 @@ const XmlFieldTable* ix_ns_common_policy_conditionsType::FieldTable() const {
 int ix_ns_common_policy_conditionsType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr) return 1;
     if (ixNameIs(name, IX_STR_IDENTITY)) {
-        return TakeOf("ix_ns_common_policy_identityType", mIdentityList, child, __LINE__);
+        return ixTakeInto<ix_ns_common_policy_identityType>(mIdentityList, child, kSourceFile, __LINE__);
     }
-    if (ixNameIs(name, IX_STR_SPHERE)) return TakeOf("ix_ns_common_policy_sphereType", mSphereList, child, __LINE__);
+    if (ixNameIs(name, IX_STR_SPHERE))
+        return ixTakeInto<ix_ns_common_policy_sphereType>(mSphereList, child, kSourceFile, __LINE__);
     if (ixNameIs(name, IX_STR_VALIDITY)) {
-        return TakeOf("ix_ns_common_policy_validityType", mValidityList, child, __LINE__);
+        return ixTakeInto<ix_ns_common_policy_validityType>(mValidityList, child, kSourceFile, __LINE__);
     }
     return TakeAny(mOtherConditionsList, name, text, child, __LINE__);
 }
@@ -285,10 +284,10 @@ const XmlFieldTable* ix_ns_common_policy_ruleType::FieldTable() const {
 
 int ix_ns_common_policy_ruleType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (name == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_CONDITIONS) && ixIsClass(child, "ix_ns_common_policy_conditionsType")) {
+    if (ixNameIs(name, IX_STR_CONDITIONS) && ixIs<ix_ns_common_policy_conditionsType>(child)) {
         return setConditionsValue(static_cast<ix_ns_common_policy_conditionsType*>(child));
     }
-    if (!ixIsClass(child, "ix_ns_common_policy_extensibleType")) return 0;
+    if (!ixIs<ix_ns_common_policy_extensibleType>(child)) return 0;
     auto* const extensible = static_cast<ix_ns_common_policy_extensibleType*>(child);
     if (ixNameIs(name, IX_STR_ACTIONS)) return setActionsValue(extensible);
     return ixNameIs(name, IX_STR_TRANSFORMATIONS) ? setTransformationsValue(extensible) : 0;
@@ -308,7 +307,9 @@ const XmlFieldTable* ix_ns_common_policy_ruleset::FieldTable() const {
 
 int ix_ns_common_policy_ruleset::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (name == nullptr) return 1;
-    return ixNameIs(name, IX_STR_RULE) ? TakeOf("ix_ns_common_policy_ruleType", mRuleList, child, __LINE__) : 0;
+    return ixNameIs(name, IX_STR_RULE)
+               ? ixTakeInto<ix_ns_common_policy_ruleType>(mRuleList, child, kSourceFile, __LINE__)
+               : 0;
 }
 
 int ix_ns_common_policy_ruleset::addRule(ix_ns_common_policy_ruleType* rule) {

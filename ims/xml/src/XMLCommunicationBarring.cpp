@@ -8,26 +8,18 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCommunicationBarring";
 
-constexpr char kIncomingClass[] = "incoming-communication-barring";
-constexpr char kOutgoingClass[] = "outgoing-communication-barring";
-constexpr char kForwardToClass[] = "ix_ns_xcap_forward_to_type";
-constexpr char kAllowClass[] = "ix_allow_action_type";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLCommunicationBarringDecoder, "CommunicationBarringUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kIncomingClass,
-     IX_WRITER(Communication_barringMarshaller, AddIncoming_communication_barringElementToXml,
-               ix_incoming_communication_barring),
+    {IX_WRITER_OF(Communication_barringMarshaller, AddIncoming_communication_barringElementToXml,
+                  ix_incoming_communication_barring),
      {2, kSchemaCode, __LINE__, "<XML Module>: Incoming_communication_barringMarshaller XML Failed!"}},
-    {kOutgoingClass,
-     IX_WRITER(Communication_barringMarshaller, AddOutgoing_communication_barringElementToXml,
-               ix_outgoing_communication_barring),
+    {IX_WRITER_OF(Communication_barringMarshaller, AddOutgoing_communication_barringElementToXml,
+                  ix_outgoing_communication_barring),
      {2, kSchemaCode, __LINE__, "<XML Module>: outgoing_communication_barringMarshaller XML Failed!"}},
     IX_RULE_WRITER_ROWS,
-    {"ix_ns_common_policy_exceptType",
-     IX_WRITER(XmlRuleMarshaller, AddExceptElementToXml, ix_ns_common_policy_exceptType)},
+    {IX_WRITER_OF(XmlRuleMarshaller, AddExceptElementToXml, ix_ns_common_policy_exceptType)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -75,14 +67,6 @@ const char* ix_ns_communication_barringType::SourceFile() const {
     return kSourceFile;
 }
 
-const char* ix_incoming_communication_barring::ClassName() const {
-    return kIncomingClass;
-}
-
-const char* ix_outgoing_communication_barring::ClassName() const {
-    return kOutgoingClass;
-}
-
 int CommunicationBarringDataBinder::setCBType(XML_COMMUNICATION_BARRING_TYPE type) {
     ixLog(kSourceFile, kSetType, static_cast<int>(type));
     if (type != XML_CB_INCOMING && type != XML_CB_OUTGOING) {
@@ -127,8 +111,8 @@ int Communication_barringMarshaller::AddOutgoing_communication_barringElementToX
 
 void Communication_barringMarshaller::AddAction(XMLElement* action) {
     // Required: a target is written without its address and flags.
-    if (ixIsClass(action, kForwardToClass)) AddServiceText(IX_STR_FORWARD_TO, nullptr);
-    if (ixIsClass(action, kAllowClass)) {
+    if (ixIs<ix_ns_xcap_forward_to_type>(action)) AddServiceText(IX_STR_FORWARD_TO, nullptr);
+    if (ixIs<ix_allow_action_type>(action)) {
         const bool allow = static_cast<const ix_allow_action_type*>(action)->mAllow != 0;
         AddServiceText(IX_STR_ALLOW, ix_xml_common_array_definition::getStringName(allow ? IX_STR_TRUE : IX_STR_FALSE));
     }

@@ -8,20 +8,15 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCommunicationDiversion";
 
-constexpr char kClass[] = "communication-diversion";
-constexpr char kTimerClass[] = "ix_NoReplyTimer";
-constexpr char kForwardToClass[] = "ix_ns_xcap_forward_to_type";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLCommunicationDiversionDecoder, "CommunicationDiversionUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kClass,
-     IX_WRITER(Communication_diversionMarshaller, AddCommunication_diversionElementToXml, ix_communication_diversion)},
-    {kTimerClass, IX_WRITER(Communication_diversionMarshaller, AddNoReplyTimerElementToXml, ix_NoReplyTimer)},
+    {IX_WRITER_OF(Communication_diversionMarshaller, AddCommunication_diversionElementToXml,
+                  ix_communication_diversion)},
+    {IX_WRITER_OF(Communication_diversionMarshaller, AddNoReplyTimerElementToXml, ix_NoReplyTimer)},
     IX_RULE_WRITER_ROWS,
-    {kForwardToClass,
-     IX_WRITER(Communication_diversionMarshaller, AddForwardToElementtoXml, ix_ns_xcap_forward_to_type)},
+    {IX_WRITER_OF(Communication_diversionMarshaller, AddForwardToElementtoXml, ix_ns_xcap_forward_to_type)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -39,36 +34,11 @@ constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__, "<XML Module>: Add
 constexpr unsigned int kShortestTimer = 5;
 constexpr unsigned int kLongestTimer = 180;
 
-constexpr char kRevealTexts[][100] = {"false", "not-reveal-GRUU", "true"};
-constexpr XmlEnumeration kReveal = {kRevealTexts[0], sizeof kRevealTexts[0], int{std::size(kRevealTexts)}};
-static_assert(kReveal.count == ix_ns_xcap_forward_to_type::kRevealNotSet, "not set is past the last text");
-
 constexpr XmlField kTimerFields[] = {
     {XmlFieldKind::Unsigned, IX_STR_IX_NULL, XmlUnsignedMember(&ix_NoReplyTimer::mNoReplyTimer), kXmlAlwaysSet, nullptr,
      "text"},
 };
 constexpr XmlFieldTable kTimerTable = {nullptr, kTimerFields, std::size(kTimerFields)};
-
-constexpr XmlField Notification(e_XmlStrRef name, int ix_ns_xcap_forward_to_type::*member) {
-    return {XmlFieldKind::Flag, name, XmlIntMember(member), ix_ns_xcap_forward_to_type::kNotifyNotSet};
-}
-
-constexpr XmlField Reveal(e_XmlStrRef name, int ix_ns_xcap_forward_to_type::*member) {
-    return {XmlFieldKind::Enumeration, name, XmlIntMember(member), ix_ns_xcap_forward_to_type::kRevealNotSet, &kReveal};
-}
-
-constexpr XmlField kForwardToFields[] = {
-    {XmlFieldKind::Text, IX_STR_TARGET, XmlTextMember(&ix_ns_xcap_forward_to_type::mTarget)},
-    Notification(IX_STR_NOTIFY_CALLER, &ix_ns_xcap_forward_to_type::mNotifyCaller),
-    Reveal(IX_STR_REVEAL_IDENTITY_TO_CALLER, &ix_ns_xcap_forward_to_type::mRevealIdentityToCaller),
-    Reveal(IX_STR_REVEAL_SERVED_USER_IDENTITY_TO_CALLER,
-           &ix_ns_xcap_forward_to_type::mRevealServedUserIdentityToCaller),
-    Notification(IX_STR_NOTIFY_SERVED_USER, &ix_ns_xcap_forward_to_type::mNotifyServedUser),
-    Notification(IX_STR_NOTIFY_SERVED_USER_ON_OUTBOUND_CALL,
-                 &ix_ns_xcap_forward_to_type::mNotifyServedUserOnOutboundCall),
-    Reveal(IX_STR_REVEAL_IDENTITY_TO_TARGET, &ix_ns_xcap_forward_to_type::mRevealIdentityToTarget),
-};
-constexpr XmlFieldTable kForwardToTable = {nullptr, kForwardToFields, std::size(kForwardToFields)};
 
 // The timer comes before the ruleset of the base class, which frees its field itself.
 constexpr XmlField kDiversionFields[] = {
@@ -94,41 +64,8 @@ int ix_NoReplyTimer::setNoReplyTimerValue(unsigned int seconds) {
     return 1;
 }
 
-ix_ns_xcap_forward_to_type::~ix_ns_xcap_forward_to_type() {
-    XmlFields::Release(this, kForwardToTable);
-}
-
-const XmlFieldTable* ix_ns_xcap_forward_to_type::FieldTable() const {
-    return &kForwardToTable;
-}
-
-int ix_ns_xcap_forward_to_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (name == nullptr || child != nullptr) return 0;
-    // Start tags are waited for, the text comes with the end tag.
-    const bool isEnd = *name == '/';
-    const char* const local = isEnd ? name + 1 : name;
-    for (const XmlField& field : kForwardToFields) {
-        if (!ixNameIs(local, field.name)) continue;
-        if (!isEnd || text == nullptr) return 1;
-        if (field.kind == XmlFieldKind::Text) return setTargetValue(text);
-        int& value = this->*static_cast<int ix_ns_xcap_forward_to_type::*>(field.member.number);
-        if (field.kind == XmlFieldKind::Flag) {
-            if (ixNameIs(text, IX_STR_TRUE)) value = 1;
-            if (ixNameIs(text, IX_STR_FALSE)) value = 0;
-        } else {
-            value = kReveal.IndexOf(text);
-        }
-        return 1;
-    }
-    return 0;
-}
-
 ix_communication_diversion::~ix_communication_diversion() {
     XmlFields::Release(this, kOwnDiversionTable);
-}
-
-const char* ix_communication_diversion::ClassName() const {
-    return kClass;
 }
 
 const XmlFieldTable* ix_communication_diversion::FieldTable() const {
@@ -188,7 +125,8 @@ int Communication_diversionMarshaller::AddNoReplyTimerElementToXml(ix_NoReplyTim
 }
 
 void Communication_diversionMarshaller::AddAction(XMLElement* action) {
-    if (ixIsClass(action, kForwardToClass)) AddForwardToElementtoXml(static_cast<ix_ns_xcap_forward_to_type*>(action));
+    if (ixIs<ix_ns_xcap_forward_to_type>(action))
+        AddForwardToElementtoXml(static_cast<ix_ns_xcap_forward_to_type*>(action));
 }
 
 int Communication_diversionMarshaller::AddForwardToElementtoXml(ix_ns_xcap_forward_to_type* element) {
@@ -196,12 +134,14 @@ int Communication_diversionMarshaller::AddForwardToElementtoXml(ix_ns_xcap_forwa
     StartPrefixed(IX_STR_SS, IX_STR_FORWARD_TO);
     AddTextElement(IX_STR_TARGET, element->mTarget);
     AddNotification(IX_STR_NOTIFY_CALLER, element->mNotifyCaller);
-    AddTextElement(IX_STR_REVEAL_IDENTITY_TO_CALLER, kReveal.TextOf(element->mRevealIdentityToCaller));
+    AddTextElement(IX_STR_REVEAL_IDENTITY_TO_CALLER,
+                   ix_ns_xcap_forward_to_type::RevealText(element->mRevealIdentityToCaller));
     AddTextElement(IX_STR_REVEAL_SERVED_USER_IDENTITY_TO_CALLER,
-                   kReveal.TextOf(element->mRevealServedUserIdentityToCaller));
+                   ix_ns_xcap_forward_to_type::RevealText(element->mRevealServedUserIdentityToCaller));
     AddNotification(IX_STR_NOTIFY_SERVED_USER, element->mNotifyServedUser);
     AddNotification(IX_STR_NOTIFY_SERVED_USER_ON_OUTBOUND_CALL, element->mNotifyServedUserOnOutboundCall);
-    AddTextElement(IX_STR_REVEAL_IDENTITY_TO_TARGET, kReveal.TextOf(element->mRevealIdentityToTarget));
+    AddTextElement(IX_STR_REVEAL_IDENTITY_TO_TARGET,
+                   ix_ns_xcap_forward_to_type::RevealText(element->mRevealIdentityToTarget));
     EndElement(IX_STR_FORWARD_TO);
     return 1;
 }

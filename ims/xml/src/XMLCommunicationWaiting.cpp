@@ -9,8 +9,6 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCommunicationWaiting";
 
-constexpr char kClass[] = "communication-waiting";
-
 constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
     XmlUnMarshallerInfo info;
     info.source = kSourceFile;
@@ -25,8 +23,7 @@ constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
 
 constexpr XmlWriterRow kWriters[] = {
-    {kClass,
-     IX_WRITER(Communication_waitingMarshaller, AddCommunication_waitingElementToXml, ix_communication_waiting)},
+    {IX_WRITER_OF(Communication_waitingMarshaller, AddCommunication_waitingElementToXml, ix_communication_waiting)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -54,10 +51,6 @@ constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
 constexpr XmlLogText kAddElement = {2, kSchemaCode, 194, "<XML Module>: AddCommunication_waitingElementToXml"};
 
 }  // namespace
-
-const char* ix_communication_waiting::ClassName() const {
-    return kClass;
-}
 
 int ix_communication_waiting::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) {
     return 1;

@@ -80,13 +80,13 @@ constexpr XmlEnumeration kDisconnectionMethods = {kDisconnectionWords[0], 100, I
 /// Takes over `child` when it is of the class of the field.
 template <class Element>
 int TakeChild(Element*& field, XMLElement* child) {
-    return ixTakeChild(field, child, Element::kClassName);
+    return ixTakeChild(field, child);
 }
 
 /// Appends `child` when it is of the class `Element`.
 template <class Element>
 int TakeEntry(IxSingleElementList*& list, XMLElement* child) {
-    return ixIsClass(child, Element::kClassName) ? ixAppend(list, child, kSourceFile, __LINE__) : 0;
+    return ixIs<Element>(child) ? ixAppend(list, child, kSourceFile, __LINE__) : 0;
 }
 
 int AppendWord(IxSingleElementList*& list, const char* word) {

@@ -8,14 +8,10 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLFt";
 
-constexpr char kFileClass[] = "ix_file";
-constexpr char kFileInfoClass[] = "ix_ns_ft_file_info";
-constexpr char kDataClass[] = "ix_ns_ft_data";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLFileDecoder, "FileUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kFileClass, IX_WRITER(FileMarshaller, AddFileElementToXml, ix_file)},
+    {IX_WRITER_OF(FileMarshaller, AddFileElementToXml, ix_file)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -62,10 +58,6 @@ ix_ns_ft_data::~ix_ns_ft_data() {
     XmlFields::Release(this, kDataTable);
 }
 
-const char* ix_ns_ft_data::ClassName() const {
-    return kDataClass;
-}
-
 const XmlFieldTable* ix_ns_ft_data::FieldTable() const {
     return &kDataTable;
 }
@@ -82,10 +74,6 @@ ix_ns_ft_file_info::~ix_ns_ft_file_info() {
     XmlFields::Release(this, kFileInfoTable);
 }
 
-const char* ix_ns_ft_file_info::ClassName() const {
-    return kFileInfoClass;
-}
-
 const XmlFieldTable* ix_ns_ft_file_info::FieldTable() const {
     return &kFileInfoTable;
 }
@@ -96,7 +84,7 @@ int ix_ns_ft_file_info::ProcessUnMarshall(char* name, char* text, XMLElement* ch
         return ixEndNameIs(name, IX_STR_FILE_SIZE) ? setFileSizeValue(ixToUnsigned(text)) : 1;
     }
     if (!ixNameIs(name, IX_STR_DATA) || ixIsNameless(child)) return 1;
-    return ixTakeChild(mData, child, kDataClass);
+    return ixTakeChild(mData, child);
 }
 
 int ix_ns_ft_file_info::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
@@ -112,10 +100,6 @@ ix_file::~ix_file() {
     XmlFields::Release(this, kFileTable);
 }
 
-const char* ix_file::ClassName() const {
-    return kFileClass;
-}
-
 const XmlFieldTable* ix_file::FieldTable() const {
     return &kFileTable;
 }
@@ -125,7 +109,7 @@ int ix_file::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (!ixNameIs(name, IX_STR_FILE_INFO)) return 1;
     if (child == nullptr) return 0;
     // Required: an object of another class is answered with 1 as well, although nobody keeps it.
-    return ixIsClass(child, kFileInfoClass) ? addFileInfo(static_cast<ix_ns_ft_file_info*>(child)) : 1;
+    return ixIs<ix_ns_ft_file_info>(child) ? addFileInfo(static_cast<ix_ns_ft_file_info*>(child)) : 1;
 }
 
 int ix_file::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* /*pair*/) {

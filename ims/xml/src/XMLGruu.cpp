@@ -9,9 +9,6 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLGruu";
 
-constexpr char kPubGruuClass[] = "ix_pub_gruu";
-constexpr char kTempGruuClass[] = "ix_temp_gruu";
-
 constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
     XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(XMLGruuDecoder, "GruuUnMarshaller");
     info.textEntered = {2, kSchemaCode, __LINE__, "<XML Module>: In GruuUnMarshaller::UnMarshall with pXmlString=%s"};
@@ -99,16 +96,8 @@ int ix_gruuType::setUriValue(const char* uri) {
     return ixSetText(mUri, uri);
 }
 
-const char* ix_pub_gruu::ClassName() const {
-    return kPubGruuClass;
-}
-
 void ix_pub_gruu::LogRefusal() const {
     ixLog(kSourceFile, kPubRefused);
-}
-
-const char* ix_temp_gruu::ClassName() const {
-    return kTempGruuClass;
 }
 
 const XmlFieldTable* ix_temp_gruu::FieldTable() const {
@@ -174,13 +163,13 @@ int GruuMarshaller::AddRootElementToXml(XMLElement* root) {
     // is none of ours, so the writer gets nothing to read from.
     const char* const name = root->ClassName();
     const XmlLogText* failed = nullptr;
-    if (Begins(kPubGruuClass, name)) {
+    if (Begins(ix_pub_gruu::kClassName, name)) {
         ixLog(kSourceFile, kWritesPub);
-        const bool exact = ixIsClass(root, kPubGruuClass);
+        const bool exact = ixIs<ix_pub_gruu>(root);
         if (AddPubGruuElementToXml(exact ? static_cast<ix_pub_gruu*>(root) : nullptr) == 0) failed = &kPubFailed;
-    } else if (Begins(kTempGruuClass, name)) {
+    } else if (Begins(ix_temp_gruu::kClassName, name)) {
         ixLog(kSourceFile, kWritesTemp);
-        const bool exact = ixIsClass(root, kTempGruuClass);
+        const bool exact = ixIs<ix_temp_gruu>(root);
         if (AddTempGruuElementToXml(exact ? static_cast<ix_temp_gruu*>(root) : nullptr) == 0) failed = &kTempFailed;
     }
     if (failed == nullptr) return 1;

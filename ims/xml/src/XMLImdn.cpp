@@ -8,16 +8,10 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLImdn";
 
-constexpr char kImdnClass[] = "ix_imdn";
-constexpr char kStatusClass[] = "ix_status";
-constexpr char kDeliveryClass[] = "ix_delivery_notification";
-constexpr char kDisplayClass[] = "ix_display_notification";
-constexpr char kProcessingClass[] = "ix_processing_notification";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLImdnDecoder, "IMDNUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kImdnClass, IX_WRITER(IMDNMarshaller, AddIMDNElementToXml, ix_imdn)},
+    {IX_WRITER_OF(IMDNMarshaller, AddIMDNElementToXml, ix_imdn)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -108,23 +102,19 @@ ix_status::~ix_status() {
     XmlFields::Release(this, kStatusTable);
 }
 
-const char* ix_status::ClassName() const {
-    return kStatusClass;
-}
-
 const XmlFieldTable* ix_status::FieldTable() const {
     return &kStatusTable;
 }
 
 int ix_status::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    if (ixTakeChild(mDelivered, child, "ix_delivered") != 0) return 1;
-    if (ixTakeChild(mFailed, child, "ix_failed") != 0) return 1;
-    if (ixTakeChild(mDisplayed, child, "ix_displayed") != 0) return 1;
-    if (ixTakeChild(mProcessed, child, "ix_processed") != 0) return 1;
-    if (ixTakeChild(mStored, child, "ix_stored") != 0) return 1;
-    if (ixTakeChild(mForbidden, child, "ix_forbidden") != 0) return 1;
-    if (ixTakeChild(mError, child, "ix_error") != 0) return 1;
+    if (ixTakeChild(mDelivered, child) != 0) return 1;
+    if (ixTakeChild(mFailed, child) != 0) return 1;
+    if (ixTakeChild(mDisplayed, child) != 0) return 1;
+    if (ixTakeChild(mProcessed, child) != 0) return 1;
+    if (ixTakeChild(mStored, child) != 0) return 1;
+    if (ixTakeChild(mForbidden, child) != 0) return 1;
+    if (ixTakeChild(mError, child) != 0) return 1;
     return addAnyElement(child);
 }
 
@@ -150,28 +140,12 @@ const XmlFieldTable* ix_notificationType::FieldTable() const {
 }
 
 int ix_notificationType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child, kStatusClass);
+    if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child);
     return 1;
-}
-
-const char* ix_delivery_notification::ClassName() const {
-    return kDeliveryClass;
-}
-
-const char* ix_display_notification::ClassName() const {
-    return kDisplayClass;
-}
-
-const char* ix_processing_notification::ClassName() const {
-    return kProcessingClass;
 }
 
 ix_imdn::~ix_imdn() {
     XmlFields::Release(this, kImdnTable);
-}
-
-const char* ix_imdn::ClassName() const {
-    return kImdnClass;
 }
 
 const XmlFieldTable* ix_imdn::FieldTable() const {
@@ -184,10 +158,10 @@ int ix_imdn::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_RECIPIENT_URI)) return setRecipientUriValue(text);
     if (ixEndNameIs(name, IX_STR_ORIGINAL_RECIPIENT_URI)) return setOriginalRecipientUriValue(text);
     if (ixEndNameIs(name, IX_STR_SUBJECT)) return setSubjectValue(text);
-    if (ixNameIs(name, IX_STR_DELIVERY_NOTIFICATION)) return ixTakeChild(mDeliveryNotification, child, kDeliveryClass);
-    if (ixNameIs(name, IX_STR_DISPLAY_NOTIFICATION)) return ixTakeChild(mDisplayNotification, child, kDisplayClass);
+    if (ixNameIs(name, IX_STR_DELIVERY_NOTIFICATION)) return ixTakeChild(mDeliveryNotification, child);
+    if (ixNameIs(name, IX_STR_DISPLAY_NOTIFICATION)) return ixTakeChild(mDisplayNotification, child);
     if (ixNameIs(name, kProcessingNotificationElement)) {
-        return ixTakeChild(mProcessingNotification, child, kProcessingClass);
+        return ixTakeChild(mProcessingNotification, child);
     }
     if (child != nullptr) return addAnyElement(child);
     // Start tags of the texts say nothing yet.

@@ -8,13 +8,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLIsComposing";
 
-constexpr char kClass[] = "ix_isComposing";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLIsComposingDecoder, "IsComposingUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kClass, IX_WRITER(IsComposingMarshaller, AddIsComposingElementToXml, ix_isComposing)},
+    {IX_WRITER_OF(IsComposingMarshaller, AddIsComposingElementToXml, ix_isComposing)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -53,10 +51,6 @@ const char* TextOf(e_XmlStrRef entry) {
 
 ix_isComposing::~ix_isComposing() {
     XmlFields::Release(this, kTable);
-}
-
-const char* ix_isComposing::ClassName() const {
-    return kClass;
 }
 
 const XmlFieldTable* ix_isComposing::FieldTable() const {

@@ -8,15 +8,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLMediaControl";
 
-constexpr char kMediaControlClass[] = "ix_media_control";
-constexpr char kVcPrimitiveClass[] = "ix_vc_primitive";
-constexpr char kToEncoderClass[] = "ix_to_encoder";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLMediaControlDecoder, "MediaControlUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kMediaControlClass, IX_WRITER(MediaControlMarshaller, AddMediaControlElementToXml, ix_media_control)},
+    {IX_WRITER_OF(MediaControlMarshaller, AddMediaControlElementToXml, ix_media_control)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -61,10 +57,6 @@ ix_to_encoder::~ix_to_encoder() {
     XmlFields::Release(this, kToEncoderTable);
 }
 
-const char* ix_to_encoder::ClassName() const {
-    return kToEncoderClass;
-}
-
 const XmlFieldTable* ix_to_encoder::FieldTable() const {
     return &kToEncoderTable;
 }
@@ -73,15 +65,11 @@ int ix_to_encoder::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* chi
     // Required: any other element behind the request cancels it. Nobody else has it, so it is freed.
     if (!ixNameIs(name, IX_STR_PICTURE_FAST_UPDATE)) return setPictureFastUpdateValue(nullptr);
     if (ixIsNameless(child)) return 1;
-    return ixTakeChild(mPictureFastUpdate, child, "ix_empty_element_type");
+    return ixTakeChild(mPictureFastUpdate, child);
 }
 
 ix_vc_primitive::~ix_vc_primitive() {
     XmlFields::Release(this, kVcPrimitiveTable);
-}
-
-const char* ix_vc_primitive::ClassName() const {
-    return kVcPrimitiveClass;
 }
 
 const XmlFieldTable* ix_vc_primitive::FieldTable() const {
@@ -89,15 +77,11 @@ const XmlFieldTable* ix_vc_primitive::FieldTable() const {
 }
 
 int ix_vc_primitive::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    return ixNameIs(name, IX_STR_TO_ENCODER) ? ixTakeChild(mToEncoder, child, kToEncoderClass) : 1;
+    return ixNameIs(name, IX_STR_TO_ENCODER) ? ixTakeChild(mToEncoder, child) : 1;
 }
 
 ix_media_control::~ix_media_control() {
     XmlFields::Release(this, kMediaControlTable);
-}
-
-const char* ix_media_control::ClassName() const {
-    return kMediaControlClass;
 }
 
 const XmlFieldTable* ix_media_control::FieldTable() const {
@@ -105,7 +89,7 @@ const XmlFieldTable* ix_media_control::FieldTable() const {
 }
 
 int ix_media_control::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    return ixNameIs(name, IX_STR_VC_PRIMITIVE) ? ixTakeChild(mVcPrimitive, child, kVcPrimitiveClass) : 1;
+    return ixNameIs(name, IX_STR_VC_PRIMITIVE) ? ixTakeChild(mVcPrimitive, child) : 1;
 }
 
 XMLElement* MediaControlDataBinder::CreateRootElement() {

@@ -6,12 +6,10 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLOriginatingIdentityPresentation";
 
-constexpr char kClass[] = "originating-identity-presentation";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_IDENTITY_UNMARSHALLER_INFO("OIP", XMLOIPDecoder);
 
 constexpr XmlWriterRow kWriters[] = {
-    {kClass, IX_WRITER(OIPMarshaller, AddOIPElementToXml, ix_originating_identity_presentation)},
+    {IX_WRITER_OF(OIPMarshaller, AddOIPElementToXml, ix_originating_identity_presentation)},
 };
 
 constexpr XmlMarshallerInfo kMarshallerInfo = IX_IDENTITY_MARSHALLER_INFO("OIP", kWriters);
@@ -20,10 +18,6 @@ constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__,
                                     "<XML Module>: AddOriginatingIdentityPresentationElementToXml"};
 
 }  // namespace
-
-const char* ix_originating_identity_presentation::ClassName() const {
-    return kClass;
-}
 
 const char* ix_originating_identity_presentation::SourceFile() const {
     return kSourceFile;

@@ -13,7 +13,7 @@ const char kSourceFile[] = "ims/xml/src/XMLPresence";
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLPresenceDecoder, "PresenceUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {ix_presence::kClassName, IX_WRITER(PresenceMarshaller, AddPresenceElementToXml, ix_presence)},
+    {IX_WRITER_OF(PresenceMarshaller, AddPresenceElementToXml, ix_presence)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -146,10 +146,10 @@ const XmlFieldTable* ix_tuple::FieldTable() const {
 }
 
 int ix_tuple::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child, ix_status::kClassName);
-    if (ixNameIs(name, IX_STR_CONTACT)) return ixTakeChild(mContact, child, ix_contact::kClassName);
+    if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child);
+    if (ixNameIs(name, IX_STR_CONTACT)) return ixTakeChild(mContact, child);
     if (ixNameIs(name, IX_STR_NOTE)) {
-        return ixIsClass(child, ix_note::kClassName) ? addNote(static_cast<ix_note*>(child)) : 0;
+        return ixIs<ix_note>(child) ? addNote(static_cast<ix_note*>(child)) : 0;
     }
     if (child != nullptr) return addAnyElement(child);
     if (ixNameIs(name, IX_STR_TIMESTAMP)) return 1;
@@ -180,10 +180,10 @@ const XmlFieldTable* ix_presence::FieldTable() const {
 
 int ix_presence::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_TUPLE)) {
-        return ixIsClass(child, ix_tuple::kClassName) ? addTuple(static_cast<ix_tuple*>(child)) : 0;
+        return ixIs<ix_tuple>(child) ? addTuple(static_cast<ix_tuple*>(child)) : 0;
     }
     if (ixNameIs(name, IX_STR_NOTE)) {
-        return ixIsClass(child, ix_note::kClassName) ? addNote(static_cast<ix_note*>(child)) : 0;
+        return ixIs<ix_note>(child) ? addNote(static_cast<ix_note*>(child)) : 0;
     }
     if (child != nullptr) return 0;
     ixLog(kSourceFile, kRefused, name, text);
@@ -299,11 +299,11 @@ int PresenceMarshaller::AddTupleElementToXml(ix_tuple* tuple) {
 
 /// One of a tuple's other children; those of a class without a writer are passed over.
 int PresenceMarshaller::AddAnyElementToXml(XMLElement* element) {
-    if (ixIsClass(element, ix_ns_oma_pres_service_description::kClassName)) {
+    if (ixIs<ix_ns_oma_pres_service_description>(element)) {
         const int result = AddServiceDescriptionElementToXml(static_cast<ix_ns_oma_pres_service_description*>(element));
         return result != 0 ? 1 : ReleaseAndFail(kServiceDescriptionFailed);
     }
-    if (ixIsClass(element, ix_ns_caps_servcaps::kClassName)) {
+    if (ixIs<ix_ns_caps_servcaps>(element)) {
         const int result = AddServcapsElementToXml(static_cast<ix_ns_caps_servcaps*>(element));
         return result != 0 ? 1 : ReleaseAndFail(kServcapsFailed);
     }

@@ -8,19 +8,16 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLRcsTermsInfo";
 
-constexpr char kRootClass[] = "ix_rcs_terms_info";
-constexpr char kTermClass[] = "ix_ns_rcs_terms_info_term";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLRcsTermsInfoDecoder, "RcsTermsInfoUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kRootClass, IX_WRITER(RcsTermsInfoMarshaller, AddRcsTermsInfoElementToXml, ix_rcs_terms_info)},
+    {IX_WRITER_OF(RcsTermsInfoMarshaller, AddRcsTermsInfoElementToXml, ix_rcs_terms_info)},
 };
 
 /// The list may come from a caller and hold anything.
 constexpr XmlWriter kTermWriter = [](XmlFamilyMarshaller& self, XMLElement* element) -> int {
-    if (!ixIsClass(element, kTermClass)) return 0;
+    if (!ixIs<ix_ns_rcs_terms_info_term>(element)) return 0;
     return static_cast<RcsTermsInfoMarshaller&>(self).AddTermElementToXml(
         static_cast<ix_ns_rcs_terms_info_term*>(element));
 };
@@ -61,10 +58,6 @@ ix_ns_rcs_terms_info_term::~ix_ns_rcs_terms_info_term() {
     XmlFields::Release(this, kTermTable);
 }
 
-const char* ix_ns_rcs_terms_info_term::ClassName() const {
-    return kTermClass;
-}
-
 const XmlFieldTable* ix_ns_rcs_terms_info_term::FieldTable() const {
     return &kTermTable;
 }
@@ -86,10 +79,6 @@ ix_rcs_terms_info::~ix_rcs_terms_info() {
     XmlFields::Release(this, kRootTable);
 }
 
-const char* ix_rcs_terms_info::ClassName() const {
-    return kRootClass;
-}
-
 const XmlFieldTable* ix_rcs_terms_info::FieldTable() const {
     return &kRootTable;
 }
@@ -98,7 +87,7 @@ int ix_rcs_terms_info::ProcessUnMarshall(char* name, char* text, XMLElement* chi
     ixLog(kSourceFile, kRootHook);
     if (ixEndNameIs(name, IX_STR_TERMSVERSION)) return ixTakeText(mTermsVersion, text, child);
     if (!ixNameIs(name, IX_STR_TERM) || ixIsNameless(child)) return 1;
-    return ixIsClass(child, kTermClass) ? addTerm(static_cast<ix_ns_rcs_terms_info_term*>(child)) : 0;
+    return ixIs<ix_ns_rcs_terms_info_term>(child) ? addTerm(static_cast<ix_ns_rcs_terms_info_term*>(child)) : 0;
 }
 
 int ix_rcs_terms_info::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {

@@ -9,17 +9,10 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLReginfo";
 
-constexpr char kReginfoClass[] = "ix_reginfo";
-constexpr char kRegistrationClass[] = "ix_registration";
-constexpr char kContactClass[] = "ix_ns_reginfo_contact";
-constexpr char kUnknownParamClass[] = "ix_unknown_param";
-constexpr char kPubGruuClass[] = "ix_pub_gruu";
-constexpr char kTempGruuClass[] = "ix_temp_gruu";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLReginfoDecoder, "ReginfoUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kReginfoClass, IX_WRITER(ReginfoMarshaller, AddReginfoElementToXml, ix_reginfo)},
+    {IX_WRITER_OF(ReginfoMarshaller, AddReginfoElementToXml, ix_reginfo)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -44,7 +37,7 @@ struct ClassTexts {
 };
 
 constexpr ClassTexts kReginfoTexts = {
-    kRegistrationClass,
+    ix_registration::kClassName,
     {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshall: n_Object is Null"},
     {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshall: pElementName is Null"},
     {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshall: pElementName is %s while ClassName is ix_registration"},
@@ -52,7 +45,7 @@ constexpr ClassTexts kReginfoTexts = {
     {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshallAttribute n_strAttribute is NULL"},
     {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"}};
 constexpr ClassTexts kRegistrationTexts = {
-    kContactClass,
+    ix_ns_reginfo_contact::kClassName,
     {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshall: n_Object is Null"},
     {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshall: pElementName is Null"},
     {3, kSchemaCode, __LINE__,
@@ -61,7 +54,7 @@ constexpr ClassTexts kRegistrationTexts = {
     {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshallAttribute n_strAttribute is NULL"},
     {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"}};
 constexpr ClassTexts kContactTexts = {
-    kUnknownParamClass,
+    ix_unknown_param::kClassName,
     {3, kSchemaCode, __LINE__, "ix_ns_reginfo_contact::ProcessUnMarshall: n_Object is Null"},
     {3, kSchemaCode, __LINE__, "ix_ns_reginfo_contact::ProcessUnMarshall: pElementName is Null"},
     {3, kSchemaCode, __LINE__,
@@ -227,10 +220,6 @@ ix_unknown_param::~ix_unknown_param() {
     XmlFields::Release(this, kUnknownParamTable);
 }
 
-const char* ix_unknown_param::ClassName() const {
-    return kUnknownParamClass;
-}
-
 const XmlFieldTable* ix_unknown_param::FieldTable() const {
     return &kUnknownParamTable;
 }
@@ -248,10 +237,6 @@ int ix_unknown_param::ProcessUnMarshallAttribute(char* attribute, char* value, X
 
 ix_ns_reginfo_contact::~ix_ns_reginfo_contact() {
     XmlFields::Release(this, kContactTable);
-}
-
-const char* ix_ns_reginfo_contact::ClassName() const {
-    return kContactClass;
 }
 
 const XmlFieldTable* ix_ns_reginfo_contact::FieldTable() const {
@@ -300,10 +285,6 @@ ix_registration::~ix_registration() {
     XmlFields::Release(this, kRegistrationTable);
 }
 
-const char* ix_registration::ClassName() const {
-    return kRegistrationClass;
-}
-
 const XmlFieldTable* ix_registration::FieldTable() const {
     return &kRegistrationTable;
 }
@@ -335,10 +316,6 @@ int ix_registration::addAnyElement(XMLElement* element) {
 
 ix_reginfo::~ix_reginfo() {
     XmlFields::Release(this, kReginfoTable);
-}
-
-const char* ix_reginfo::ClassName() const {
-    return kReginfoClass;
 }
 
 const XmlFieldTable* ix_reginfo::FieldTable() const {
@@ -494,9 +471,9 @@ int ReginfoMarshaller::AddUnknownParamElementToXml(ix_unknown_param* param) {
 /// An element of a contact that is none of its own.
 int ReginfoMarshaller::AddAnyElementToXml(XMLElement* element) {
     // Required: a GRUU without URI does not fail its contact.
-    if (ixIsClass(element, kPubGruuClass)) {
+    if (ixIs<ix_pub_gruu>(element)) {
         AddPubGruuElementToXml(static_cast<ix_pub_gruu*>(element));
-    } else if (ixIsClass(element, kTempGruuClass)) {
+    } else if (ixIs<ix_temp_gruu>(element)) {
         AddTempGruuElementToXml(static_cast<ix_temp_gruu*>(element));
     } else {
         ixLog(kSourceFile, kContactAny, element->ClassName());

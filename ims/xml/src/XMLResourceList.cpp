@@ -8,21 +8,19 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLResourceList";
 
-constexpr char kResourceListsClass[] = "ix_resource_lists";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLResourceListsDecoder, "ResourceListsUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kResourceListsClass, IX_WRITER(Resource_listsMarshall, AddResource_listsElementToXml, ix_resource_lists)},
+    {IX_WRITER_OF(Resource_listsMarshall, AddResource_listsElementToXml, ix_resource_lists)},
 };
 
 /// The writers of a list's children.
 constexpr XmlWriterRow kChildWriters[] = {
-    {kListTypeClass, IX_WRITER(Resource_listsMarshall, AddListElementToXml, ix_listType)},
-    {kExternalTypeClass, IX_WRITER(Resource_listsMarshall, AddExternalElementToXml, ix_externalType)},
-    {kEntryTypeClass, IX_WRITER(Resource_listsMarshall, AddEntryElementToXml, ix_entryType)},
-    {kEntryRefTypeClass, IX_WRITER(Resource_listsMarshall, AddEntryRefElementToXml, ix_entry_refType)},
+    {IX_WRITER_OF(Resource_listsMarshall, AddListElementToXml, ix_listType)},
+    {IX_WRITER_OF(Resource_listsMarshall, AddExternalElementToXml, ix_externalType)},
+    {IX_WRITER_OF(Resource_listsMarshall, AddEntryElementToXml, ix_entryType)},
+    {IX_WRITER_OF(Resource_listsMarshall, AddEntryRefElementToXml, ix_entry_refType)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -92,7 +90,7 @@ int ix_display_nameType::ProcessUnMarshall(char* name, char* text, XMLElement* /
 
 int ix_listMemberType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (child != nullptr && ixNameIs(name, IX_STR_DISPLAY_NAME)) {
-        return ixTakeChild(mDisplayName, child, kDisplayNameTypeClass);
+        return ixTakeChild(mDisplayName, child);
     }
     // The end tag of the element itself comes by here, too.
     ixLog(kSourceFile, kCannotAccommodate, name, text);
@@ -158,10 +156,10 @@ int ix_listType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (child == nullptr || ixNameIs(name, IX_STR_DISPLAY_NAME)) {
         return ix_listMemberType::ProcessUnMarshall(name, text, child);
     }
-    if (ixNameIs(name, IX_STR_EXTERNAL)) return ixIsClass(child, kExternalTypeClass) ? addChild(child) : 0;
-    if (ixNameIs(name, IX_STR_ENTRY)) return ixIsClass(child, kEntryTypeClass) ? addChild(child) : 0;
-    if (ixNameIs(name, IX_STR_ENTRY_REF)) return ixIsClass(child, kEntryRefTypeClass) ? addChild(child) : 0;
-    if (ixNameIs(name, IX_STR_LIST)) return ixIsClass(child, kListTypeClass) ? addChild(child) : 0;
+    if (ixNameIs(name, IX_STR_EXTERNAL)) return ixTakeInto<ix_externalType>(mChildren, child, kSourceFile, __LINE__);
+    if (ixNameIs(name, IX_STR_ENTRY)) return ixTakeInto<ix_entryType>(mChildren, child, kSourceFile, __LINE__);
+    if (ixNameIs(name, IX_STR_ENTRY_REF)) return ixTakeInto<ix_entry_refType>(mChildren, child, kSourceFile, __LINE__);
+    if (ixNameIs(name, IX_STR_LIST)) return ixTakeInto<ix_listType>(mChildren, child, kSourceFile, __LINE__);
     return addAnyElement(child);
 }
 
@@ -191,7 +189,7 @@ const XmlFieldTable* ix_resource_lists::FieldTable() const {
 
 int ix_resource_lists::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    const bool isList = ixNameIs(name, IX_STR_LIST) && ixIsClass(child, kListTypeClass);
+    const bool isList = ixNameIs(name, IX_STR_LIST) && ixIs<ix_listType>(child);
     return isList ? addList(static_cast<ix_listType*>(child)) : 0;
 }
 

@@ -8,12 +8,10 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLRlmi";
 
-constexpr char kListClass[] = "ix_list";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLListDecoder, "ListUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kListClass, IX_WRITER(ListMarshaller, AddListElementToXml, ix_list)},
+    {IX_WRITER_OF(ListMarshaller, AddListElementToXml, ix_list)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -107,8 +105,8 @@ const XmlFieldTable* ix_resource::FieldTable() const {
 
 int ix_resource::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_NAME) && ixIsClass(child, kRlmiNameClass)) return addName(static_cast<ix_name*>(child));
-    const bool isInstance = ixNameIs(name, IX_STR_INSTANCE) && ixIsClass(child, kRlmiInstanceClass);
+    if (ixNameIs(name, IX_STR_NAME) && ixIs<ix_name>(child)) return addName(static_cast<ix_name*>(child));
+    const bool isInstance = ixNameIs(name, IX_STR_INSTANCE) && ixIs<ix_instance>(child);
     return isInstance ? addInstance(static_cast<ix_instance*>(child)) : 0;
 }
 
@@ -139,8 +137,8 @@ const XmlFieldTable* ix_list::FieldTable() const {
 
 int ix_list::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_NAME) && ixIsClass(child, kRlmiNameClass)) return addName(static_cast<ix_name*>(child));
-    const bool isResource = ixNameIs(name, IX_STR_RESOURCE) && ixIsClass(child, kRlmiResourceClass);
+    if (ixNameIs(name, IX_STR_NAME) && ixIs<ix_name>(child)) return addName(static_cast<ix_name*>(child));
+    const bool isResource = ixNameIs(name, IX_STR_RESOURCE) && ixIs<ix_resource>(child);
     return isResource ? addResource(static_cast<ix_resource*>(child)) : 0;
 }
 

@@ -8,13 +8,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLRlsServices";
 
-constexpr char kRlsServicesClass[] = "ix_rls_services";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLRlsServicesDecoder, "RlsServicesUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {kRlsServicesClass, IX_WRITER(RlsServicesMarshaller, AddRlsServicesElementToXml, ix_rls_services)},
+    {IX_WRITER_OF(RlsServicesMarshaller, AddRlsServicesElementToXml, ix_rls_services)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -72,7 +70,7 @@ const XmlFieldTable* ix_ns_rls_services_packagesType::FieldTable() const {
 
 int ix_ns_rls_services_packagesType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    const bool isPackage = ixNameIs(name, IX_STR_PACKAGE) && ixIsClass(child, kRlsPackageClass);
+    const bool isPackage = ixNameIs(name, IX_STR_PACKAGE) && ixIs<ix_ns_rls_services_packageType>(child);
     return isPackage ? addPackage(static_cast<ix_ns_rls_services_packageType*>(child)) : 0;
 }
 
@@ -90,8 +88,8 @@ const XmlFieldTable* ix_ns_rls_services_serviceType::FieldTable() const {
 
 int ix_ns_rls_services_serviceType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (child == nullptr && ixEndNameIs(name, IX_STR_RESOURCE_LIST)) return setResourceListValue(text);
-    if (child != nullptr && ixNameIs(name, IX_STR_LIST)) return ixTakeChild(mList, child, kListTypeClass);
-    if (child != nullptr && ixNameIs(name, IX_STR_PACKAGES)) return ixTakeChild(mPackages, child, kRlsPackagesClass);
+    if (child != nullptr && ixNameIs(name, IX_STR_LIST)) return ixTakeChild(mList, child);
+    if (child != nullptr && ixNameIs(name, IX_STR_PACKAGES)) return ixTakeChild(mPackages, child);
     ixLog(kSourceFile, kCannotAccommodate, name, text);
     return 1;
 }
@@ -115,7 +113,7 @@ const XmlFieldTable* ix_rls_services::FieldTable() const {
 
 int ix_rls_services::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    const bool isService = ixNameIs(name, IX_STR_SERVICE) && ixIsClass(child, kRlsServiceClass);
+    const bool isService = ixNameIs(name, IX_STR_SERVICE) && ixIs<ix_ns_rls_services_serviceType>(child);
     return isService ? addService(static_cast<ix_ns_rls_services_serviceType*>(child)) : 0;
 }
 

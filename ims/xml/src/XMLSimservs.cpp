@@ -12,8 +12,6 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLSimservs";
 
-constexpr char kClass[] = "ix_Simservs";
-
 constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
     XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(XMLSimservsDecoder, "SimservsUnMarshaller");
     info.decoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Success"};
@@ -23,7 +21,7 @@ constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
 
 constexpr XmlWriterRow kWriters[] = {
-    {kClass, IX_WRITER(SimservsMarshaller, AddSimservsElementToXml, ix_Simservs)},
+    {IX_WRITER_OF(SimservsMarshaller, AddSimservsElementToXml, ix_Simservs)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {

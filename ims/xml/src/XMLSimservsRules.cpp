@@ -4,10 +4,6 @@
 
 namespace {
 
-constexpr char kRulesetClass[] = "ix_ns_common_policy_ruleset";
-constexpr char kFlagClass[] = "ix_empty_element_type";
-constexpr char kMediaClass[] = "ix_ns_xcap_media_type";
-
 constexpr XmlLogText kAddRuleset = {2, kSchemaCode, __LINE__, "<XML Module>: AddRuleSetElementToXml"};
 constexpr XmlLogText kRulesetFailed = {4, kSchemaCode, __LINE__,
                                        "<XML Module>: AddRuleSetElementToXml Rule ID mandatory"};
@@ -42,6 +38,31 @@ constexpr XmlField kExternalListFields[] = {
     {XmlFieldKind::Text, IX_STR_IX_NULL, XmlTextMember(&ix_external_list::mExternalList), 0, nullptr, "text"},
 };
 constexpr XmlFieldTable kExternalListTable = {nullptr, kExternalListFields, std::size(kExternalListFields)};
+
+constexpr char kRevealTexts[][100] = {"false", "not-reveal-GRUU", "true"};
+constexpr XmlEnumeration kReveal = {kRevealTexts[0], sizeof kRevealTexts[0], int{std::size(kRevealTexts)}};
+static_assert(kReveal.count == ix_ns_xcap_forward_to_type::kRevealNotSet, "not set is past the last text");
+
+constexpr XmlField Notification(e_XmlStrRef name, int ix_ns_xcap_forward_to_type::*member) {
+    return {XmlFieldKind::Flag, name, XmlIntMember(member), ix_ns_xcap_forward_to_type::kNotifyNotSet};
+}
+
+constexpr XmlField Reveal(e_XmlStrRef name, int ix_ns_xcap_forward_to_type::*member) {
+    return {XmlFieldKind::Enumeration, name, XmlIntMember(member), ix_ns_xcap_forward_to_type::kRevealNotSet, &kReveal};
+}
+
+constexpr XmlField kForwardToFields[] = {
+    {XmlFieldKind::Text, IX_STR_TARGET, XmlTextMember(&ix_ns_xcap_forward_to_type::mTarget)},
+    Notification(IX_STR_NOTIFY_CALLER, &ix_ns_xcap_forward_to_type::mNotifyCaller),
+    Reveal(IX_STR_REVEAL_IDENTITY_TO_CALLER, &ix_ns_xcap_forward_to_type::mRevealIdentityToCaller),
+    Reveal(IX_STR_REVEAL_SERVED_USER_IDENTITY_TO_CALLER,
+           &ix_ns_xcap_forward_to_type::mRevealServedUserIdentityToCaller),
+    Notification(IX_STR_NOTIFY_SERVED_USER, &ix_ns_xcap_forward_to_type::mNotifyServedUser),
+    Notification(IX_STR_NOTIFY_SERVED_USER_ON_OUTBOUND_CALL,
+                 &ix_ns_xcap_forward_to_type::mNotifyServedUserOnOutboundCall),
+    Reveal(IX_STR_REVEAL_IDENTITY_TO_TARGET, &ix_ns_xcap_forward_to_type::mRevealIdentityToTarget),
+};
+constexpr XmlFieldTable kForwardToTable = {nullptr, kForwardToFields, std::size(kForwardToFields)};
 
 constexpr XmlField kRuleServiceFields[] = {
     {XmlFieldKind::Child, IX_STR_RULESET, IX_CHILD_MEMBER(ix_ns_xcap_ruleServiceType, mRuleset)},
@@ -92,6 +113,39 @@ const XmlFieldTable* ix_external_list::FieldTable() const {
     return &kExternalListTable;
 }
 
+const char* ix_ns_xcap_forward_to_type::RevealText(int value) {
+    return kReveal.TextOf(value);
+}
+
+ix_ns_xcap_forward_to_type::~ix_ns_xcap_forward_to_type() {
+    XmlFields::Release(this, kForwardToTable);
+}
+
+const XmlFieldTable* ix_ns_xcap_forward_to_type::FieldTable() const {
+    return &kForwardToTable;
+}
+
+int ix_ns_xcap_forward_to_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    if (name == nullptr || child != nullptr) return 0;
+    // Start tags are waited for, the text comes with the end tag.
+    const bool isEnd = *name == '/';
+    const char* const local = isEnd ? name + 1 : name;
+    for (const XmlField& field : kForwardToFields) {
+        if (!ixNameIs(local, field.name)) continue;
+        if (!isEnd || text == nullptr) return 1;
+        if (field.kind == XmlFieldKind::Text) return setTargetValue(text);
+        int& value = this->*static_cast<int ix_ns_xcap_forward_to_type::*>(field.member.number);
+        if (field.kind == XmlFieldKind::Flag) {
+            if (ixNameIs(text, IX_STR_TRUE)) value = 1;
+            if (ixNameIs(text, IX_STR_FALSE)) value = 0;
+        } else {
+            value = kReveal.IndexOf(text);
+        }
+        return 1;
+    }
+    return 0;
+}
+
 ix_ns_xcap_ruleServiceType::~ix_ns_xcap_ruleServiceType() {
     XmlFields::Release(this, kRuleServiceTable);
 }
@@ -101,7 +155,7 @@ const XmlFieldTable* ix_ns_xcap_ruleServiceType::FieldTable() const {
 }
 
 int ix_ns_xcap_ruleServiceType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    return ixNameIs(name, IX_STR_RULESET) ? ixTakeChild(mRuleset, child, kRulesetClass) : 1;
+    return ixNameIs(name, IX_STR_RULESET) ? ixTakeChild(mRuleset, child) : 1;
 }
 
 int ix_ns_xcap_ruleServiceType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
@@ -410,9 +464,9 @@ int XmlRuleMarshaller::AddEmptyElementtoXml(ix_empty_element_type* element) {
 }
 
 void XmlRuleMarshaller::AddFlagOrMedia(XMLElement* element) {
-    if (ixIsClass(element, kFlagClass)) {
+    if (ixIs<ix_empty_element_type>(element)) {
         AddEmptyElementtoXml(static_cast<ix_empty_element_type*>(element));
-    } else if (ixIsClass(element, kMediaClass)) {
+    } else if (ixIs<ix_ns_xcap_media_type>(element)) {
         AddServiceText(IX_STR_MEDIA, static_cast<const ix_ns_xcap_media_type*>(element)->mMedia);
     }
 }

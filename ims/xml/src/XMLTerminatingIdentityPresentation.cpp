@@ -6,12 +6,10 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLTerminatingIdentityPresentation";
 
-constexpr char kClass[] = "terminating-identity-presentation";
-
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_IDENTITY_UNMARSHALLER_INFO("TIP", XMLTIPDecoder);
 
 constexpr XmlWriterRow kWriters[] = {
-    {kClass, IX_WRITER(TIPMarshaller, AddTIPElementToXml, ix_terminating_identity_presentation)},
+    {IX_WRITER_OF(TIPMarshaller, AddTIPElementToXml, ix_terminating_identity_presentation)},
 };
 
 constexpr XmlMarshallerInfo kMarshallerInfo = IX_IDENTITY_MARSHALLER_INFO("TIP", kWriters);
@@ -20,10 +18,6 @@ constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__,
                                     "<XML Module>: AddTerminatingIdentityPresentationElementToXml"};
 
 }  // namespace
-
-const char* ix_terminating_identity_presentation::ClassName() const {
-    return kClass;
-}
 
 const char* ix_terminating_identity_presentation::SourceFile() const {
     return kSourceFile;

@@ -12,7 +12,7 @@ constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
     IX_UNMARSHALLER_INFO(XMLXcapDirectoryDecoder, "XcapDirectoryUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {ix_xcap_directory::kClass, IX_WRITER(XcapDirectoryMarshaller, AddXcapDirectoryElementToXml, ix_xcap_directory)},
+    {IX_WRITER_OF(XcapDirectoryMarshaller, AddXcapDirectoryElementToXml, ix_xcap_directory)},
 };
 
 constexpr XmlWriter kFolderWriter = IX_WRITER(XcapDirectoryMarshaller, AddFolderElementToXml, ix_folder);
@@ -70,7 +70,7 @@ const XmlFieldTable* ix_xcap_directory::FieldTable() const {
 
 int ix_xcap_directory::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (!ixNameIs(name, IX_STR_FOLDER)) return 1;
-    return ixIsClass(child, ix_folder::kClass) ? addFolder(static_cast<ix_folder*>(child)) : 0;
+    return ixIs<ix_folder>(child) ? addFolder(static_cast<ix_folder*>(child)) : 0;
 }
 
 int ix_xcap_directory::addFolder(ix_folder* folder) {
@@ -87,7 +87,7 @@ const XmlFieldTable* ix_folder::FieldTable() const {
 
 int ix_folder::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_ENTRY)) {
-        return ixIsClass(child, ix_entry::kClass) ? addEntry(static_cast<ix_entry*>(child)) : 0;
+        return ixIs<ix_entry>(child) ? addEntry(static_cast<ix_entry*>(child)) : 0;
     }
     return ixEndNameIs(name, IX_STR_ERROR_CODE) ? ixTakeText(mErrorCode, text, child) : 1;
 }

@@ -11,7 +11,7 @@ const char kSourceFile[] = "ims/xml/src/XMLXcapError";
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLXcapErrorDecoder, "XcapErrorUnMarshaller");
 
 constexpr XmlWriterRow kWriters[] = {
-    {ix_xcap_error::kClass, IX_WRITER(Xcap_ErrorMarshall, AddXcap_errorElementToXml, ix_xcap_error)},
+    {IX_WRITER_OF(Xcap_ErrorMarshall, AddXcap_errorElementToXml, ix_xcap_error)},
 };
 
 constexpr XmlMarshallerInfo MarshallerInfo() {
@@ -68,25 +68,21 @@ struct ErrorRow {
 
 /// The conditions that the root takes and writes.
 constexpr ErrorRow kErrors[] = {
-    {IX_STR_SCHEMA_VALIDATION_ERROR, ix_schema_validation_error::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddSchema_validation_errorElementToXml, ix_schema_validation_error)},
-    {IX_STR_NOT_XML_FRAG, ix_not_xml_frag::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddNot_xml_fragElementToXml, ix_not_xml_frag)},
-    {IX_STR_NO_PARENT, ix_no_parent::kClass, IX_WRITER(Xcap_ErrorMarshall, AddNo_parentElementToXml, ix_no_parent)},
-    {IX_STR_CANNOT_INSERT, ix_cannot_insert::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddCannot_insertElementToXml, ix_cannot_insert)},
-    {IX_STR_NOT_XML_ATT_VALUE, ix_not_xml_att_value::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddNot_xml_att_valueElementToXml, ix_not_xml_att_value)},
-    {IX_STR_UNIQUENESS_FAILURE, ix_uniqueness_failure::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddUniqueness_failureElementToXml, ix_uniqueness_failure)},
-    {IX_STR_NOT_WELL_FORMED, ix_not_well_formed::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddNot_well_formedElementToXml, ix_not_well_formed)},
-    {IX_STR_CONSTRAINT_FAILURE, ix_constraint_failure::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddConstraint_failureElementToXml, ix_constraint_failure)},
-    {IX_STR_CANNOT_DELETE, ix_cannot_delete::kClass,
-     IX_WRITER(Xcap_ErrorMarshall, AddCannot_deleteElementToXml, ix_cannot_delete)},
-    {IX_STR_NOT_UTF_8, ix_not_utf_8::kClass, IX_WRITER(Xcap_ErrorMarshall, AddNot_utf_8ElementToXml, ix_not_utf_8)},
-    {IX_STR_EXTENSION, ix_extension::kClass, IX_WRITER(Xcap_ErrorMarshall, AddExtensionElementToXml, ix_extension)},
+    {IX_STR_SCHEMA_VALIDATION_ERROR,
+     IX_WRITER_OF(Xcap_ErrorMarshall, AddSchema_validation_errorElementToXml, ix_schema_validation_error)},
+    {IX_STR_NOT_XML_FRAG, IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_xml_fragElementToXml, ix_not_xml_frag)},
+    {IX_STR_NO_PARENT, IX_WRITER_OF(Xcap_ErrorMarshall, AddNo_parentElementToXml, ix_no_parent)},
+    {IX_STR_CANNOT_INSERT, IX_WRITER_OF(Xcap_ErrorMarshall, AddCannot_insertElementToXml, ix_cannot_insert)},
+    {IX_STR_NOT_XML_ATT_VALUE,
+     IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_xml_att_valueElementToXml, ix_not_xml_att_value)},
+    {IX_STR_UNIQUENESS_FAILURE,
+     IX_WRITER_OF(Xcap_ErrorMarshall, AddUniqueness_failureElementToXml, ix_uniqueness_failure)},
+    {IX_STR_NOT_WELL_FORMED, IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_well_formedElementToXml, ix_not_well_formed)},
+    {IX_STR_CONSTRAINT_FAILURE,
+     IX_WRITER_OF(Xcap_ErrorMarshall, AddConstraint_failureElementToXml, ix_constraint_failure)},
+    {IX_STR_CANNOT_DELETE, IX_WRITER_OF(Xcap_ErrorMarshall, AddCannot_deleteElementToXml, ix_cannot_delete)},
+    {IX_STR_NOT_UTF_8, IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_utf_8ElementToXml, ix_not_utf_8)},
+    {IX_STR_EXTENSION, IX_WRITER_OF(Xcap_ErrorMarshall, AddExtensionElementToXml, ix_extension)},
 };
 
 }  // namespace
@@ -113,7 +109,8 @@ const XmlFieldTable* ix_xcap_error::FieldTable() const {
 
 int ix_xcap_error::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     for (const ErrorRow& error : kErrors) {
-        if (ixNameIs(name, error.element)) return ixTakeChild(mError, child, error.className);
+        if (!ixNameIs(name, error.element)) continue;
+        return ixIsClass(child, error.className) ? ixSetChild(mError, child) : 0;
     }
     return 1;
 }
@@ -144,7 +141,7 @@ const XmlFieldTable* ix_uniqueness_failure::FieldTable() const {
 
 int ix_uniqueness_failure::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (!ixNameIs(name, IX_STR_EXISTS)) return 1;
-    return ixIsClass(child, ix_exists::kClass) ? addExists(static_cast<ix_exists*>(child)) : 0;
+    return ixIs<ix_exists>(child) ? addExists(static_cast<ix_exists*>(child)) : 0;
 }
 
 int ix_uniqueness_failure::addExists(ix_exists* exists) {

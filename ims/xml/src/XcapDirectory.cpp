@@ -11,8 +11,8 @@ constexpr XmlKnownName kEntry = {IX_STR_ENTRY};
 
 constexpr XmlContainerRow kContainers[] = {
     {{IX_STR_XCAP_DIRECTORY}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_xcap_directory)},
-    {kFolder, XmlContainerRow::Child, ix_folder::kClass, IX_CREATOR(ix_folder)},
-    {kEntry, XmlContainerRow::Child, ix_entry::kClass, IX_CREATOR(ix_entry)},
+    {kFolder, XmlContainerRow::Child, IX_OBJECT(ix_folder)},
+    {kEntry, XmlContainerRow::Child, IX_OBJECT(ix_entry)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

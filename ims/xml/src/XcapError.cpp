@@ -23,19 +23,18 @@ constexpr XmlKnownName kNotUtf8 = {IX_STR_NOT_UTF_8};
 // An element `error-element` has no row: nobody knows it, so what is in it reaches the root.
 constexpr XmlContainerRow kContainers[] = {
     {kRoot, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_xcap_error)},
-    {kExtension, XmlContainerRow::Child, ix_extension::kClass, IX_CREATOR(ix_extension)},
-    {kSchemaValidationError, XmlContainerRow::Child, ix_schema_validation_error::kClass,
-     IX_CREATOR(ix_schema_validation_error)},
-    {kNotXmlFrag, XmlContainerRow::Child, ix_not_xml_frag::kClass, IX_CREATOR(ix_not_xml_frag)},
-    {kNoParent, XmlContainerRow::Child, ix_no_parent::kClass, IX_CREATOR(ix_no_parent)},
-    {kCannotInsert, XmlContainerRow::Child, ix_cannot_insert::kClass, IX_CREATOR(ix_cannot_insert)},
-    {kNotXmlAttValue, XmlContainerRow::Child, ix_not_xml_att_value::kClass, IX_CREATOR(ix_not_xml_att_value)},
-    {kUniquenessFailure, XmlContainerRow::Child, ix_uniqueness_failure::kClass, IX_CREATOR(ix_uniqueness_failure)},
-    {kExists, XmlContainerRow::Child, ix_exists::kClass, IX_CREATOR(ix_exists)},
-    {kNotWellFormed, XmlContainerRow::Child, ix_not_well_formed::kClass, IX_CREATOR(ix_not_well_formed)},
-    {kConstraintFailure, XmlContainerRow::Child, ix_constraint_failure::kClass, IX_CREATOR(ix_constraint_failure)},
-    {kCannotDelete, XmlContainerRow::Child, ix_cannot_delete::kClass, IX_CREATOR(ix_cannot_delete)},
-    {kNotUtf8, XmlContainerRow::Child, ix_not_utf_8::kClass, IX_CREATOR(ix_not_utf_8)},
+    {kExtension, XmlContainerRow::Child, IX_OBJECT(ix_extension)},
+    {kSchemaValidationError, XmlContainerRow::Child, IX_OBJECT(ix_schema_validation_error)},
+    {kNotXmlFrag, XmlContainerRow::Child, IX_OBJECT(ix_not_xml_frag)},
+    {kNoParent, XmlContainerRow::Child, IX_OBJECT(ix_no_parent)},
+    {kCannotInsert, XmlContainerRow::Child, IX_OBJECT(ix_cannot_insert)},
+    {kNotXmlAttValue, XmlContainerRow::Child, IX_OBJECT(ix_not_xml_att_value)},
+    {kUniquenessFailure, XmlContainerRow::Child, IX_OBJECT(ix_uniqueness_failure)},
+    {kExists, XmlContainerRow::Child, IX_OBJECT(ix_exists)},
+    {kNotWellFormed, XmlContainerRow::Child, IX_OBJECT(ix_not_well_formed)},
+    {kConstraintFailure, XmlContainerRow::Child, IX_OBJECT(ix_constraint_failure)},
+    {kCannotDelete, XmlContainerRow::Child, IX_OBJECT(ix_cannot_delete)},
+    {kNotUtf8, XmlContainerRow::Child, IX_OBJECT(ix_not_utf_8)},
 };
 
 constexpr XmlAttributeRow kAttributes[] = {

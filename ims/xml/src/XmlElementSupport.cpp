@@ -5,7 +5,7 @@
 
 ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute) {
     const char* const own = attribute != nullptr ? attribute->ClassName() : nullptr;
-    if (own == nullptr || std::strcmp(own, "ix_AttributeValuePair") != 0) return nullptr;
+    if (own == nullptr || std::strcmp(own, ix_AttributeValuePair::kClassName) != 0) return nullptr;
     return static_cast<ix_AttributeValuePair*>(attribute);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 /// The declarations that a binder holds, or NULL.
 const IxSingleElementList* NamespacesOf(XMLObject* binder) {
-    if (!ixIsClass(binder, kSchemaNamespaceRetrievalClass)) return nullptr;
+    if (!ixIs<ix_schema_namespace_retrieval>(binder)) return nullptr;
     return static_cast<ix_schema_namespace_retrieval*>(binder)->getNameSpaceInfo();
 }
 
