@@ -40,9 +40,9 @@ void Print(const ix_ns_reginfo_contact& contact) {
     // This list holds whatever the contact has besides its own elements: each entry says of which class it is.
     for (const IxSingleElementNode* node = First(contact.mAnyElementList); node != nullptr; node = node->next) {
         const auto* const element = static_cast<const XMLElement*>(node->key);
-        if (ixIsClass(element, "ix_pub_gruu")) {
+        if (ixIs<ix_pub_gruu>(element)) {
             std::printf("    public GRUU %s\n", Text(static_cast<const ix_pub_gruu*>(element)->mUri));
-        } else if (ixIsClass(element, "ix_temp_gruu")) {
+        } else if (ixIs<ix_temp_gruu>(element)) {
             std::printf("    temporary GRUU %s\n", Text(static_cast<const ix_temp_gruu*>(element)->mUri));
         }
     }

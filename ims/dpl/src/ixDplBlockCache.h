@@ -54,7 +54,8 @@ class BlockCache {
 
     /// The cache of this thread.
     static BlockCache& Mine() {
-        static thread_local BlockCache cache;
+        // Found without a call; the library asks for so little of such room that it can be loaded late all the same.
+        [[gnu::tls_model("initial-exec")]] static thread_local BlockCache cache;
         return cache;
     }
 

@@ -20,7 +20,14 @@ class IX_XML_EXPORT XMLPresenceDecoder : public XmlFamilyDecoder {
     int EndElement(char* name, char* text) override;
 
   private:
-    int AnyElement(char* name, char* data);
+    /// Where an element comes from.
+    enum Origin { Pidf, Extension, Unknown };
+
+    Origin OriginOf(const char* name) const;
+    int AnyElement(Origin origin, char* name, char* data);
+    XMLElement* TakeAnyElement(Origin origin, char* name, char* data);
+
+    XmlRowIndex m_names;
 };
 
 #endif

@@ -148,7 +148,6 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     static int ValidateList(char* text, const char* end);
     int ReportAttributes(const TagName& name, char* rest, char* end);
     int ReportSelfClosingEnd(const TagName& name, char* rest);
-    bool ReportEnd(const char* name, std::size_t length, char* text, const XmlLogText& noMemory, int* result);
     bool PushName(const char* name, std::size_t length);
     OpenName* NextOpenName();
     OpenName& LastOpenName() const { return m_openNames->names[m_openIndex - 1]; }

@@ -1,6 +1,5 @@
 #include "Presence.h"
 
-#include <algorithm>
 #include <iterator>
 
 #include "XMLPresence.h"
@@ -39,25 +38,13 @@ constexpr XmlAttributeRow kAttributes[] = {
     {kContact, IX_STR_PRIORITY},
 };
 
-/// The elements of PIDF, objects and texts. Everything else is an extension.
-constexpr e_XmlStrRef kPidfNames[] = {IX_STR_PRESENCE, IX_STR_TUPLE, IX_STR_STATUS,   IX_STR_CONTACT,
-                                      IX_STR_NOTE,     IX_STR_BASIC, IX_STR_TIMESTAMP};
-
-/// The elements of extensions that are known.
-constexpr e_XmlStrRef kExtensionNames[] = {IX_STR_SERVICE_DESCRIPTION,
-                                           IX_STR_SERVICE_ID,
-                                           IX_STR_DESCRIPTION,
-                                           IX_STR_VERSION,
-                                           IX_STR_SERVCAPS,
-                                           IX_STR_AUDIO,
-                                           IX_STR_DUPLEX,
-                                           IX_STR_SUPPORTED,
-                                           IX_STR_FULL};
-
-template <std::size_t Count>
-bool IsOneOf(const char* name, const e_XmlStrRef (&names)[Count]) {
-    return std::any_of(std::begin(names), std::end(names), [name](e_XmlStrRef entry) { return ixNameIs(name, entry); });
-}
+/// The elements that are known, objects and texts: those of PIDF, then those of extensions.
+constexpr e_XmlStrRef kNames[] = {IX_STR_PRESENCE,   IX_STR_TUPLE,       IX_STR_STATUS,    IX_STR_CONTACT,
+                                  IX_STR_NOTE,       IX_STR_BASIC,       IX_STR_TIMESTAMP, IX_STR_SERVICE_DESCRIPTION,
+                                  IX_STR_SERVICE_ID, IX_STR_DESCRIPTION, IX_STR_VERSION,   IX_STR_SERVCAPS,
+                                  IX_STR_AUDIO,      IX_STR_DUPLEX,      IX_STR_SUPPORTED, IX_STR_FULL};
+constexpr std::size_t kFirstExtension = 7;
+static_assert(kNames[kFirstExtension] == IX_STR_SERVICE_DESCRIPTION, "PIDF ends before this one");
 
 constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
@@ -75,18 +62,30 @@ constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLPresenceDecoder::XMLPresenceDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLPresenceDecoder::XMLPresenceDecoder() : XmlFamilyDecoder(kInfo) {
+    for (std::size_t i = 0; i < std::size(kNames); ++i) m_names.Add(i, XmlKnownName{kNames[i]});
+}
+
+XMLPresenceDecoder::Origin XMLPresenceDecoder::OriginOf(const char* name) const {
+    const unsigned key = XmlRowIndex::Key(name);
+    for (std::size_t i = m_names.Next(key, 0); i < std::size(kNames); i = m_names.Next(key, i + 1)) {
+        if (ixNameIs(name, kNames[i])) return i < kFirstExtension ? Pidf : Extension;
+    }
+    return Unknown;
+}
 
 int XMLPresenceDecoder::StartElement(char* name) {
-    return IsOneOf(name, kPidfNames) ? XmlFamilyDecoder::StartElement(name) : AnyElement(name, nullptr);
+    const Origin origin = OriginOf(name);
+    return origin == Pidf ? XmlFamilyDecoder::StartElement(name) : AnyElement(origin, name, nullptr);
 }
 
 int XMLPresenceDecoder::EndElement(char* name, char* text) {
-    return IsOneOf(name + 1, kPidfNames) ? XmlFamilyDecoder::EndElement(name, text) : AnyElement(name, text);
+    const Origin origin = OriginOf(name + 1);
+    return origin == Pidf ? XmlFamilyDecoder::EndElement(name, text) : AnyElement(origin, name, text);
 }
 
-int XMLPresenceDecoder::AnyElement(char* name, char* data) {
-    if (ProcessAnyElement(name, data) == nullptr) ixLog(kSourceFile, kDropped, name);
+int XMLPresenceDecoder::AnyElement(Origin origin, char* name, char* data) {
+    if (TakeAnyElement(origin, name, data) == nullptr) ixLog(kSourceFile, kDropped, name);
     return 0;
 }
 
@@ -95,12 +94,15 @@ XMLElement* XMLPresenceDecoder::ProcessAnyElement(char* name, char* data) {
         ixLog(kSourceFile, kNoName);
         return nullptr;
     }
-    const bool isEnd = *name == '/';
-    if (!IsOneOf(isEnd ? name + 1 : name, kExtensionNames)) {
+    return TakeAnyElement(OriginOf(*name == '/' ? name + 1 : name), name, data);
+}
+
+XMLElement* XMLPresenceDecoder::TakeAnyElement(Origin origin, char* name, char* data) {
+    if (origin != Extension) {
         ixLog(kSourceFile, kUnknown, name);
         return nullptr;
     }
-    if (isEnd) {
+    if (*name == '/') {
         XmlFamilyDecoder::EndElement(name, data);
     } else {
         XmlFamilyDecoder::StartElement(name);

@@ -294,9 +294,14 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
     }
     *begin = '\0';
     if (m_pSchemaDecoder != nullptr) {
-        int result = 0;
-        if (!ReportEnd(name, length, text, kNoMemoryForEndName, &result)) return IX_XML_ERROR;
-        if (result != 0) ixLog(kSourceFile, kEndTagRejected, m_endName.Text());
+        // Required: memory for a copy of the name is taken here, and its failure told, although "/name" stands in the
+        // buffer as it is needed.
+        char* const endName = begin + 1;
+        if (!m_endName.Reserve(length + 2)) {
+            ixLog(kSourceFile, kNoMemoryForEndName);
+            return IX_XML_ERROR;
+        }
+        if (m_pSchemaDecoder->ProcessElement(endName, text) != 0) ixLog(kSourceFile, kEndTagRejected, endName);
     }
     DropLastOpenName();
     return kTagDone;
@@ -406,26 +411,19 @@ int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end) {
     return m_iSelfClosing == 1 ? ReportSelfClosingEnd(name, rest) : result;
 }
 
+/// Reports "/name", for which a tag that closes itself has no place.
 int XmlDecoder::ReportSelfClosingEnd(const TagName& name, char* rest) {
     m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
-    int result = 0;
-    if (!ReportEnd(name.text, name.length, rest, kNoMemoryForSelfEnd, &result)) return IX_XML_ERROR;
-    m_iSelfClosing = 0;
-    return 0;
-}
-
-/// Reports "/name" with `text`. @return false without memory.
-bool XmlDecoder::ReportEnd(const char* name, std::size_t length, char* text, const XmlLogText& noMemory, int* result) {
-    if (!m_endName.Reserve(length + 2)) {
-        ixLog(kSourceFile, noMemory);
-        return false;
+    if (!m_endName.Reserve(name.length + 2)) {
+        ixLog(kSourceFile, kNoMemoryForSelfEnd);
+        return IX_XML_ERROR;
     }
     char* const endName = m_endName.Text();
     endName[0] = '/';
-    std::memcpy(endName + 1, name, length);
-    endName[length + 1] = '\0';
-    *result = m_pSchemaDecoder->ProcessElement(endName, text);
-    return true;
+    std::memcpy(endName + 1, name.text, name.length + 1);
+    m_pSchemaDecoder->ProcessElement(endName, rest);
+    m_iSelfClosing = 0;
+    return 0;
 }
 
 int XmlDecoder::ValidateAttributeList(char* list) {
