@@ -232,13 +232,15 @@ class SimservsUnMarshaller::Search {
     /// `removed` characters were cut at `at`; `length` are left.
     void Cut(std::size_t at, std::size_t removed, std::size_t length) {
         for (std::size_t i = 0; i < kServiceCount; ++i) {
-            const std::size_t nameLength = std::strlen(kServices[i].Name());
+            const char* const name = kServices[i].Name();
+            const std::size_t nameLength = std::strlen(name);
             const std::size_t joint = at >= nameLength ? at - nameLength + 1 : 0;
             if (m_from[i] <= joint) continue;
             const std::size_t known = m_from[i] >= at + removed ? m_from[i] - removed : at;
             m_from[i] = joint;
-            while (m_from[i] < at && std::strncmp(m_text + m_from[i], kServices[i].Name(), nameLength) != 0)
-                ++m_from[i];
+            for (const char* text = m_text + joint; m_from[i] < at; ++m_from[i], ++text) {
+                if (*text == *name && std::strncmp(text, name, nameLength) == 0) break;
+            }
             if (m_from[i] < at) continue;
             const std::size_t last = FirstUnknown(i, length);
             m_from[i] = known < last ? known : last;

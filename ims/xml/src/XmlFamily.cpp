@@ -40,9 +40,10 @@ const XmlAttributeRow* AttributeAt(const XmlDecoderInfo& decoder, std::size_t ro
 
 /// `name` without the prefix, when it has it, and NULL when it must have it and has not.
 char* XmlKnownName::BehindPrefix(char* name) const {
-    const char* const expected = ix_xml_common_array_definition::getStringName(prefix);
-    const std::size_t length = std::strlen(expected);
-    if (std::strncmp(name, expected, length) == 0 && name[length] == ':') return name + length + 1;
+    const char* expected = ix_xml_common_array_definition::getStringName(prefix);
+    char* behind = name;
+    for (; *expected != '\0' && *behind == *expected; ++expected) ++behind;
+    if (*expected == '\0' && *behind == ':') return behind + 1;
     return use == Required ? nullptr : name;
 }
 
