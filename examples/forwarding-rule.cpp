@@ -61,19 +61,17 @@ bool Print(XMLMarshaller& writer, XMLElement* element) {
 }  // namespace
 
 int main() {
-    XMLContext* const context = XMLFactory::newInstance(IX_XML_SCHEMA_COMMUNICATION_DIVERSION);
+    const XmlOwnedContext context(XMLFactory::newInstance(IX_XML_SCHEMA_COMMUNICATION_DIVERSION));
     if (context == nullptr) return 1;
     // The factory of a schema has creators of its own behind the common one.
     auto* const binder = static_cast<CommunicationDiversionDataBinder*>(context->createBinderFactory());
     XMLMarshaller* const writer = context->createMarshaller();
-    XMLElement* const root = binder != nullptr && writer != nullptr ? binder->CreateRootElement() : nullptr;
-    auto* const service = static_cast<ix_communication_diversion*>(root);
+    const XmlOwned<> root(binder != nullptr && writer != nullptr ? binder->CreateRootElement() : nullptr);
+    auto* const service = ixAs<ix_communication_diversion>(root.get());
     ix_ns_common_policy_ruleType* const rule = service != nullptr ? AddRule(*binder, *service) : nullptr;
     const bool written = rule != nullptr &&
                          Declare(*service, "xmlns:ss", "http://uri.etsi.org/ngn/params/xml/simservs/xcap") &&
                          Declare(*service, "xmlns:cp", "urn:ietf:params:xml:ns:common-policy") &&
-                         Print(*writer, rule) && Print(*writer, root);
-    XMLFactory::DeleteElement(root);
-    XMLFactory::deleteContext(context);
+                         Print(*writer, rule) && Print(*writer, root.get());
     return written ? 0 : 1;
 }

@@ -6,23 +6,9 @@
 #include <string>
 
 #include "XMLImdn.h"
+#include "XmlMarkup.h"
 
 namespace {
-
-/// The library writes texts as they stand, and a message id may have "&" in it.
-std::string Escaped(const char* text) {
-    std::string escaped;
-    for (; *text != '\0'; ++text) {
-        if (*text == '&') {
-            escaped += "&amp;";
-        } else if (*text == '<') {
-            escaped += "&lt;";
-        } else {
-            escaped += *text;
-        }
-    }
-    return escaped;
-}
 
 /// Each element is hung into the tree as soon as it is made; all `set` operations for children take them over for good.
 bool SetDelivered(IMDNDataBinder& binder, ix_imdn& imdn) {
@@ -60,19 +46,19 @@ bool Send(XMLMarshaller& writer, ix_imdn& imdn) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::string id = Escaped(argc > 1 ? argv[1] : "b81f&7Qz2c9");
-    const std::string datetime = Escaped(argc > 2 ? argv[2] : "2024-03-05T08:41:07.250+01:00");
+    // The library writes texts as they stand, and a message id may have "&" in it.
+    const std::string id = XmlEscaped(argc > 1 ? argv[1] : "b81f&7Qz2c9");
+    const std::string datetime = XmlEscaped(argc > 2 ? argv[2] : "2024-03-05T08:41:07.250+01:00");
 
-    XMLContext* const context = XMLFactory::newInstance(IX_XML_SCHEMA_IMDN);
+    const XmlOwnedContext context(XMLFactory::newInstance(IX_XML_SCHEMA_IMDN));
     if (context == nullptr) return 1;
+    // The factory of a schema has creators of its own behind the common one.
     auto* const binder = static_cast<IMDNDataBinder*>(context->createBinderFactory());
     XMLMarshaller* const writer = context->createMarshaller();
-    XMLElement* const root = binder != nullptr && writer != nullptr ? binder->CreateRootElement() : nullptr;
-    auto* const imdn = static_cast<ix_imdn*>(root);
+    const XmlOwned<> root(binder != nullptr && writer != nullptr ? binder->CreateRootElement() : nullptr);
+    auto* const imdn = ixAs<ix_imdn>(root.get());
     const bool sent = imdn != nullptr && imdn->setMessageIdValue(id.c_str()) != 0 &&
                       imdn->setDatetimeValue(datetime.c_str()) != 0 && SetDelivered(*binder, *imdn) &&
                       Send(*writer, *imdn) && SetDisplayed(*binder, *imdn) && Send(*writer, *imdn);
-    XMLFactory::DeleteElement(root);
-    XMLFactory::deleteContext(context);
     return sent ? 0 : 1;
 }

@@ -10,11 +10,6 @@
 
 namespace {
 
-/// The first entry of a list. An element without entries has no list at all.
-const IxSingleElementNode* First(const IxSingleElementList* list) {
-    return list != nullptr ? list->GetPtrToListHead() : nullptr;
-}
-
 const char* Text(const char* text) {
     return text != nullptr ? text : "(none)";
 }
@@ -29,13 +24,10 @@ void Print(const ix_parm& parm, const std::string& path) {
 /// No tree is deeper than the 100 elements that the library has under construction at a time, so that the recursion is
 /// bounded whatever the file holds.
 void Print(const IxSingleElementList* characteristics, const std::string& path) {
-    for (const IxSingleElementNode* node = First(characteristics); node != nullptr; node = node->next) {
-        const auto& group = *static_cast<const ix_characteristic*>(node->key);
-        const std::string inside = path + Text(group.mType) + '/';
-        for (const IxSingleElementNode* inner = First(group.mParmList); inner != nullptr; inner = inner->next) {
-            Print(*static_cast<const ix_parm*>(inner->key), inside);
-        }
-        Print(group.mCharacteristicList, inside);
+    for (const auto* group : XmlEntries<ix_characteristic>(characteristics)) {
+        const std::string inside = path + Text(group->mType) + '/';
+        for (const auto* parm : XmlEntries<ix_parm>(group->mParmList)) Print(*parm, inside);
+        Print(group->mCharacteristicList, inside);
     }
 }
 
@@ -43,18 +35,16 @@ void Print(const IxSingleElementList* characteristics, const std::string& path) 
 
 int main(int argc, char** argv) {
     const char* const name = argc > 1 ? argv[1] : "samples/wap-provisioning/typical.xml";
-    XMLContext* const context = XMLFactory::newInstance(IX_XML_SCHEMA_WAP_PROVISIONING_DOC);
+    const XmlOwnedContext context(XMLFactory::newInstance(IX_XML_SCHEMA_WAP_PROVISIONING_DOC));
     XMLUnMarshaller* const reader = context != nullptr ? context->createUnMarshaller() : nullptr;
     XMLFile file(name, eXMLFileRead);
-    XMLElement* const root = reader != nullptr ? reader->UnMarshall(&file) : nullptr;
+    const XmlOwned<> root(reader != nullptr ? reader->UnMarshall(&file) : nullptr);
     // The tree holds copies. The file is open until it is closed: its destructor does not do it.
     file.CloseFile();
-    if (root != nullptr) {
-        Print(static_cast<const ix_wap_provisioning_doc*>(root)->mCharacteristicList, "");
-    } else {
+    const auto* const document = ixAs<ix_wap_provisioning_doc>(root.get());
+    if (document == nullptr) {
         std::fprintf(stderr, "%s: no readable and complete provisioning document\n", name);
+        return 1;
     }
-    XMLFactory::DeleteElement(root);
-    XMLFactory::deleteContext(context);
-    return root != nullptr ? 0 : 1;
+    Print(document->mCharacteristicList, "");
 }

@@ -31,10 +31,8 @@ class ContainersTest : public XmlTest {
     /// The entries as offsets into `m_items`, "-" for NULL.
     std::string Entries(const IxSingleElementList& list) {
         std::string text;
-        for (const IxSingleElementNode* node = list.LastNode() != nullptr ? list.GetPtrToListHead() : nullptr;
-             node != nullptr; node = node->next) {
-            text += node->key != nullptr ? std::to_string(static_cast<char*>(node->key) - m_items) : "-";
-        }
+        for (const char* entry : XmlEntries<char>(&list))
+            text += entry != nullptr ? std::to_string(entry - m_items) : "-";
         return text;
     }
     char m_items[10] = {};

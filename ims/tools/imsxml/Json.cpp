@@ -24,9 +24,7 @@ Json EntryToJson(XmlFieldKind kind, const void* entry) {
 
 Json ListToJson(XmlFieldKind kind, const IxSingleElementList& list) {
     Json array = Json::array();
-    for (const IxSingleElementNode* node = list.GetPtrToListHead(); node != nullptr; node = node->next) {
-        array.push_back(EntryToJson(kind, node->key));
-    }
+    for (const auto* entry : XmlEntries<const void>(&list)) array.push_back(EntryToJson(kind, entry));
     return array;
 }
 

@@ -7,6 +7,8 @@
 #ifndef IX_XML_FACTORY_H
 #define IX_XML_FACTORY_H
 
+#include <memory>
+
 #include "XMLCommonDef.h"
 #include "XmlPlatform.h"
 
@@ -142,5 +144,18 @@ class IX_XML_EXPORT XMLFactory {
     /// @return NULL for a number that stands for no schema.
     static const XmlSchemaInfo* SchemaInfo(int id);
 };
+
+/// Frees trees and contexts for `std::unique_ptr`.
+struct XmlDeleter {
+    void operator()(XMLElement* element) const { XMLFactory::DeleteElement(element); }
+    void operator()(XMLContext* context) const { XMLFactory::deleteContext(context); }
+};
+
+/// Owns a tree, or a part of one that is not linked yet; NULL: none.
+template <class Element = XMLElement>
+using XmlOwned = std::unique_ptr<Element, XmlDeleter>;
+
+/// Owns a context. NULL: none.
+using XmlOwnedContext = std::unique_ptr<XMLContext, XmlDeleter>;
 
 #endif

@@ -59,4 +59,31 @@ inline const IxSingleElementNode* ixNodesOf(const IxSingleElementList* list) {
     return list != nullptr && list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
 }
 
+/// The entries of a list for a loop: `for (ix_contact* contact : XmlEntries<ix_contact>(list))`. NULL has none. An
+/// entry that an application has put in can be NULL.
+template <class Entry>
+class XmlEntries {
+  public:
+    class Iterator {
+      public:
+        explicit Iterator(const IxSingleElementNode* node) : m_pNode(node) {}
+        Entry* operator*() const { return static_cast<Entry*>(m_pNode->key); }
+        Iterator& operator++() {
+            m_pNode = m_pNode->next;
+            return *this;
+        }
+        bool operator!=(const Iterator& other) const { return m_pNode != other.m_pNode; }
+
+      private:
+        const IxSingleElementNode* m_pNode;
+    };
+
+    explicit XmlEntries(const IxSingleElementList* list) : m_pFirst(ixNodesOf(list)) {}
+    Iterator begin() const { return Iterator(m_pFirst); }
+    Iterator end() const { return Iterator(nullptr); }
+
+  private:
+    const IxSingleElementNode* m_pFirst;
+};
+
 #endif

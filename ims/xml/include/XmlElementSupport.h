@@ -35,6 +35,16 @@ bool ixIs(const XMLElement* element) {
     return ixIsClass(element, Element::kClassName);
 }
 
+/// `element` as an object of the class `Element`, which it is by its name; NULL when it is none, or NULL.
+template <class Element>
+Element* ixAs(XMLElement* element) {
+    return ixIs<Element>(element) ? static_cast<Element*>(element) : nullptr;
+}
+template <class Element>
+const Element* ixAs(const XMLElement* element) {
+    return ixIs<Element>(element) ? static_cast<const Element*>(element) : nullptr;
+}
+
 /// True for an object that has no class name, which a hook answers with 1 and does not take.
 inline bool ixIsNameless(const XMLElement* element) {
     return element != nullptr && element->ClassName() == nullptr;

@@ -122,6 +122,12 @@ class IX_XML_EXPORT XmlFields {
     static bool IsSet(const XMLElement& element, const XmlField& field);
     /// @}
 
+    /// The field of that name, as `XmlField::Name` tells it; NULL: the class has none.
+    static const XmlField* Find(const XMLElement& element, const char* name);
+
+    /// The document's word for an enumerated field; NULL: it is not set, or the class has none of that name.
+    static const char* Word(const XMLElement& element, const char* name);
+
     /// Frees what the fields of `table` own, not those of its base. Every destructor of an element class calls it with
     /// the class's own table.
     static void Release(XMLElement* element, const XmlFieldTable& table);

@@ -571,13 +571,13 @@ void Conference_infoMarshall::StartContainer(e_XmlStrRef name, const ix_conferen
 void Conference_infoMarshall::AddSidebars(const ix_sidebars_by_val_type& sidebars) {
     StartContainer(IX_STR_SIDEBARS_BY_VAL, sidebars, kStates.TextOf(sidebars.mState));
     int index = 0;
-    for (const IxSingleElementNode* node = ixNodesOf(sidebars.mEntryList); node != nullptr;
-         node = node->next, ++index) {
-        auto* const sidebar = static_cast<ix_conference_type*>(node->key);
+    for (auto* const sidebar : XmlEntries<ix_conference_type>(sidebars.mEntryList)) {
         const IxXMLDocGenerator::Place before = m_generator.Here();
-        if (sidebar == nullptr || AddConferenceInfoElementToXml(sidebar, IX_STR_ENTRY) != 0) continue;
-        ixLog(kSourceFile, kSidebarFailed, index);
-        m_generator.CutBack(before);
+        if (sidebar != nullptr && AddConferenceInfoElementToXml(sidebar, IX_STR_ENTRY) == 0) {
+            ixLog(kSourceFile, kSidebarFailed, index);
+            m_generator.CutBack(before);
+        }
+        ++index;
     }
     EndElement(IX_STR_SIDEBARS_BY_VAL);
 }
@@ -613,9 +613,9 @@ int Conference_infoMarshall::AddConferenceMediaTypeElementToXml(ix_conference_me
     if (media == nullptr) return 0;
     StartContainer(IX_STR_AVAILABLE_MEDIA, *media);
     int index = 0;
-    for (const IxSingleElementNode* node = ixNodesOf(media->mEntryList); node != nullptr; node = node->next, ++index) {
-        auto* const medium = static_cast<ix_conference_medium_type*>(node->key);
+    for (auto* const medium : XmlEntries<ix_conference_medium_type>(media->mEntryList)) {
         if (medium != nullptr && AddMediumEntry(medium, index) == 0) return 0;
+        ++index;
     }
     EndElement(IX_STR_AVAILABLE_MEDIA);
     return 1;
@@ -702,24 +702,22 @@ int Conference_infoMarshall::AddUserElementToXml(ix_user_type* user) {
 
 void Conference_infoMarshall::AddRoles(const ix_user_roles_type& roles) {
     StartContainer(IX_STR_ROLES, roles);
-    for (const IxSingleElementNode* node = ixNodesOf(roles.mEntryList); node != nullptr; node = node->next) {
-        AddTextElement(IX_STR_ENTRY, static_cast<const char*>(node->key));
-    }
+    for (const auto* const role : XmlEntries<const char>(roles.mEntryList)) AddTextElement(IX_STR_ENTRY, role);
     EndElement(IX_STR_ROLES);
 }
 
 /// One element for all words, with single blanks between them; nothing for none.
 void Conference_infoMarshall::AddWords(e_XmlStrRef name, const IxSingleElementList* words) {
     bool started = false;
-    for (const IxSingleElementNode* node = ixNodesOf(words); node != nullptr; node = node->next) {
-        if (node->key == nullptr) continue;
+    for (const auto* const word : XmlEntries<const char>(words)) {
+        if (word == nullptr) continue;
         if (started) {
             m_generator.ixXmlSetData(ix_xml_common_array_definition::getStringName(IX_STR_BLANK));
         } else {
             StartElement(name);
             started = true;
         }
-        m_generator.ixXmlSetData(static_cast<const char*>(node->key));
+        m_generator.ixXmlSetData(word);
     }
     if (started) EndElement(name);
 }

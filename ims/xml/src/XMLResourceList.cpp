@@ -237,9 +237,10 @@ int Resource_listsMarshall::AddResource_listsElementToXml(ix_resource_lists* lis
                          ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_COPYCONTROL),
                          Attribute::Closing);
     int index = 0;
-    for (const IxSingleElementNode* node = ixNodesOf(lists->mListList); node != nullptr; node = node->next, ++index) {
+    for (auto* const list : XmlEntries<ix_listType>(lists->mListList)) {
         // A list that fails is left out, and the next one is written.
-        if (AddListElementToXml(static_cast<ix_listType*>(node->key)) == 0) ixLog(kSourceFile, kListFailed, index);
+        if (AddListElementToXml(list) == 0) ixLog(kSourceFile, kListFailed, index);
+        ++index;
     }
     EndElement(IX_STR_RESOURCE_LISTS);
     return 1;
@@ -251,9 +252,7 @@ int Resource_listsMarshall::AddListElementToXml(ix_listType* list) {
     // Where nothing more can be written, nothing is descended into.
     if (m_generator.Text() == nullptr || m_generator.IsTruncated()) return 1;
     AddStartTag(IX_STR_LIST, IX_STR_NAME, list->mName, *list);
-    for (const IxSingleElementNode* node = ixNodesOf(list->mChildren); node != nullptr; node = node->next) {
-        AddChild(static_cast<XMLElement*>(node->key));
-    }
+    for (auto* const child : XmlEntries<XMLElement>(list->mChildren)) AddChild(child);
     EndElement(IX_STR_LIST);
     return 1;
 }

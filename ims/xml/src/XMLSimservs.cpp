@@ -147,8 +147,7 @@ struct Target {
 
 /// Has every service written by its own schema.
 void WriteEach(const IxSingleElementList& services, Target& target) {
-    for (const IxSingleElementNode* node = ixNodesOf(&services); node != nullptr; node = node->next) {
-        auto* const element = static_cast<XMLElement*>(node->key);
+    for (auto* const element : XmlEntries<XMLElement>(&services)) {
         const char* const className = element != nullptr ? element->ClassName() : nullptr;
         if (className == nullptr) {
             ixLog(kSourceFile, element == nullptr ? kNoEntry : kNoClassName);

@@ -265,8 +265,7 @@ int XmlRuleMarshaller::AddRuleSetElementToXml(ix_ns_common_policy_ruleset* eleme
     ixLog(Source(), kAddRuleset);
     if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_RULESET);
-    for (const IxSingleElementNode* node = ixNodesOf(element->mRuleList); node != nullptr; node = node->next) {
-        auto* const rule = static_cast<ix_ns_common_policy_ruleType*>(node->key);
+    for (auto* const rule : XmlEntries<ix_ns_common_policy_ruleType>(element->mRuleList)) {
         if (rule != nullptr && AddRuleElementToXml(rule) == 0) {
             ixLog(Source(), kRulesetFailed);
             return 0;
@@ -298,22 +297,16 @@ int XmlRuleMarshaller::AddConditionsElementToXml(ix_ns_common_policy_conditionsT
     ixLog(Source(), kAddConditions);
     if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_CONDITIONS);
-    for (const IxSingleElementNode* node = ixNodesOf(element->mIdentityList); node != nullptr; node = node->next) {
-        const auto* const identity = static_cast<const ix_ns_common_policy_identityType*>(node->key);
+    for (const auto* const identity : XmlEntries<ix_ns_common_policy_identityType>(element->mIdentityList)) {
         if (identity != nullptr && AddIdentityElementToXml(*identity) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = ixNodesOf(element->mSphereList); node != nullptr; node = node->next) {
-        const auto* const sphere = static_cast<const ix_ns_common_policy_sphereType*>(node->key);
+    for (const auto* const sphere : XmlEntries<ix_ns_common_policy_sphereType>(element->mSphereList)) {
         if (sphere != nullptr && AddSphereElementToXml(*sphere) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = ixNodesOf(element->mValidityList); node != nullptr; node = node->next) {
-        const auto* const validity = static_cast<const ix_ns_common_policy_validityType*>(node->key);
+    for (const auto* const validity : XmlEntries<ix_ns_common_policy_validityType>(element->mValidityList)) {
         if (validity != nullptr && AddValidityElementToXml(*validity) == 0) return 0;
     }
-    for (const IxSingleElementNode* node = ixNodesOf(element->mOtherConditionsList); node != nullptr;
-         node = node->next) {
-        AddFlagOrMedia(static_cast<XMLElement*>(node->key));
-    }
+    for (auto* const condition : XmlEntries<XMLElement>(element->mOtherConditionsList)) AddFlagOrMedia(condition);
     EndPrefixed(IX_STR_CP, IX_STR_CONDITIONS);
     return 1;
 }
@@ -324,8 +317,7 @@ int XmlRuleMarshaller::AddIdentityElementToXml(const ix_ns_common_policy_identit
         ixLog(Source(), kEmptyIdentity, CountOf(element.mOneList), CountOf(element.mManyList));
         return 0;
     }
-    for (const IxSingleElementNode* node = ixNodesOf(element.mOneList); node != nullptr; node = node->next) {
-        const auto* const one = static_cast<const ix_ns_common_policy_oneType*>(node->key);
+    for (const auto* const one : XmlEntries<ix_ns_common_policy_oneType>(element.mOneList)) {
         if (one == nullptr) continue;
         StartElementOpen(IX_STR_ONE);
         if (one->mId == nullptr) {
@@ -353,10 +345,8 @@ void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
             // Required: without a domain nothing closes the start tag.
             if (many->mDomain != nullptr) AddOnlyAttribute(IX_STR_DOMAIN, many->mDomain, Attribute::Closing);
             if (many->mExceptList != nullptr) next = 1;
-            for (const IxSingleElementNode* inner = ixNodesOf(many->mExceptList); inner != nullptr;
-                 inner = inner->next) {
-                if (inner->key != nullptr)
-                    AddExceptElementToXml(static_cast<ix_ns_common_policy_exceptType*>(inner->key));
+            for (auto* const except : XmlEntries<ix_ns_common_policy_exceptType>(many->mExceptList)) {
+                if (except != nullptr) AddExceptElementToXml(except);
                 ++next;
             }
             EndElement(IX_STR_MANY);
@@ -420,8 +410,7 @@ int XmlRuleMarshaller::AddActionsElementToXml(ix_ns_common_policy_extensibleType
     ixLog(Source(), m_texts.addActions);
     if (element == nullptr) return 0;
     StartPrefixed(IX_STR_CP, IX_STR_ACTIONS);
-    for (const IxSingleElementNode* node = ixNodesOf(element->mElementList); node != nullptr; node = node->next) {
-        auto* const action = static_cast<XMLElement*>(node->key);
+    for (auto* const action : XmlEntries<XMLElement>(element->mElementList)) {
         AddFlagOrMedia(action);
         AddAction(action);
     }

@@ -258,9 +258,9 @@ int Xcap_ErrorMarshall::AddUniqueness_failureElementToXml(ix_uniqueness_failure*
     if (StartError(__func__, IX_STR_UNIQUENESS_FAILURE, element) == 0) return 0;
     // An entry that cannot be written is logged; the others are written all the same.
     int index = 0;
-    for (const IxSingleElementNode* node = ixNodesOf(element->mExistsList); node != nullptr;
-         node = node->next, ++index) {
-        if (AddExistsElementToXml(static_cast<ix_exists*>(node->key)) == 0) ixLog(kSourceFile, kExistsFailed, index);
+    for (auto* const exists : XmlEntries<ix_exists>(element->mExistsList)) {
+        if (AddExistsElementToXml(exists) == 0) ixLog(kSourceFile, kExistsFailed, index);
+        ++index;
     }
     EndElement(IX_STR_UNIQUENESS_FAILURE);
     return 1;
@@ -270,9 +270,8 @@ int Xcap_ErrorMarshall::AddExistsElementToXml(ix_exists* element) {
     ixLog(kSourceFile, kAddExists);
     if (element == nullptr) return 0;
     StartElementWith(IX_STR_EXISTS, IX_STR_FIELD, element->mField);
-    for (const IxSingleElementNode* node = ixNodesOf(element->mAltValueList); node != nullptr; node = node->next) {
-        AddTextElement(IX_STR_ALT_VALUE, static_cast<const char*>(node->key));
-    }
+    for (const auto* const value : XmlEntries<const char>(element->mAltValueList))
+        AddTextElement(IX_STR_ALT_VALUE, value);
     EndElement(IX_STR_EXISTS);
     return 1;
 }

@@ -514,9 +514,7 @@ void XmlFamilyMarshaller::AddOnlyAttribute(e_XmlStrRef name, const char* value, 
 
 const ix_AttributeValuePair* XmlFamilyMarshaller::LastAttribute(const IxSingleElementList* list) {
     const ix_AttributeValuePair* last = nullptr;
-    if (list == nullptr || list->LastNode() == nullptr) return last;
-    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
-        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+    for (const auto* const pair : XmlEntries<ix_AttributeValuePair>(list)) {
         if (pair != nullptr && pair->mName != nullptr) last = pair;
     }
     return last;
@@ -525,8 +523,7 @@ const ix_AttributeValuePair* XmlFamilyMarshaller::LastAttribute(const IxSingleEl
 void XmlFamilyMarshaller::AddAttributeList(const IxSingleElementList* list, Attribute end) {
     const ix_AttributeValuePair* const last = LastAttribute(list);
     if (last == nullptr) return;
-    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
-        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+    for (const auto* const pair : XmlEntries<ix_AttributeValuePair>(list)) {
         if (pair == nullptr) continue;
         const Attribute ending = pair == last ? end : Attribute::Open;
         m_generator.ixAddNameSpacePrefixToXml(pair->mName, pair->mValue, nullptr,
@@ -536,12 +533,13 @@ void XmlFamilyMarshaller::AddAttributeList(const IxSingleElementList* list, Attr
 }
 
 int XmlFamilyMarshaller::AddChildList(const IxSingleElementList* list, XmlWriter add, const XmlLogText& failedChild) {
-    if (list == nullptr || list->LastNode() == nullptr) return 1;
     int index = 0;
-    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next, ++index) {
-        if (node->key == nullptr || add(*this, static_cast<XMLElement*>(node->key)) != 0) continue;
-        ixLog(m_info.source, failedChild, index);
-        return 0;
+    for (auto* const child : XmlEntries<XMLElement>(list)) {
+        if (child != nullptr && add(*this, child) == 0) {
+            ixLog(m_info.source, failedChild, index);
+            return 0;
+        }
+        ++index;
     }
     return 1;
 }

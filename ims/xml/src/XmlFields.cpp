@@ -115,6 +115,22 @@ bool XmlFields::IsSet(const XMLElement& element, const XmlField& field) {
     }
 }
 
+const XmlField* XmlFields::Find(const XMLElement& element, const char* name) {
+    if (name == nullptr) return nullptr;
+    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            if (std::strcmp(table->fields[i].Name(), name) == 0) return &table->fields[i];
+        }
+    }
+    return nullptr;
+}
+
+const char* XmlFields::Word(const XMLElement& element, const char* name) {
+    const XmlField* const field = Find(element, name);
+    const bool hasWord = field != nullptr && field->kind == XmlFieldKind::Enumeration && IsSet(element, *field);
+    return hasWord ? field->enumeration->TextOf(Number(element, *field)) : nullptr;
+}
+
 void XmlFields::Release(XMLElement* element, const XmlFieldTable& table) {
     for (std::size_t i = 0; i < table.count; ++i) {
         const XmlField& field = table.fields[i];

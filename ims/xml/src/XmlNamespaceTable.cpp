@@ -44,10 +44,8 @@ XmlNamespaceTable::Entry* XmlNamespaceTable::CreateEntry(const XmlNamespaceRow& 
 }
 
 bool XmlNamespaceTable::Bind(const IxSingleElementList* list) {
-    if (list == nullptr || list->LastNode() == nullptr) return true;
     bool bound = true;
-    for (const IxSingleElementNode* node = list->GetPtrToListHead(); node != nullptr; node = node->next) {
-        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+    for (const auto* const pair : XmlEntries<ix_AttributeValuePair>(list)) {
         if (pair == nullptr || pair->mValue == nullptr) continue;
         Entry* entry = m_pFirst;
         while (entry != nullptr && std::strcmp(entry->uri, pair->mValue) != 0) entry = entry->next;
