@@ -296,6 +296,24 @@ TEST_P(AllFamiliesTest, TwoThreadsDoNotDisturbEachOther) {
     second.join();
 }
 
+TEST_P(AllFamiliesTest, AnEmptyRootIsWrittenOrRefused) {
+    const OwnedContext context(GetParam().id);
+    XMLObjectFactory* const factory = context->createBinderFactory();
+    ASSERT_NE(factory, nullptr);
+    const OwnedElement root(factory->CreateRootElement());
+    // Which of two roots is wanted, these factories have to be told first.
+    const bool isTold = GetParam().id == IX_XML_SCHEMA_GRUU || GetParam().id == IX_XML_SCHEMA_COMMUNICATION_BARRING;
+    ASSERT_EQ(root.get() == nullptr, isTold);
+    if (isTold) return;
+    XMLMarshaller* const marshaller = context->createMarshaller();
+    EXPECT_EQ(marshaller == nullptr, !XMLFactory::SchemaInfo(GetParam().id)->writes);
+    const char* const text = marshaller != nullptr ? marshaller->Marshall(root.get()) : nullptr;
+    EXPECT_TRUE(text == nullptr || std::string(text).find('<') != std::string::npos);
+    ixDplHostFailAllocation(1);
+    EXPECT_EQ(factory->CreateRootElement(), nullptr);
+    ixDplHostStopCounting();
+}
+
 class RegistryTest : public XmlTest {};
 
 TEST_F(RegistryTest, TheReadmeShowsTheExampleThatIsBuilt) {

@@ -364,6 +364,19 @@ TEST_F(ConferenceInfoTest, BuiltListsPassToTheirElement) {
     EXPECT_EQ(root.mConferenceDescription->addKeyword("one"), 1);
     EXPECT_EQ(root.mConferenceDescription->addKeyword("two"), 1);
     EXPECT_NE(Write(kId, &root).find("\n<keywords>one two</keywords>"), std::string::npos);
+    ix_conference_media_type* const media = m_binder.CreateConferenceMedaiType();
+    root.mConferenceDescription->setAvailableMediaValue(media);
+    ix_conference_medium_type* const medium = m_binder.CreateConferenceMediumType();
+    medium->setLabelValue("1");
+    EXPECT_EQ(media->addEntry(medium), 1);
+    root.setSidebarsByRefValue(m_binder.CreateURIsType());
+    ix_uri_type* const uri = m_binder.CreateURIType();
+    uri->setUriValue("sip:s");
+    EXPECT_EQ(root.mSidebarsByRef->addEntry(uri), 1);
+    const std::string written = Write(kId, &root);
+    EXPECT_NE(written.find("<available-media>\n<entry  label=\"1\"></entry></available-media>"), std::string::npos);
+    EXPECT_NE(written.find("<sidebars-by-ref>\n<entry>\n<uri>sip:s</uri></entry></sidebars-by-ref>"), std::string::npos)
+        << written;
     ixDplHostFailAllocation(1);
     EXPECT_EQ(user->addLanguage("de"), 0);
     ixDplHostFailAllocation(2);

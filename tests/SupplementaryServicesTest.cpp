@@ -149,6 +149,55 @@ TEST_F(RulesTest, ConditionsEndWhereSomethingMandatoryIsMissing) {
     }
 }
 
+TEST_F(RulesTest, ARuleIsBuiltWithAllConditions) {
+    CommunicationDiversionDataBinder binder;
+    const OwnedElement owner(binder.CreateRuleTypeElement());
+    auto* const rule = ixAs<ix_ns_common_policy_ruleType>(owner.get());
+    ASSERT_NE(rule, nullptr);
+    rule->setIdValue("r");
+    auto* const conditions = binder.CreateConditionsTypeElement();
+    rule->setConditionsValue(conditions);
+    auto* const identity = binder.CreateIdentityTypeElement();
+    conditions->addIdentity(identity);
+    auto* const one = binder.CreateOneTypeElement();
+    one->setIdValue("sip:ann@a.example");
+    EXPECT_EQ(identity->addOne(one), 1);
+    auto* const many = binder.CreateManyTypeElement();
+    many->setDomainValue("a.example");
+    EXPECT_EQ(identity->addMany(many), 1);
+    auto* const except = binder.CreateExceptTypeElement();
+    except->setIdValue("sip:bob@a.example");
+    EXPECT_EQ(many->addExcept(except), 1);
+    auto* const sphere = binder.CreateSphereTypeElement();
+    sphere->setValueValue("work");
+    EXPECT_EQ(conditions->addSphere(sphere), 1);
+    auto* const validity = binder.CreateValidityTypeElement();
+    EXPECT_EQ(conditions->addValidity(validity), 1);
+    auto* const from = binder.CreateStringElement();
+    from->setValueValue("2026-01-01T00:00:00Z");
+    EXPECT_EQ(validity->addFrom(from), 1);
+    auto* const until = binder.CreateStringElement();
+    until->setValueValue("2026-02-01T00:00:00Z");
+    EXPECT_EQ(validity->addUntil(until), 1);
+    auto* const media = binder.CreateMediaTypeElement();
+    media->setMediaValue("audio");
+    EXPECT_EQ(conditions->addOtherCondition(media), 1);
+    // Of these only the tree knows.
+    EXPECT_EQ(one->addExtension(binder.CreateStringElement()), 1);
+    EXPECT_EQ(many->addExtension(binder.CreateStringElement()), 1);
+    EXPECT_EQ(identity->addExtension(binder.CreateStringElement()), 1);
+    const std::string written = Write(kDiversion, rule);
+    EXPECT_EQ(
+        written,
+        "<cp:rule id=\"r\">\n<cp:conditions>\n<cp:identity>\n<cp:one id=\"sip:ann@a.example\"/>\n"
+        "<cp:many domain=\"a.example\">\n<cp:except id=\"sip:bob@a.example\"></cp:except></cp:many></cp:identity>\n"
+        "<cp:sphere value=\"work\"></cp:sphere>\n"
+        "<cp:validity>\n<cp:from>2026-01-01T00:00:00Z</cp:from>\n<cp:until>2026-02-01T00:00:00Z</cp:until>"
+        "</cp:validity>\n<ss:media>audio</ss:media></cp:conditions></cp:rule>");
+    const OwnedElement again(Decode(kDiversion, written));
+    EXPECT_EQ(Write(kDiversion, again.get()), written);
+}
+
 TEST_F(RulesTest, TheWalkOverManySharesItsCounterWithTheExceptions) {
     const struct {
         std::vector<int> exceptions;  ///< Of each entry.
@@ -207,8 +256,8 @@ TEST_F(RulesTest, FragmentsAreReadAndWrittenAlone) {
          "<cp:actions>\n<ss:allow>true</ss:allow>\n<ss:allow>false</ss:allow>\n<ss:media></ss:media></cp:actions>"},
     };
     for (const auto& c : cases) EXPECT_EQ(Convert(c.id, c.text), c.written) << c.text;
-    ix_NoReplyTimer timer;
-    EXPECT_EQ(Write(kDiversion, &timer), "<ss:NoReplyTimer>0</ss:NoReplyTimer>");
+    const OwnedElement timer(CommunicationDiversionDataBinder().CreateNoReplyTimerElement());
+    EXPECT_EQ(Write(kDiversion, timer.get()), "<ss:NoReplyTimer>0</ss:NoReplyTimer>");
 }
 
 TEST_F(RulesTest, TheTimerIsTakenInFrontOfTheRulesetWithinItsBounds) {
