@@ -90,27 +90,29 @@ TEST_F(PresenceTest, UnknownElementsAreLoggedAndDropped) {
 
 TEST_F(PresenceTest, DecoderRefusesEventsWithoutNames) {
     XMLPresenceDecoder decoder;
-    char name[] = "version";
-    std::string longName(200, 'n');
-    EXPECT_EQ(decoder.ProcessElement(nullptr, nullptr), -1);
-    EXPECT_EQ(decoder.ProcessAttribute(name, nullptr, name), -1);
-    EXPECT_EQ(decoder.ProcessAnyElement(nullptr, nullptr), nullptr);
-    EXPECT_EQ(decoder.ProcessElement(name, nullptr), 0);  // nothing is open yet
-    ixDplHostFailAllocation(1);
-    EXPECT_EQ(decoder.ProcessElement(longName.data(), nullptr), -1);
-    ixDplHostFailAllocation(1);
-    EXPECT_EQ(decoder.ProcessAttribute(longName.data(), name, name), -1);
-    const Strings expected = {
+    const Strings refused = {
         "<XML Module>XMLPresenceDecoder :: ProcessElement: n_strElement is NULL",
         "<XML Module>XMLPresenceDecoder :: ProcessAttribute: n_strElement is NULL",
-        "XMLPresenceDecoder :: ProcessAnyElement: n_strElement is NULL",
-        "<XML Module>XMLPresenceDecoder :: m_any is NULL when version",
         "XMLPresenceDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory",
         "<XML Module>XMLPresenceDecoder :: ProcessElement: m_PassName is NULL",
         "XMLPresenceDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory",
         "<XML Module>XMLPresenceDecoder :: ProcessAttribute: m_PassName is NULL ",
     };
-    EXPECT_EQ(Texts(), expected);
+    EXPECT_EQ(RefusedEvents(decoder), refused);
+    ClearLog();
+    char root[] = "presence";
+    char text[] = "version";
+    char end[] = "/version";
+    EXPECT_EQ(decoder.ProcessAnyElement(nullptr, nullptr), nullptr);
+    EXPECT_EQ(decoder.ProcessElement(text, nullptr), 0);  // nothing is open yet
+    EXPECT_EQ(decoder.ProcessElement(root, nullptr), 0);
+    EXPECT_EQ(decoder.ProcessAnyElement(root, nullptr), nullptr);  // none of an extension
+    const OwnedElement result(decoder.GetSessionData());
+    EXPECT_EQ(decoder.ProcessAnyElement(end, text), result.get());
+    const Strings logged = {"3 XMLPresenceDecoder :: ProcessAnyElement: n_strElement is NULL",
+                            "3 <XML Module>XMLPresenceDecoder :: m_any is NULL when version",
+                            "3 <XML Module>XMLPresenceDecoder :: ProcessAnyElement is not supported when presence"};
+    EXPECT_EQ(NewLinesOf("Presence"), logged);
 }
 
 TEST_F(PresenceTest, UnMarshallerLogsAFailedCopy) {

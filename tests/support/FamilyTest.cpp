@@ -9,9 +9,7 @@ std::string Sample(const std::string& name) {
 
 Strings Pairs(const IxSingleElementList* list) {
     Strings texts;
-    for (const IxSingleElementNode* node = list != nullptr ? list->GetPtrToListHead() : nullptr; node != nullptr;
-         node = node->next) {
-        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+    for (const auto* pair : XmlEntries<ix_AttributeValuePair>(list)) {
         texts.push_back(std::string(pair->mName != nullptr ? pair->mName : "-") + "=" + pair->mValue);
     }
     return texts;
@@ -57,6 +55,19 @@ void FamilyTest::ExpectTakesText(XMLElement& element, const std::string& name, c
     EXPECT_EQ(Offer(element, end.c_str(), "no memory", nullptr), 0);
     ixDplHostStopCounting();
     EXPECT_STREQ(field, "kept");
+}
+
+Strings FamilyTest::RefusedEvents(XmlFamilyDecoder& decoder) {
+    // Longer than the room that a decoder begins with.
+    std::string name(100, 'x');
+    ClearLog();
+    EXPECT_EQ(decoder.ProcessElement(nullptr, nullptr), -1);
+    EXPECT_EQ(decoder.ProcessAttribute(nullptr, name.data(), nullptr), -1);
+    ixDplHostFailAllocation(1, 2);
+    EXPECT_EQ(decoder.ProcessElement(name.data(), nullptr), -1);
+    EXPECT_EQ(decoder.ProcessAttribute(name.data(), name.data(), nullptr), -1);
+    ixDplHostStopCounting();
+    return Texts();
 }
 
 XMLElement* FamilyTest::Decode(eXMLSchemaID id, const std::string& text, XMLObject* binder) {

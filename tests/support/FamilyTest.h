@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "XMLList.h"
+#include "XmlFamily.h"
 #include "XmlTest.h"
 
 using Strings = std::vector<std::string>;
@@ -40,6 +41,10 @@ class FamilyTest : public XmlTest {
 
     /// Checks that a hook copies the text of the element `name` into `field`, at its end tag only.
     static void ExpectTakesText(XMLElement& element, const std::string& name, char* const& field);
+
+    /// Gives `decoder` events without a name, and events with names that there is no memory for: an element and an
+    /// attribute each. Checks that it refuses them. @return what it logged.
+    Strings RefusedEvents(XmlFamilyDecoder& decoder);
 
     /// Decodes with a fresh context, and with a namespace binder when there is one.
     static XMLElement* Decode(eXMLSchemaID id, const std::string& text, XMLObject* binder = nullptr);
