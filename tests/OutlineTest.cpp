@@ -18,6 +18,7 @@ TEST(OutlineTest, EachShapeHasItsForm) {
          "  list\n    display-name = \"Friends\"\n"},
         {R"("note":[{"class":"ix_note","text":"Away"},{"class":"ix_note","lang":"fr","text":"Absent"}])",
          "  note = \"Away\"\n  note  lang = \"fr\"  text = \"Absent\"\n"},
+        {R"("any":[{"class":"ix_ns_xcap_media_type","text":"audio"}])", "  any: ix_ns_xcap_media_type = \"audio\"\n"},
         // The class is told where the name does not tell it, and only the first field stands behind the name.
         {R"("children":[{"class":"ix_entry","uri":"sip:a"},{"class":"ix_list","name":"inner","entry":[]}])",
          "  children: ix_entry \"sip:a\"\n  children: ix_list \"inner\"\n"},

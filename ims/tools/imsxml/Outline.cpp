@@ -16,6 +16,9 @@ constexpr char kAside[] = "2";
 /// Fields that tell an element from others of its name, where they come first.
 constexpr std::string_view kIdentities[] = {"type", "id", "name", "uri", "entity", "aor"};
 
+/// Name of the lists whose entries have no name of their own.
+constexpr char kAny[] = "any";
+
 bool IsString(const Json& object, const char* key) {
     const auto field = object.find(key);
     return field != object.end() && field->is_string();
@@ -132,7 +135,9 @@ void Outline::AddField(const std::string& name, const Json& value, std::size_t d
     if (value.is_array()) {
         AddList(name, value, depth);
     } else if (IsText(value)) {
-        AddLine(Assignment(name, value["text"]), depth);
+        // What an element of any kind is, only its class tells.
+        const std::string kind = name == kAny ? Styled(kAside, ": " + Unquoted(value["class"])) : "";
+        AddLine(Styled(kName, name) + kind + " = " + Value(value["text"]), depth);
     } else if (value.is_object()) {
         AddElement(name, value, depth);
     } else {

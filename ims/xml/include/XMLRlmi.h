@@ -5,8 +5,9 @@
 /// - Root element: `list`, with `name` and `resource` elements; a resource has `name` and `instance` elements.
 /// - Namespace: urn:ietf:params:xml:ns:rlmi. It is written, and not expected.
 /// - Prefixes: names are compared as they stand, so an element with a prefix is not recognised.
-/// - Read and written. The `cid` and the other attributes of the list are read and never written; the attributes of
-///   names and unknown elements are lost.
+/// - Read and written. The `cid` and the other attributes of the list are read and never written: a list with a `cid`
+///   is written with a second declaration of the namespace in its place, which makes the text no well-formed XML. The
+///   attributes of names and unknown elements are lost.
 #ifndef IX_XML_RLMI_H
 #define IX_XML_RLMI_H
 

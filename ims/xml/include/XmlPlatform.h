@@ -77,8 +77,7 @@ enum XmlLogCode {
 
 /// A log line as a constant. A file keeps all of its lines in one block at its top.
 struct XmlLogText {
-    int level;           ///< 1 rare traces, 2 results and resource problems, 3 progress and rejected input, 4 failed
-                         ///< duplications and allocations.
+    int level;           ///< As the platform layer has it (ixDpl.h), 1 to 4.
     int code;            ///< One of `XmlLogCode`.
     int line;            ///< Source line the log shows.
     const char* format;  ///< printf-style, at most three conversions; NULL: this line is not logged.
