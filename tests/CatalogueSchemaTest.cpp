@@ -18,8 +18,10 @@ const char kSourceFile[] = "ims/xml/src/XMLCatalogue";
 /// <term><title>text</title></term>, nested to any depth.
 class ix_term : public XMLElement {
   public:
+    static constexpr char kClassName[] = "ix_term";
+
     ~ix_term() override;
-    const char* ClassName() const override { return "ix_term"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLElement"; }
     const char* TypeName() const override { return "Term"; }
     int Reserved() const override { return 0; }
@@ -34,8 +36,10 @@ class ix_term : public XMLElement {
 /// <folder auid="..." size="...">, with terms.
 class ix_catalogue : public XMLObject {
   public:
+    static constexpr char kClassName[] = "ix_catalogue";
+
     ~ix_catalogue() override;
-    const char* ClassName() const override { return "ix_catalogue"; }
+    const char* ClassName() const override { return kClassName; }
     const char* BaseClassName() const override { return "XMLObject"; }
     const char* TypeName() const override { return "Catalogue"; }
     int Reserved() const override { return 0; }
@@ -51,8 +55,7 @@ class ix_catalogue : public XMLObject {
 
 constexpr XmlField kTermFields[] = {
     {XmlFieldKind::Text, IX_STR_TITLE, XmlTextMember(&ix_term::mTitle)},
-    {XmlFieldKind::Presence, IX_STR_BUSY,
-     XmlChildReader([](const XMLElement& e) -> XMLElement* { return static_cast<const ix_term&>(e).mBusy; })},
+    {XmlFieldKind::Presence, IX_STR_BUSY, IX_CHILD_MEMBER(ix_term, mBusy)},
     {XmlFieldKind::ChildList, IX_STR_TERM, XmlListMember(&ix_term::mTermList)},
 };
 constexpr XmlFieldTable kTermTable = {nullptr, kTermFields, std::size(kTermFields)};
@@ -74,12 +77,10 @@ const XmlFieldTable* ix_term::FieldTable() const {
 
 int ix_term::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_TITLE)) return ixSetText(mTitle, text);
-    if (ixNameIs(name, IX_STR_TERM))
-        return ixIsClass(child, "ix_term") ? ixAppend(mTermList, child, kSourceFile, __LINE__) : 0;
+    if (ixNameIs(name, IX_STR_TERM)) return ixTakeInto<ix_term>(mTermList, child, kSourceFile, __LINE__);
     if (!ixNameIs(name, IX_STR_BUSY)) return 1;
-    if (mBusy != nullptr || !ixIsClass(child, "ix_empty_element_type")) return 0;
-    mBusy = static_cast<ix_empty_element_type*>(child);
-    return 1;
+    // The first one counts.
+    return mBusy == nullptr ? ixTakeChild(mBusy, child) : 0;
 }
 
 ix_catalogue::~ix_catalogue() {
@@ -104,74 +105,65 @@ int ix_catalogue::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAt
 constexpr XmlKnownName kFolder = {IX_STR_FOLDER};
 constexpr XmlContainerRow kContainers[] = {
     {kFolder, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_catalogue)},
-    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP}, XmlContainerRow::Child, "ix_term", IX_CREATOR(ix_term)},
-    {{IX_STR_NOTE}, XmlContainerRow::Child, "ix_term", IX_CREATOR(ix_term)},
+    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP}, XmlContainerRow::Child, IX_OBJECT(ix_term)},
+    {{IX_STR_NOTE}, XmlContainerRow::Child, IX_OBJECT(ix_term)},
     {{IX_STR_BUSY}, XmlContainerRow::Leaf, nullptr, IX_CREATOR(ix_empty_element_type)},
 };
 constexpr XmlAttributeRow kAttributes[] = {{kFolder, IX_STR_AUID}, {kFolder, IX_STR_SIZE}};
 
-constexpr XmlDecoderInfo DecoderInfo() {
-    XmlDecoderInfo info;
-    info.source = kSourceFile;
-    info.containers = kContainers;
-    info.containerCount = std::size(kContainers);
-    info.attributes = kAttributes;
-    info.attributeCount = std::size(kAttributes);
-    return info;
-}
-constexpr XmlDecoderInfo kDecoderInfo = DecoderInfo();
+constexpr XmlDecoderInfo kDecoderInfo = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
 
 class XMLCatalogueDecoder : public XmlFamilyDecoder {
   public:
     XMLCatalogueDecoder() : XmlFamilyDecoder(kDecoderInfo) {}
 };
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
-    info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCatalogueDecoder); };
-    return info;
-}
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLCatalogueDecoder, "CatalogueUnMarshaller");
 
 class CatalogueUnMarshaller : public XmlFamilyUnMarshaller {
   protected:
     const XmlUnMarshallerInfo& Info() const override { return kUnMarshallerInfo; }
 };
 
+class CatalogueMarshaller : public XmlFamilyMarshaller {
+  public:
+    CatalogueMarshaller();
+
+    int AddCatalogueElementToXml(ix_catalogue* catalogue);
+    int AddTermElementToXml(ix_term* term);
+};
+
+constexpr XmlWriterRow kWriters[] = {
+    {IX_WRITER_OF(CatalogueMarshaller, AddCatalogueElementToXml, ix_catalogue)},
+};
+
 constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
-    info.source = kSourceFile;
-    info.writesDeclaration = true;
+    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+    IX_MARSHALL_TEXTS(info, "CatalogueMarshaller", "mCatalogueXml");
     return info;
 }
 constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
-class CatalogueMarshaller : public XmlFamilyMarshaller {
-  public:
-    CatalogueMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+constexpr XmlLogText kTermFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddTermElementToXml: term %d failed"};
 
-  protected:
-    int AddRootElementToXml(XMLElement* root) override {
-        const auto* const catalogue = static_cast<ix_catalogue*>(root);
-        StartElementOpen(IX_STR_FOLDER);
-        AddAttribute(IX_STR_AUID, catalogue->mAuid, Attribute::Open);
-        AddDecimalAttribute(IX_STR_SIZE, catalogue->mSize, Attribute::Closing);
-        AddDecimalElement(IX_STR_VERSION, -9223372036854775807 - 1);
-        const int result = AddChildList(catalogue->mTermList, AddTerm);
-        EndElement(IX_STR_FOLDER);
-        return result;
-    }
+CatalogueMarshaller::CatalogueMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
-  private:
-    static int AddTerm(XmlFamilyMarshaller& self, XMLElement* child) {
-        auto& writer = static_cast<CatalogueMarshaller&>(self);
-        const auto* const term = static_cast<ix_term*>(child);
-        if (term->mTitle == nullptr) return 0;
-        writer.AddTextElement(IX_STR_TITLE, term->mTitle);
-        return writer.AddChildList(term->mTermList, AddTerm);
-    }
-};
+int CatalogueMarshaller::AddCatalogueElementToXml(ix_catalogue* catalogue) {
+    StartElementOpen(IX_STR_FOLDER);
+    AddAttribute(IX_STR_AUID, catalogue->mAuid, Attribute::Open);
+    AddDecimalAttribute(IX_STR_SIZE, catalogue->mSize, Attribute::Closing);
+    AddDecimalElement(IX_STR_VERSION, -9223372036854775807 - 1);
+    const XmlWriter addTerm = IX_WRITER(CatalogueMarshaller, AddTermElementToXml, ix_term);
+    if (AddChildList(catalogue->mTermList, addTerm, kTermFailed) == 0) return 0;
+    EndElement(IX_STR_FOLDER);
+    return 1;
+}
+
+int CatalogueMarshaller::AddTermElementToXml(ix_term* term) {
+    if (term->mTitle == nullptr) return 0;
+    AddTextElement(IX_STR_TITLE, term->mTitle);
+    return AddChildList(term->mTermList, IX_WRITER(CatalogueMarshaller, AddTermElementToXml, ix_term), kTermFailed);
+}
 // [schema]
 
 class CatalogueTest : public XmlTest {
@@ -208,7 +200,7 @@ TEST_F(CatalogueTest, AllRowsOfALongTableCount) {
     std::vector<XmlAttributeRow> attributes(70, kAttributes[1]);
     for (XmlAttributeRow& row : attributes) row.className = "nobody";
     attributes[69] = kAttributes[0];
-    XmlDecoderInfo info = DecoderInfo();
+    XmlDecoderInfo info = kDecoderInfo;
     info.containers = rows.data();
     info.containerCount = rows.size();
     info.attributes = attributes.data();
@@ -257,8 +249,9 @@ TEST_F(CatalogueTest, ATextPastTheCapacityIsCutAndSaysSo) {
         EXPECT_EQ(writer.IsTruncated(), length > 32767 ? 1 : 0);
         EXPECT_EQ(std::string(text).size() == 32767, length > 32767);
     }
-    const OwnedElement untitled(Decode("<folder><op:term/></folder>"));
+    const OwnedElement untitled(Decode("<folder><op:term><title/></op:term><op:term/></folder>"));
     EXPECT_EQ(writer.Marshall(untitled.get()), nullptr);
+    EXPECT_TRUE(Logged("<XML Module>: AddTermElementToXml: term 1 failed"));
 }
 
 }  // namespace

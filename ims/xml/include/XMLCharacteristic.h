@@ -149,20 +149,6 @@ constexpr XmlDecoderInfo ixCharacteristicDecoderInfo(const char* source, const X
     info.containerCount = count;
     return info;
 }
-
-/// @param line source line of the objects made for a document, and of the log line.
-/// @param noCopy logged when the text cannot be duplicated.
-constexpr XmlUnMarshallerInfo ixCharacteristicUnMarshallerInfo(const char* source, int line,
-                                                               XmlFamilyDecoder* (*createDecoder)(int line),
-                                                               const char* noCopy) {
-    XmlUnMarshallerInfo info;
-    info.source = source;
-    info.createDecoder = createDecoder;
-    info.textTokenizerLine = info.textDecoderLine = line;
-    info.fileTokenizerLine = info.fileDecoderLine = line;
-    info.noCopy = {4, kSchemaCode, line, noCopy};
-    return info;
-}
 /// @}
 
 #endif

@@ -30,8 +30,7 @@ extern IX_XML_EXPORT const XmlFieldTable kSimservTable;
             2, kDecoderCode, __LINE__, origin " :: XMLChangeNamespaceTag Malloc unable to allocate memory"};         \
         (texts).mappedTagNoMemory = (texts).mappedEndTagNoMemory = {                                                 \
             2, kDecoderCode, __LINE__, "XmlDecoder:: m_strDup: Malloc unable to allocate memory"};                   \
-        (texts).removeTagNoMemory = {2, kDecoderCode, __LINE__,                                                      \
-                                     origin " :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};          \
+        (texts).removeTagNoMemory = IX_REMOVE_TAG_TEXT(origin);                                                      \
     } while (false)
 
 /// What the decoders of the services share: namespaces and, with the exceptions that each makes, mapped names.

@@ -185,6 +185,11 @@ constexpr XmlDecoderInfo ixDecoderInfo(const char* source, int line,
     return info;
 }
 
+/// The line about a name that could not be copied without its prefix. It names the decoder that the namespace
+/// operations were taken from.
+#define IX_REMOVE_TAG_TEXT(origin) \
+    { 2, kDecoderCode, __LINE__, origin " :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory" }
+
 /// The two lines about events without an element, which name the decoder.
 #define IX_DECODER_NULL_TEXTS(texts, decoder)                                                        \
     do {                                                                                             \
@@ -533,21 +538,25 @@ class IX_XML_EXPORT XmlBinderContext : public XmlFamilyContext {
     XMLObject* m_pNamespaceBinder = nullptr;  ///< Not owned.
 };
 
-/// The objects of a schema: what its context creates, and the constants of its unmarshaller.
+/// The objects of a schema that is only read: what its context creates, and the constants of its unmarshaller.
+#define IX_READING_FAMILY(context, unMarshaller, binderFactory) \
+    XmlFamilyUnMarshaller* context::NewUnMarshaller() {         \
+        return IX_NEW(unMarshaller);                            \
+    }                                                           \
+    XMLObjectFactory* context::NewBinderFactory() {             \
+        return IX_NEW(binderFactory);                           \
+    }                                                           \
+    const XmlUnMarshallerInfo& unMarshaller::Info() const {     \
+        return kUnMarshallerInfo;                               \
+    }                                                           \
+    static_assert(true, "takes the semicolon")
+
+/// The same of a schema that is written, too.
 #define IX_FAMILY(context, marshaller, unMarshaller, binderFactory) \
     XmlFamilyMarshaller* context::NewMarshaller() {                 \
         return IX_NEW(marshaller);                                  \
     }                                                               \
-    XmlFamilyUnMarshaller* context::NewUnMarshaller() {             \
-        return IX_NEW(unMarshaller);                                \
-    }                                                               \
-    XMLObjectFactory* context::NewBinderFactory() {                 \
-        return IX_NEW(binderFactory);                               \
-    }                                                               \
-    const XmlUnMarshallerInfo& unMarshaller::Info() const {         \
-        return kUnMarshallerInfo;                                   \
-    }                                                               \
-    static_assert(true, "takes the semicolon")
+    IX_READING_FAMILY(context, unMarshaller, binderFactory)
 /// @}
 
 #endif

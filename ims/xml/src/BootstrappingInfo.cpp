@@ -22,9 +22,7 @@ constexpr XmlDecoderInfo Info() {
     info.texts.removeTagNoTag = {2, kSchemaCode, __LINE__,
                                  "XMLBootstrappingInfoDecoder :: XMLRemoveNameSpaceTag: n_strElement is NULL"};
     // Required: this line alone has the event number of the tokenizer.
-    info.texts.removeTagNoMemory = {
-        2, kDecoderCode, __LINE__,
-        "XMLBootstrappingInfoDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLBootstrappingInfoDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

@@ -32,8 +32,7 @@ constexpr XmlDecoderInfo Info() {
     info.texts.noPair = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at any attribute = \"%s\""};
     info.texts.pairRefused = {3, kSchemaCode, __LINE__,
                               "<XML Module>: Any attribute is not allowed for attribute = \"%s\""};
-    info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,
-                                    "XMLGruuDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLGruuDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

@@ -54,8 +54,7 @@ constexpr XmlDecoderInfo Info() {
     IX_DECODER_TEXTS(info.texts, "XMLPresenceDecoder", "m_PassName", "m_PassName");
     info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
                                   "<XML Module>XMLPresenceDecoder :: ProcessAttribute: m_PassName is NULL "};
-    info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,
-                                    "XMLPresenceDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLPresenceDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

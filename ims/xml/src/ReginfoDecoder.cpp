@@ -28,9 +28,7 @@ constexpr XmlDecoderInfo Info() {
     info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
                                   "<XML Module>XMLReginfoDecoder :: ProcessAttribute: m_PassName is NULL"};
     // Required: this line names another decoder and has the event number of the tokenizer.
-    info.texts.removeTagNoMemory = {
-        2, kDecoderCode, __LINE__,
-        "XMLCommunicationDiversionDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLCommunicationDiversionDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

@@ -63,14 +63,5 @@ XMLElement* SchemaNamespaceRetrievalDataBinder::CreateRootElement() {
     return IX_NEW(ix_schema_namespace_retrieval);
 }
 
-const XmlUnMarshallerInfo& SchemaNamespaceRetrievalUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
-XmlFamilyUnMarshaller* SchemaNamespaceRetrievalContext::NewUnMarshaller() {
-    return IX_NEW(SchemaNamespaceRetrievalUnMarshaller);
-}
-
-XMLObjectFactory* SchemaNamespaceRetrievalContext::NewBinderFactory() {
-    return IX_NEW(SchemaNamespaceRetrievalDataBinder);
-}
+IX_READING_FAMILY(SchemaNamespaceRetrievalContext, SchemaNamespaceRetrievalUnMarshaller,
+                  SchemaNamespaceRetrievalDataBinder);

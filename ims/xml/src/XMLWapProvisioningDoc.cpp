@@ -6,9 +6,8 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLWapProvisioningDoc";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixCharacteristicUnMarshallerInfo(
-    kSourceFile, __LINE__, [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLWapProvisioningDocDecoder); },
-    "<XML Module>: StrDup failed in WapProvisioningDocUnMarshaller::UnMarshall");
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
+    IX_UNMARSHALLER_INFO(XMLWapProvisioningDocDecoder, "WapProvisioningDocUnMarshaller");
 
 }  // namespace
 
@@ -16,14 +15,4 @@ XMLElement* WapProvisioningDocDataBinder::CreateRootElement() {
     return IX_NEW(ix_wap_provisioning_doc);
 }
 
-const XmlUnMarshallerInfo& WapProvisioningDocUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
-
-XmlFamilyUnMarshaller* WapProvisioningDocContext::NewUnMarshaller() {
-    return IX_NEW(WapProvisioningDocUnMarshaller);
-}
-
-XMLObjectFactory* WapProvisioningDocContext::NewBinderFactory() {
-    return IX_NEW(WapProvisioningDocDataBinder);
-}
+IX_READING_FAMILY(WapProvisioningDocContext, WapProvisioningDocUnMarshaller, WapProvisioningDocDataBinder);

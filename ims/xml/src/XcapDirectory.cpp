@@ -24,9 +24,7 @@ constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
     info.names = XmlNamePolicy::Stripped;
     IX_DECODER_TEXTS(info.texts, "XMLXcapDirectoryDecoder", "m_strDup or m_PassName", "m_strDup");
-    info.texts.removeTagNoMemory = {
-        2, kDecoderCode, __LINE__,
-        "XMLXcapDirectoryDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLXcapDirectoryDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

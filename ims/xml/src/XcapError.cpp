@@ -57,8 +57,7 @@ constexpr XmlDecoderInfo Info() {
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
     IX_DECODER_TEXTS(info.texts, "XMLXcapErrorDecoder", "m_strDup or m_PassName", "m_strDup");
-    info.texts.removeTagNoMemory = {2, kDecoderCode, __LINE__,
-                                    "XMLXcapErrorDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLXcapErrorDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();
