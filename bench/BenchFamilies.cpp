@@ -11,15 +11,15 @@
 
 namespace {
 
-/// The objects and texts of a tree.
+/// The objects of a tree, its lists among them, and its texts.
 std::size_t CountItems(const XMLElement& element);
 
 std::size_t CountList(XmlFieldKind kind, const IxSingleElementList& list) {
-    std::size_t items = 0;
-    for (const IxSingleElementNode* node = list.GetPtrToListHead(); node != nullptr; node = node->next) {
+    std::size_t items = 1;
+    for (const auto* entry : XmlEntries<const void>(&list)) {
         // A pair is an object with two texts.
         items += kind == XmlFieldKind::AttributeList ? 3 : 1;
-        if (kind == XmlFieldKind::ChildList) items += CountItems(*static_cast<const XMLElement*>(node->key)) - 1;
+        if (kind == XmlFieldKind::ChildList) items += CountItems(*static_cast<const XMLElement*>(entry)) - 1;
     }
     return items;
 }
