@@ -18,14 +18,14 @@ class IX_XML_EXPORT XMLPresenceDecoder : public XmlFamilyDecoder {
   protected:
     int StartElement(char* name) override;
     int EndElement(char* name, char* text) override;
+    int OtherElement(char* name, char* text) override;
 
   private:
     /// Where an element comes from.
     enum Origin { Pidf, Extension, Unknown };
 
     Origin OriginOf(const char* name) const;
-    int AnyElement(Origin origin, char* name, char* data);
-    XMLElement* TakeAnyElement(Origin origin, char* name, char* data);
+    void LogOutside(const char* name) const;
 
     XmlRowIndex m_names;
 };

@@ -65,7 +65,9 @@ XMLPresenceDecoder::XMLPresenceDecoder() : XmlFamilyDecoder(kInfo) {
     for (std::size_t i = 0; i < std::size(kNames); ++i) m_names.Add(i, XmlKnownName{kNames[i]});
 }
 
+/// @param name of a start or an end tag.
 XMLPresenceDecoder::Origin XMLPresenceDecoder::OriginOf(const char* name) const {
+    if (*name == '/') ++name;
     const unsigned key = XmlRowIndex::Key(name);
     for (std::size_t i = m_names.Next(key, 0); i < std::size(kNames); i = m_names.Next(key, i + 1)) {
         if (ixNameIs(name, kNames[i])) return i < kFirstExtension ? Pidf : Extension;
@@ -74,17 +76,26 @@ XMLPresenceDecoder::Origin XMLPresenceDecoder::OriginOf(const char* name) const 
 }
 
 int XMLPresenceDecoder::StartElement(char* name) {
-    const Origin origin = OriginOf(name);
-    return origin == Pidf ? XmlFamilyDecoder::StartElement(name) : AnyElement(origin, name, nullptr);
+    XmlFamilyDecoder::StartElement(name);
+    LogOutside(name);
+    return 0;
 }
 
 int XMLPresenceDecoder::EndElement(char* name, char* text) {
-    const Origin origin = OriginOf(name + 1);
-    return origin == Pidf ? XmlFamilyDecoder::EndElement(name, text) : AnyElement(origin, name, text);
+    XmlFamilyDecoder::EndElement(name, text);
+    LogOutside(name);
+    return 0;
 }
 
-int XMLPresenceDecoder::AnyElement(Origin origin, char* name, char* data) {
-    if (TakeAnyElement(origin, name, data) == nullptr) ixLog(kSourceFile, kDropped, name);
+/// An extension that stands outside of the root is dropped with a line.
+void XMLPresenceDecoder::LogOutside(const char* name) const {
+    if (Top() == nullptr && OriginOf(name) == Extension) ixLog(kSourceFile, kDropped, name);
+}
+
+int XMLPresenceDecoder::OtherElement(char* name, char* text) {
+    if (OriginOf(name) != Unknown) return XmlFamilyDecoder::OtherElement(name, text);
+    ixLog(kSourceFile, kUnknown, name);
+    ixLog(kSourceFile, kDropped, name);
     return 0;
 }
 
@@ -93,11 +104,7 @@ XMLElement* XMLPresenceDecoder::ProcessAnyElement(char* name, char* data) {
         ixLog(kSourceFile, kNoName);
         return nullptr;
     }
-    return TakeAnyElement(OriginOf(*name == '/' ? name + 1 : name), name, data);
-}
-
-XMLElement* XMLPresenceDecoder::TakeAnyElement(Origin origin, char* name, char* data) {
-    if (origin != Extension) {
+    if (OriginOf(name) != Extension) {
         ixLog(kSourceFile, kUnknown, name);
         return nullptr;
     }
