@@ -2,6 +2,9 @@
 /// Texts with characters that markup is made of. The marshallers write texts as they stand, so that what comes from a
 /// user has to be escaped before it is set; the unmarshallers resolve the five predefined entities in attribute values
 /// and leave the texts of elements as the document has them.
+///
+/// These functions are for applications: the library does not use them. Their strings are made by the application's
+/// `operator new`, not by the platform layer.
 #ifndef IX_XML_MARKUP_H
 #define IX_XML_MARKUP_H
 
