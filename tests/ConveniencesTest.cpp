@@ -61,6 +61,7 @@ TEST_F(ConveniencesTest, EscapedTextsComeBackAsTheyWere) {
         {"&lt;&gt;&amp;&quot;&apos;", "<>&\"'"},
         {"&amp;lt;", "&lt;"},  // Once only.
         {"&#228;&#xE4;&#xe4;", "\xc3\xa4\xc3\xa4\xc3\xa4"},
+        {"&#x0010FFFF;&#00000228;", "\xf4\x8f\xbf\xbf\xc3\xa4"},
         {"&#8364;&#x1F600;", "\xe2\x82\xac\xf0\x9f\x98\x80"},
         {"&#x7FF;&#x800;&#xFFFF;&#x10FFFF;", "\xdf\xbf\xe0\xa0\x80\xef\xbf\xbf\xf4\x8f\xbf\xbf"},
         // No characters, and no references.

@@ -6,19 +6,22 @@
 #ifndef IX_DPL_BLOCK_CACHE_H
 #define IX_DPL_BLOCK_CACHE_H
 
-#include <malloc.h>
-
 #include <cstddef>
 #include <cstdlib>
 #include <new>
 
-/// A sanitizer has to see every block come and go, in its true size.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define IX_DPL_SANITIZED 1
+// A sanitizer has to see every block come and go, in its true size. How much room a block has, only some C libraries
+// tell.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(__GLIBC__)
+#define IX_DPL_KEEPS_NONE 1
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || __has_feature(memory_sanitizer)
-#define IX_DPL_SANITIZED 1
+#define IX_DPL_KEEPS_NONE 1
 #endif
+#endif
+
+#ifndef IX_DPL_KEEPS_NONE
+#include <malloc.h>
 #endif
 
 /// The cache of a thread. Its blocks are blocks of the C library, and can be freed as such at any time.
@@ -43,7 +46,7 @@ class BlockCache {
     /// Keeps `pointer`, which is not NULL, or frees it.
     void Give(void* pointer) {
         // Below the smallest kind, the difference is a huge number.
-        const std::size_t kind = (malloc_usable_size(pointer) - kSmallest) / kStep;
+        const std::size_t kind = (RoomOf(pointer) - kSmallest) / kStep;
         if (!kKeeps || kind >= kKinds || (m_room == 0 && !Open())) {
             std::free(pointer);
             return;
@@ -54,8 +57,12 @@ class BlockCache {
 
     /// The cache of this thread.
     static BlockCache& Mine() {
-        // Found without a call; the library asks for so little of such room that it can be loaded late all the same.
-        [[gnu::tls_model("initial-exec")]] static thread_local BlockCache cache;
+#ifdef __GLIBC__
+        // Its address is computed without a call of the dynamic linker. The 144 bytes fit the room that glibc spares
+        // for libraries which are loaded later.
+        [[gnu::tls_model("initial-exec")]]
+#endif
+        static thread_local BlockCache cache;
         return cache;
     }
 
@@ -72,10 +79,16 @@ class BlockCache {
     static constexpr std::size_t kStep = 16;
     static constexpr std::size_t kKinds = 16;   ///< ... up to 264 bytes.
     static constexpr std::size_t kRoom = 4096;  ///< The most blocks that a thread keeps.
-#ifdef IX_DPL_SANITIZED
+#ifdef IX_DPL_KEEPS_NONE
     static constexpr bool kKeeps = false;
+    static std::size_t RoomOf(void* /*block*/) {
+        return 0;
+    }
 #else
     static constexpr bool kKeeps = true;
+    static std::size_t RoomOf(void* block) {
+        return malloc_usable_size(block);
+    }
 #endif
 
     [[gnu::noinline]] bool Open() {

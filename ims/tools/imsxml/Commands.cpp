@@ -24,22 +24,22 @@ void Warn(const Document& document, const char* message) {
 /// A document and what decoded it. The members go in reverse order: the context uses the binder.
 struct Decoded {
     const XmlSchemaInfo* schema = nullptr;
-    OwnElement binder;
-    OwnContext context;
-    OwnElement root;
+    XmlOwned<> binder;
+    XmlOwnedContext context;
+    XmlOwned<> root;
 };
 
-OwnContext NewContext(const XmlSchemaInfo& schema) {
-    OwnContext context(XMLFactory::newInstance(schema.id));
+XmlOwnedContext NewContext(const XmlSchemaInfo& schema) {
+    XmlOwnedContext context(XMLFactory::newInstance(schema.id));
     if (context == nullptr) throw DocumentError{kNotDecoded, "no memory for the context"};
     return context;
 }
 
-OwnElement UnMarshall(XMLContext& context, const Document& document, bool log) {
+XmlOwned<> UnMarshall(XMLContext& context, const Document& document, bool log) {
     constexpr unsigned kResults = 1U << 2U;
     const LogWatch watch(log, log ? kIxDplHostAllLevels : kResults);
     XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
-    OwnElement root(unMarshaller != nullptr ? unMarshaller->UnMarshall(document.text.c_str()) : nullptr);
+    XmlOwned<> root(unMarshaller != nullptr ? unMarshaller->UnMarshall(document.text.c_str()) : nullptr);
     if (root != nullptr && watch.IsTooDeep()) {
         Warn(document,
              "nested too deep: 100 elements are under construction at a time; what lies deeper is filed in another "
@@ -49,8 +49,8 @@ OwnElement UnMarshall(XMLContext& context, const Document& document, bool log) {
 }
 
 /// The declarations of a document; not decoded: NULL.
-OwnElement DecodeNamespaces(const Document& document, bool log) {
-    const OwnContext context = NewContext(*XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL));
+XmlOwned<> DecodeNamespaces(const Document& document, bool log) {
+    const XmlOwnedContext context = NewContext(*XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL));
     return UnMarshall(*context, document, log);
 }
 
@@ -141,12 +141,11 @@ std::string ConvertDocument(const Document& document, const Options& options, co
 }
 
 std::string ListNamespaces(const Document& document, const Options& options, const Progress& /*progress*/) {
-    const OwnElement root = DecodeNamespaces(document, options.log);
+    const XmlOwned<> root = DecodeNamespaces(document, options.log);
     if (root == nullptr) throw Diagnose(document);
     const IxSingleElementList* const list = static_cast<ix_schema_namespace_retrieval&>(*root).getNameSpaceInfo();
     std::string text;
-    for (auto* node = list != nullptr ? list->GetPtrToListHead() : nullptr; node != nullptr; node = node->next) {
-        const auto* const pair = static_cast<const ix_AttributeValuePair*>(node->key);
+    for (const auto* pair : XmlEntries<ix_AttributeValuePair>(list)) {
         if (options.HasManyFiles()) text += document.name + '\t';
         text += PrefixOf(*pair) + '\t' + WithBlanks(pair->mValue) + '\n';
     }

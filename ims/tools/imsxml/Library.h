@@ -3,21 +3,10 @@
 #ifndef IMSXML_TOOL_LIBRARY_H
 #define IMSXML_TOOL_LIBRARY_H
 
-#include <memory>
 #include <string>
 
 #include "XMLFactory.h"
 #include "ixDplHost.h"
-
-struct ContextDeleter {
-    void operator()(XMLContext* context) const { XMLFactory::deleteContext(context); }
-};
-using OwnContext = std::unique_ptr<XMLContext, ContextDeleter>;
-
-struct ElementDeleter {
-    void operator()(XMLElement* element) const { XMLFactory::DeleteElement(element); }
-};
-using OwnElement = std::unique_ptr<XMLElement, ElementDeleter>;
 
 /// Follows the library's log lines for as long as it lives.
 class LogWatch {

@@ -6,7 +6,7 @@
 #include "XmlFamily.h"
 
 /// The namespaces of the document. Its own has no prefix until a namespace binder gives it one.
-extern const XmlNamespaceRow kCommunicationWaitingNamespaces[];
+extern IX_XML_EXPORT const XmlNamespaceRow kCommunicationWaitingNamespaces[];
 constexpr std::size_t kCommunicationWaitingNamespaceCount = 3;
 
 class IX_XML_EXPORT XMLCommunicationWaitingDecoder : public XmlFamilyDecoder {

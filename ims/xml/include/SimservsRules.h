@@ -9,7 +9,7 @@
 ///
 /// Elements of common-policy must have the canonical prefix `cp`, those of the services may have `ss`. What is none of
 /// them goes to the object on top of the stack, under its local name.
-extern const XmlDecoderInfo kRuleDecoderInfo;
+extern IX_XML_EXPORT const XmlDecoderInfo kRuleDecoderInfo;
 
 /// What the decoders of these services share; the log lines are their own.
 /// @param pairLine source line under which attribute pairs are registered.

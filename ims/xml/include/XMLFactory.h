@@ -103,15 +103,15 @@ class IX_XML_EXPORT XMLContext : public XmlHeapObject {
     XMLContext(const XMLContext&) = delete;
     XMLContext& operator=(const XMLContext&) = delete;
 
-    /// NULL for a schema that is only read, or without memory.
+    /// Each yields NULL without memory, `createMarshaller` also for a schema that is only read.
     virtual XMLMarshaller* createMarshaller() = 0;
     virtual XMLUnMarshaller* createUnMarshaller() = 0;
     virtual XMLObjectFactory* createBinderFactory() = 0;
 
     /// Supplementary services: gives the context the namespace declarations of a document (the root that the schema
     /// namespace retrieval decodes), so that its prefixes are understood and written. Call it before the create
-    /// operations. The binder stays with the caller and must live as long as the unmarshaller is used; NULL changes
-    /// nothing.
+    /// operations. The binder stays with the caller and must live until both are created, and as long as the
+    /// unmarshaller is used; NULL changes nothing.
     /// @return 1 for the contexts of the supplementary services, 0 for all others, which do nothing.
     virtual int SetNamespaceBinder(XMLObject* binder);
 

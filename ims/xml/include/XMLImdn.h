@@ -25,6 +25,10 @@ inline constexpr char kProcessingNotificationElement[] = "processing-notificatio
 class IX_XML_EXPORT ix_statusValueType : public ix_empty_element_type {
   protected:
     ix_statusValueType() { mPresent = 1; }
+
+  private:
+    // It is no class of objects: each of the seven has a name of its own.
+    using ix_empty_element_type::kClassName;
 };
 
 /// The element `delivered`: the message reached the recipient's device.

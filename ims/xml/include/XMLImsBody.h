@@ -63,14 +63,8 @@ constexpr XmlLogText ixImsBodyAlternativeServiceFailed(int line) {
 
 constexpr XmlUnMarshallerInfo ixImsBodyUnMarshallerInfo(const char* source, int line,
                                                         XmlFamilyDecoder* (*createDecoder)(int line)) {
-    XmlUnMarshallerInfo info;
-    info.source = source;
-    info.createDecoder = createDecoder;
-    info.textTokenizerLine = info.textDecoderLine = line;
-    info.fileTokenizerLine = info.fileDecoderLine = line;
-    info.noCopy = {4, kSchemaCode, line,
-                   "<XML Module>: StrDup failed in CallWaitingIndicationUnMarshaller::UnMarshall"};
-    return info;
+    return ixUnMarshallerInfo(source, line, createDecoder,
+                              "<XML Module>: StrDup failed in CallWaitingIndicationUnMarshaller::UnMarshall");
 }
 
 /// @param writer the row of the root.
@@ -91,15 +85,11 @@ constexpr XmlMarshallerInfo ixImsBodyMarshallerInfo(const char* source, int line
 template <std::size_t count>
 constexpr XmlDecoderInfo ixImsBodyDecoderInfo(const char* source, int line, const XmlContainerRow (&containers)[count],
                                               const XmlAttributeRow& attribute) {
-    XmlDecoderInfo info;
-    info.source = source;
+    XmlDecoderInfo info = ixDecoderInfo(source, line, containers);
     info.names = XmlNamePolicy::Stripped;
     info.attributePolicy = XmlAttributePolicy::TopTwice;
-    info.containers = containers;
-    info.containerCount = count;
     info.attributes = &attribute;
     info.attributeCount = 1;
-    info.pairLine = line;
     return info;
 }
 /// @}

@@ -15,10 +15,6 @@
 #include "XmlFamily.h"
 #include "XmlFields.h"
 
-/// @name Class names, as `ClassName()` returns them.
-/// @{
-/// @}
-
 /// The element `display-name`: a name for people, its text. It takes no attributes.
 class IX_XML_EXPORT ix_display_nameType : public ix_string {
   public:

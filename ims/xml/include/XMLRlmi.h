@@ -15,10 +15,6 @@
 #include "XmlFamily.h"
 #include "XmlFields.h"
 
-/// @name Class names, as `ClassName()` returns them.
-/// @{
-/// @}
-
 /// The element `name`: a name for people, its text. Its language is not kept.
 class IX_XML_EXPORT ix_name : public ix_string {
   public:

@@ -17,10 +17,6 @@
 #include "XmlFamily.h"
 #include "XmlFields.h"
 
-/// @name Class names, as `ClassName()` returns them.
-/// @{
-/// @}
-
 /// The element `package`: an event package ("presence"), its text.
 class IX_XML_EXPORT ix_ns_rls_services_packageType : public ix_string {
   public:

@@ -11,8 +11,6 @@
 
 #include "XmlFamily.h"
 
-/// What `ix_schema_namespace_retrieval::ClassName` returns.
-
 /// The declarations of a document.
 class IX_XML_EXPORT ix_schema_namespace_retrieval : public XMLObject {
   public:

@@ -7,8 +7,6 @@
 /// - Prefixes: removed.
 /// - Read and written, without XML declaration. An unknown attribute is kept on an `entry` and lost elsewhere; unknown
 ///   elements are lost.
-///
-/// `kClass` of a class is what its `ClassName` answers.
 #ifndef IX_XML_XCAP_DIRECTORY_H
 #define IX_XML_XCAP_DIRECTORY_H
 

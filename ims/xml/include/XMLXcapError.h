@@ -7,8 +7,6 @@
 /// - Prefixes: removed. An element `error-element` is seen through: what is in it counts as if it were not there.
 /// - Read and written, with XML declaration. A phrase of the root is read and not written. The contents of `extension`,
 ///   and all other attributes and elements, are lost. Of several conditions the last one is kept.
-///
-/// `kClass` of a class is what its `ClassName` answers.
 #ifndef IX_XML_XCAP_ERROR_H
 #define IX_XML_XCAP_ERROR_H
 

@@ -29,7 +29,8 @@ inline bool ixIsClass(const XMLElement* element, const char* className) {
     return own != nullptr && (own == className || std::strcmp(own, className) == 0);
 }
 
-/// True when `element` is an object of the class `Element`, by its name. NULL is of no class.
+/// True when `element` is an object of the class `Element`, by its name. NULL is of no class. `Element` has to declare
+/// a `kClassName`: one that it inherits is the name of its base.
 template <class Element>
 bool ixIs(const XMLElement* element) {
     return ixIsClass(element, Element::kClassName);

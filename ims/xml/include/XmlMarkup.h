@@ -84,12 +84,12 @@ inline std::string XmlUnescaped(const char* text) {
         char letter;
     };
     constexpr Entity kEntities[] = {{"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}, {"apos", '\''}};
-    constexpr std::size_t kLongestName = 10;
+    constexpr std::size_t kLongestReference = 16;
     const std::string_view rest = text != nullptr ? text : "";
     std::string plain;
     plain.reserve(rest.size());
     for (std::size_t at = 0; at < rest.size(); ++at) {
-        const std::size_t end = rest[at] == '&' ? rest.substr(at, kLongestName).find(';') : std::string_view::npos;
+        const std::size_t end = rest[at] == '&' ? rest.substr(at, kLongestReference).find(';') : std::string_view::npos;
         const std::string_view name = end != std::string_view::npos ? rest.substr(at + 1, end - 1) : std::string_view();
         bool resolved = !name.empty() && xmlmarkup::AppendReference(plain, name);
         for (const Entity& entity : kEntities) {

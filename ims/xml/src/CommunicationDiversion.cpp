@@ -7,6 +7,9 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/CommunicationDiversion";
 
+constexpr XmlLogText kNoLocalName = {
+    3, kSchemaCode, __LINE__, "<XML Module>XMLCommunicationDiversionDecoder :: ProcessAnyElement: m_PassName is NULL"};
+
 constexpr XmlKnownName kRoot = {IX_STR_COMMUNICATION_DIVERSION, XmlKnownName::Optional, IX_STR_SS};
 
 constexpr XmlContainerRow kContainers[] = {
@@ -24,9 +27,6 @@ constexpr XmlDecoderInfo Info() {
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();
-
-constexpr XmlLogText kNoLocalName = {
-    3, kSchemaCode, __LINE__, "<XML Module>XMLCommunicationDiversionDecoder :: ProcessAnyElement: m_PassName is NULL"};
 
 }  // namespace
 

@@ -37,9 +37,7 @@ int XMLMediaControlDecoder::StartElement(char* name) {
     XMLElement* const top = Top();
     if (top == nullptr) return 0;
     ix_empty_element_type* const request = ixCreateEmptyElement(m_pWrittenName, kSourceFile, __LINE__);
-    if (request == nullptr) return 0;
-    const bool taken = top->ProcessUnMarshall(name, nullptr, request) != 0;
-    if (!taken || !XmlFields::HoldsChild(*top, request)) IX_DELETE(request);
+    if (request != nullptr) Offer(*top, name, request);
     return 0;
 }
 

@@ -29,11 +29,6 @@ constexpr XmlField kDocumentFields[] = {
 };
 constexpr XmlFieldTable kDocumentTable = {nullptr, kDocumentFields, std::size(kDocumentFields)};
 
-/// An element of the same name as an attribute has no text at its start tag, so NULL must not clear what is there.
-int ReplaceText(char*& field, const char* text) {
-    return text != nullptr ? ixSetText(field, text) : 1;
-}
-
 }  // namespace
 
 ix_parm::~ix_parm() {
@@ -45,17 +40,17 @@ const XmlFieldTable* ix_parm::FieldTable() const {
 }
 
 int ix_parm::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_NAME)) return child == nullptr ? setParmName(text) : 0;
-    if (ixNameIs(name, IX_STR_VALUE)) return child == nullptr ? setParmValue(text) : 0;
+    if (ixNameIs(name, IX_STR_NAME)) return ixTakeText(mName, text, child);
+    if (ixNameIs(name, IX_STR_VALUE)) return ixTakeText(mValue, text, child);
     return 1;
 }
 
 int ix_parm::setParmName(const char* name) {
-    return ReplaceText(mName, name);
+    return ixTakeText(mName, name, nullptr);
 }
 
 int ix_parm::setParmValue(const char* value) {
-    return ReplaceText(mValue, value);
+    return ixTakeText(mValue, value, nullptr);
 }
 
 ix_characteristic::~ix_characteristic() {
@@ -67,16 +62,16 @@ const XmlFieldTable* ix_characteristic::FieldTable() const {
 }
 
 int ix_characteristic::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_TYPE)) return child == nullptr ? setTypeValue(text) : 0;
-    if (ixNameIs(name, kParmName)) return ixIs<ix_parm>(child) ? addParm(static_cast<ix_parm*>(child)) : 0;
+    if (ixNameIs(name, IX_STR_TYPE)) return ixTakeText(mType, text, child);
+    if (ixNameIs(name, kParmName)) return ixTakeInto<ix_parm>(mParmList, child, kSourceFile, __LINE__);
     if (ixNameIs(name, kCharacteristicName)) {
-        return ixIs<ix_characteristic>(child) ? addCharacteristic(static_cast<ix_characteristic*>(child)) : 0;
+        return ixTakeInto<ix_characteristic>(mCharacteristicList, child, kSourceFile, __LINE__);
     }
     return 1;
 }
 
 int ix_characteristic::setTypeValue(const char* type) {
-    return ReplaceText(mType, type);
+    return ixTakeText(mType, type, nullptr);
 }
 
 int ix_characteristic::setParmList(IxSingleElementList* list) {
@@ -104,16 +99,16 @@ const XmlFieldTable* ix_characteristicDocType::FieldTable() const {
 }
 
 int ix_characteristicDocType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_VERSION)) return child == nullptr ? setVersionValue(text) : 0;
+    if (ixNameIs(name, IX_STR_VERSION)) return ixTakeText(mVersion, text, child);
     if (ixNameIs(name, kCharacteristicName)) {
-        return ixIs<ix_characteristic>(child) ? addCharacteristic(static_cast<ix_characteristic*>(child)) : 0;
+        return ixTakeInto<ix_characteristic>(mCharacteristicList, child, kSourceFile, __LINE__);
     }
     // A setting belongs to a group.
     return ixNameIs(name, kParmName) && child != nullptr ? 0 : 1;
 }
 
 int ix_characteristicDocType::setVersionValue(const char* version) {
-    return ReplaceText(mVersion, version);
+    return ixTakeText(mVersion, version, nullptr);
 }
 
 int ix_characteristicDocType::setCharacteristicList(IxSingleElementList* list) {

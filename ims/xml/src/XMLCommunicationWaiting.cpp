@@ -57,6 +57,7 @@ int ix_communication_waiting::ProcessUnMarshall(char* /*name*/, char* /*text*/, 
 }
 
 int ix_communication_waiting::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    // Required: what comes without a pair is taken for the switch. Of the decoder, only that does.
     if (pair == nullptr) return setActiveValue(ixNameIs(value, IX_STR_TRUE) ? 1 : 0);
     // An `active` of some child element arrives as a pair and is not kept.
     if (ixNameIs(attribute, IX_STR_ACTIVE)) return 1;

@@ -1,7 +1,5 @@
 #include "XMLConferenceInfo.h"
 
-#include <climits>
-#include <cstring>
 #include <iterator>
 
 #include "ConferenceInfo.h"
@@ -61,6 +59,7 @@ constexpr XmlLogText kMediumFailed = {2, kSchemaCode, __LINE__,
                                       "<XML Module>: AddConferenceMediaTypeElementToXml tempNum: %d "};
 constexpr XmlLogText kAddMedium = {2, kSchemaCode, __LINE__, "<XML Module>: AddConferenceMediumTypeElementToXml"};
 
+// Contiguous: the words of one enumeration follow those of another.
 constexpr char kWords[][100] = {
     "dialed-in",    "dialed-out",  "focus-owner",                  // joining methods
     "recvonly",     "sendonly",    "sendrecv",        "inactive",  // media status
@@ -70,24 +69,19 @@ constexpr char kWords[][100] = {
     "full",         "partial",     "deleted",  // states
 };
 constexpr char kDisconnectionWords[][100] = {"departed", "booted", "failed", "busy"};
+constexpr std::size_t kWordSize = sizeof kWords[0];
 
-constexpr XmlEnumeration kJoiningMethods = {kWords[0], 100, IX_CONFERENCE_JOINING_NOT_SET};
-constexpr XmlEnumeration kMediaStatus = {kWords[3], 100, IX_CONFERENCE_MEDIA_NOT_SET};
-constexpr XmlEnumeration kEndpointStatus = {kWords[7], 100, IX_CONFERENCE_ENDPOINT_NOT_SET};
-constexpr XmlEnumeration kStates = {kWords[16], 100, IX_CONFERENCE_STATE_NOT_SET};
-constexpr XmlEnumeration kDisconnectionMethods = {kDisconnectionWords[0], 100, IX_CONFERENCE_DISCONNECTION_NOT_SET};
+constexpr std::size_t kFirstMediaStatus = IX_CONFERENCE_JOINING_NOT_SET;
+constexpr std::size_t kFirstEndpointStatus = kFirstMediaStatus + IX_CONFERENCE_MEDIA_NOT_SET;
+constexpr std::size_t kFirstState = kFirstEndpointStatus + IX_CONFERENCE_ENDPOINT_NOT_SET;
+static_assert(kFirstState + IX_CONFERENCE_STATE_NOT_SET == std::size(kWords), "each word belongs to an enumeration");
 
-/// Takes over `child` when it is of the class of the field.
-template <class Element>
-int TakeChild(Element*& field, XMLElement* child) {
-    return ixTakeChild(field, child);
-}
-
-/// Appends `child` when it is of the class `Element`.
-template <class Element>
-int TakeEntry(IxSingleElementList*& list, XMLElement* child) {
-    return ixIs<Element>(child) ? ixAppend(list, child, kSourceFile, __LINE__) : 0;
-}
+constexpr XmlEnumeration kJoiningMethods = {kWords[0], kWordSize, IX_CONFERENCE_JOINING_NOT_SET};
+constexpr XmlEnumeration kMediaStatus = {kWords[kFirstMediaStatus], kWordSize, IX_CONFERENCE_MEDIA_NOT_SET};
+constexpr XmlEnumeration kEndpointStatus = {kWords[kFirstEndpointStatus], kWordSize, IX_CONFERENCE_ENDPOINT_NOT_SET};
+constexpr XmlEnumeration kStates = {kWords[kFirstState], kWordSize, IX_CONFERENCE_STATE_NOT_SET};
+constexpr XmlEnumeration kDisconnectionMethods = {kDisconnectionWords[0], kWordSize,
+                                                  IX_CONFERENCE_DISCONNECTION_NOT_SET};
 
 int AppendWord(IxSingleElementList*& list, const char* word) {
     return ixAppendText(list, word, __strlen(word), kSourceFile, __LINE__);
@@ -304,12 +298,12 @@ int ix_uri_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_URI)) return setUriValue(text);
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
     if (ixEndNameIs(name, IX_STR_PURPOSE)) return setPurposeValue(text);
-    if (ixNameIs(name, IX_STR_MODIFIED)) return TakeChild(mModified, child);
+    if (ixNameIs(name, IX_STR_MODIFIED)) return ixTakeChild(mModified, child);
     return Unknown(child);
 }
 
 int ix_uris_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_ENTRY)) return TakeEntry<ix_uri_type>(mEntryList, child);
+    if (ixNameIs(name, IX_STR_ENTRY)) return ixTakeInto<ix_uri_type>(mEntryList, child, kSourceFile, __LINE__);
     return Unknown(child);
 }
 
@@ -330,7 +324,8 @@ int ix_conference_medium_type::ProcessUnMarshallAttribute(char* attribute, char*
 }
 
 int ix_conference_media_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_ENTRY)) return TakeEntry<ix_conference_medium_type>(mEntryList, child);
+    if (ixNameIs(name, IX_STR_ENTRY))
+        return ixTakeInto<ix_conference_medium_type>(mEntryList, child, kSourceFile, __LINE__);
     return Unknown(child);
 }
 
@@ -343,10 +338,10 @@ int ix_conference_description_type::ProcessUnMarshall(char* name, char* text, XM
     if (ixEndNameIs(name, IX_STR_SUBJECT)) return setSubjectValue(text);
     if (ixEndNameIs(name, IX_STR_FREE_TEXT)) return setFreeTextValue(text);
     if (ixEndNameIs(name, IX_STR_KEYWORDS)) return SplitWords(mKeywords, text);
-    if (ixNameIs(name, IX_STR_CONF_URIS)) return TakeChild(mConfUris, child);
-    if (ixNameIs(name, IX_STR_SERVICE_URIS)) return TakeChild(mServiceUris, child);
+    if (ixNameIs(name, IX_STR_CONF_URIS)) return ixTakeChild(mConfUris, child);
+    if (ixNameIs(name, IX_STR_SERVICE_URIS)) return ixTakeChild(mServiceUris, child);
     if (ixEndNameIs(name, IX_STR_MAXIMUM_USER_COUNT)) return setMaximumUserCountValue(ixToUnsigned(text));
-    if (ixNameIs(name, IX_STR_AVAILABLE_MEDIA)) return TakeChild(mAvailableMedia, child);
+    if (ixNameIs(name, IX_STR_AVAILABLE_MEDIA)) return ixTakeChild(mAvailableMedia, child);
     return Unknown(child);
 }
 
@@ -357,7 +352,7 @@ int ix_conference_description_type::addKeyword(const char* keyword) {
 int ix_host_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
     if (ixEndNameIs(name, IX_STR_WEB_PAGE)) return setWebPageValue(text);
-    if (ixNameIs(name, IX_STR_URIS)) return TakeChild(mUris, child);
+    if (ixNameIs(name, IX_STR_URIS)) return ixTakeChild(mUris, child);
     return Unknown(child);
 }
 
@@ -386,7 +381,7 @@ int ix_sip_dialog_id_type::ProcessUnMarshall(char* name, char* text, XMLElement*
 }
 
 int ix_call_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_SIP)) return TakeChild(mSip, child);
+    if (ixNameIs(name, IX_STR_SIP)) return ixTakeChild(mSip, child);
     return Unknown(child);
 }
 
@@ -406,16 +401,16 @@ int ix_media_type::ProcessUnMarshallAttribute(char* attribute, char* value, XMLA
 
 int ix_endpoint_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixNameIs(name, IX_STR_REFERRED)) return TakeChild(mReferred, child);
+    if (ixNameIs(name, IX_STR_REFERRED)) return ixTakeChild(mReferred, child);
     if (ixEndNameIs(name, IX_STR_STATUS)) return setStatusValue(kEndpointStatus.IndexOfPrefix(text));
     if (ixEndNameIs(name, IX_STR_JOINING_METHOD)) return setJoiningMethodValue(kJoiningMethods.IndexOfPrefix(text));
-    if (ixNameIs(name, IX_STR_JOINING_INFO)) return TakeChild(mJoiningInfo, child);
+    if (ixNameIs(name, IX_STR_JOINING_INFO)) return ixTakeChild(mJoiningInfo, child);
     if (ixEndNameIs(name, IX_STR_DISCONNECTION_METHOD)) {
         return setDisconnectionMethodValue(kDisconnectionMethods.IndexOfPrefix(text));
     }
-    if (ixNameIs(name, IX_STR_DISCONNECTION_INFO)) return TakeChild(mDisconnectionInfo, child);
-    if (ixNameIs(name, IX_STR_MEDIA)) return TakeEntry<ix_media_type>(mMediaList, child);
-    if (ixNameIs(name, IX_STR_CALL_INFO)) return TakeChild(mCallInfo, child);
+    if (ixNameIs(name, IX_STR_DISCONNECTION_INFO)) return ixTakeChild(mDisconnectionInfo, child);
+    if (ixNameIs(name, IX_STR_MEDIA)) return ixTakeInto<ix_media_type>(mMediaList, child, kSourceFile, __LINE__);
+    if (ixNameIs(name, IX_STR_CALL_INFO)) return ixTakeChild(mCallInfo, child);
     return Unknown(child);
 }
 
@@ -430,11 +425,12 @@ int ix_endpoint_type::addMedia(ix_media_type* media) {
 
 int ix_user_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixNameIs(name, IX_STR_ASSOCIATED_AORS)) return TakeChild(mAssociatedAors, child);
-    if (ixNameIs(name, IX_STR_ROLES)) return TakeChild(mRoles, child);
+    if (ixNameIs(name, IX_STR_ASSOCIATED_AORS)) return ixTakeChild(mAssociatedAors, child);
+    if (ixNameIs(name, IX_STR_ROLES)) return ixTakeChild(mRoles, child);
     if (ixEndNameIs(name, IX_STR_LANGUAGES)) return SplitWords(mLanguages, text);
     if (ixEndNameIs(name, IX_STR_CASCADED_FOCUS)) return setCascadedFocusValue(text);
-    if (ixNameIs(name, IX_STR_ENDPOINT)) return TakeEntry<ix_endpoint_type>(mEndpointList, child);
+    if (ixNameIs(name, IX_STR_ENDPOINT))
+        return ixTakeInto<ix_endpoint_type>(mEndpointList, child, kSourceFile, __LINE__);
     return Unknown(child);
 }
 
@@ -452,7 +448,7 @@ int ix_user_type::addEndpoint(ix_endpoint_type* endpoint) {
 }
 
 int ix_users_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_USER)) return TakeEntry<ix_user_type>(mUserList, child);
+    if (ixNameIs(name, IX_STR_USER)) return ixTakeInto<ix_user_type>(mUserList, child, kSourceFile, __LINE__);
     return Unknown(child);
 }
 
@@ -461,7 +457,7 @@ int ix_users_type::addUser(ix_user_type* user) {
 }
 
 int ix_sidebars_by_val_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_ENTRY)) return TakeEntry<ix_conference_type>(mEntryList, child);
+    if (ixNameIs(name, IX_STR_ENTRY)) return ixTakeInto<ix_conference_type>(mEntryList, child, kSourceFile, __LINE__);
     return Unknown(child);
 }
 
@@ -470,12 +466,12 @@ int ix_sidebars_by_val_type::addEntry(ix_conference_type* entry) {
 }
 
 int ix_conference_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_CONFERENCE_DESCRIPTION)) return TakeChild(mConferenceDescription, child);
-    if (ixNameIs(name, IX_STR_HOST_INFO)) return TakeChild(mHostInfo, child);
-    if (ixNameIs(name, IX_STR_CONFERENCE_STATE)) return TakeChild(mConferenceState, child);
-    if (ixNameIs(name, IX_STR_USERS)) return TakeChild(mUsers, child);
-    if (ixNameIs(name, IX_STR_SIDEBARS_BY_REF)) return TakeChild(mSidebarsByRef, child);
-    if (ixNameIs(name, IX_STR_SIDEBARS_BY_VAL)) return TakeChild(mSidebarsByVal, child);
+    if (ixNameIs(name, IX_STR_CONFERENCE_DESCRIPTION)) return ixTakeChild(mConferenceDescription, child);
+    if (ixNameIs(name, IX_STR_HOST_INFO)) return ixTakeChild(mHostInfo, child);
+    if (ixNameIs(name, IX_STR_CONFERENCE_STATE)) return ixTakeChild(mConferenceState, child);
+    if (ixNameIs(name, IX_STR_USERS)) return ixTakeChild(mUsers, child);
+    if (ixNameIs(name, IX_STR_SIDEBARS_BY_REF)) return ixTakeChild(mSidebarsByRef, child);
+    if (ixNameIs(name, IX_STR_SIDEBARS_BY_VAL)) return ixTakeChild(mSidebarsByVal, child);
     return Unknown(child);
 }
 

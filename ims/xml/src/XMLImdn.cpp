@@ -92,10 +92,6 @@ bool IsNotification(e_XmlStrRef name) {
            name == IX_STR_PROESSING_NOTIFICATION;
 }
 
-bool HasEntries(const IxSingleElementList* list) {
-    return list != nullptr && list->LastNode() != nullptr;
-}
-
 }  // namespace
 
 ix_status::~ix_status() {
@@ -241,7 +237,7 @@ int IMDNMarshaller::AddIMDNElementToXml(ix_imdn* element) {
     const IxSingleElementList* const attributes = element->mAnyAttributeList;
     StartElementOpen(IX_STR_IMDN);
     AddAttribute(IX_STR_XMLNS, ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_IMDN),
-                 HasEntries(attributes) ? Attribute::Open : Attribute::Closing);
+                 ixNodesOf(attributes) != nullptr ? Attribute::Open : Attribute::Closing);
     EndStartTag(attributes);
     AddTextElement(IX_STR_MESSAGE_ID, element->mMessageId);
     AddTextElement(IX_STR_DATETIME, element->mDatetime);
@@ -297,7 +293,7 @@ int IMDNMarshaller::AddNotificationXML(e_XmlStrRef notification, e_XmlStrRef sta
     ixLog(kSourceFile, kAddNotification);
     if (!IsNotification(notification) || FindStatusValue(statusValue) == nullptr) return 0;
     StartElement(notification);
-    if (HasEntries(statusAttributes)) {
+    if (ixNodesOf(statusAttributes) != nullptr) {
         StartElementOpen(IX_STR_STATUS);
         EndStartTag(statusAttributes);
     } else {

@@ -149,7 +149,7 @@ int ix_tuple::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child);
     if (ixNameIs(name, IX_STR_CONTACT)) return ixTakeChild(mContact, child);
     if (ixNameIs(name, IX_STR_NOTE)) {
-        return ixIs<ix_note>(child) ? addNote(static_cast<ix_note*>(child)) : 0;
+        return ixTakeInto<ix_note>(mNoteList, child, kSourceFile, __LINE__);
     }
     if (child != nullptr) return addAnyElement(child);
     if (ixNameIs(name, IX_STR_TIMESTAMP)) return 1;
@@ -180,10 +180,10 @@ const XmlFieldTable* ix_presence::FieldTable() const {
 
 int ix_presence::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_TUPLE)) {
-        return ixIs<ix_tuple>(child) ? addTuple(static_cast<ix_tuple*>(child)) : 0;
+        return ixTakeInto<ix_tuple>(mTupleList, child, kSourceFile, __LINE__);
     }
     if (ixNameIs(name, IX_STR_NOTE)) {
-        return ixIs<ix_note>(child) ? addNote(static_cast<ix_note*>(child)) : 0;
+        return ixTakeInto<ix_note>(mNoteList, child, kSourceFile, __LINE__);
     }
     if (child != nullptr) return 0;
     ixLog(kSourceFile, kRefused, name, text);

@@ -87,7 +87,7 @@ int ix_rcs_terms_info::ProcessUnMarshall(char* name, char* text, XMLElement* chi
     ixLog(kSourceFile, kRootHook);
     if (ixEndNameIs(name, IX_STR_TERMSVERSION)) return ixTakeText(mTermsVersion, text, child);
     if (!ixNameIs(name, IX_STR_TERM) || ixIsNameless(child)) return 1;
-    return ixIs<ix_ns_rcs_terms_info_term>(child) ? addTerm(static_cast<ix_ns_rcs_terms_info_term*>(child)) : 0;
+    return ixTakeInto<ix_ns_rcs_terms_info_term>(mTerms, child, kSourceFile, __LINE__);
 }
 
 int ix_rcs_terms_info::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {

@@ -189,8 +189,7 @@ const XmlFieldTable* ix_resource_lists::FieldTable() const {
 
 int ix_resource_lists::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    const bool isList = ixNameIs(name, IX_STR_LIST) && ixIs<ix_listType>(child);
-    return isList ? addList(static_cast<ix_listType*>(child)) : 0;
+    return ixNameIs(name, IX_STR_LIST) ? ixTakeInto<ix_listType>(mListList, child, kSourceFile, __LINE__) : 0;
 }
 
 int ix_resource_lists::addList(ix_listType* list) {

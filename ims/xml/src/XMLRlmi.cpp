@@ -105,9 +105,8 @@ const XmlFieldTable* ix_resource::FieldTable() const {
 
 int ix_resource::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_NAME) && ixIs<ix_name>(child)) return addName(static_cast<ix_name*>(child));
-    const bool isInstance = ixNameIs(name, IX_STR_INSTANCE) && ixIs<ix_instance>(child);
-    return isInstance ? addInstance(static_cast<ix_instance*>(child)) : 0;
+    if (ixNameIs(name, IX_STR_NAME)) return ixTakeInto<ix_name>(mNameList, child, kSourceFile, __LINE__);
+    return ixNameIs(name, IX_STR_INSTANCE) ? ixTakeInto<ix_instance>(mInstanceList, child, kSourceFile, __LINE__) : 0;
 }
 
 int ix_resource::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
@@ -137,9 +136,8 @@ const XmlFieldTable* ix_list::FieldTable() const {
 
 int ix_list::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_NAME) && ixIs<ix_name>(child)) return addName(static_cast<ix_name*>(child));
-    const bool isResource = ixNameIs(name, IX_STR_RESOURCE) && ixIs<ix_resource>(child);
-    return isResource ? addResource(static_cast<ix_resource*>(child)) : 0;
+    if (ixNameIs(name, IX_STR_NAME)) return ixTakeInto<ix_name>(mNameList, child, kSourceFile, __LINE__);
+    return ixNameIs(name, IX_STR_RESOURCE) ? ixTakeInto<ix_resource>(mResourceList, child, kSourceFile, __LINE__) : 0;
 }
 
 int ix_list::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {

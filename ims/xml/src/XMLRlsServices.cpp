@@ -70,8 +70,9 @@ const XmlFieldTable* ix_ns_rls_services_packagesType::FieldTable() const {
 
 int ix_ns_rls_services_packagesType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    const bool isPackage = ixNameIs(name, IX_STR_PACKAGE) && ixIs<ix_ns_rls_services_packageType>(child);
-    return isPackage ? addPackage(static_cast<ix_ns_rls_services_packageType*>(child)) : 0;
+    return ixNameIs(name, IX_STR_PACKAGE)
+               ? ixTakeInto<ix_ns_rls_services_packageType>(mPackageList, child, kSourceFile, __LINE__)
+               : 0;
 }
 
 int ix_ns_rls_services_packagesType::addPackage(ix_ns_rls_services_packageType* package) {
@@ -113,8 +114,9 @@ const XmlFieldTable* ix_rls_services::FieldTable() const {
 
 int ix_rls_services::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
-    const bool isService = ixNameIs(name, IX_STR_SERVICE) && ixIs<ix_ns_rls_services_serviceType>(child);
-    return isService ? addService(static_cast<ix_ns_rls_services_serviceType*>(child)) : 0;
+    return ixNameIs(name, IX_STR_SERVICE)
+               ? ixTakeInto<ix_ns_rls_services_serviceType>(mServiceList, child, kSourceFile, __LINE__)
+               : 0;
 }
 
 int ix_rls_services::addService(ix_ns_rls_services_serviceType* service) {

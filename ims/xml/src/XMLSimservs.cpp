@@ -377,6 +377,7 @@ void SimservsUnMarshaller::AddServices(ix_Simservs& root, Pieces& pieces) {
             const Service* service = kServices;
             while (service->pieces != array || std::strstr(piece, service->Name()) == nullptr) ++service;
             XMLContext* const context = XMLFactory::newInstance(service->schema);
+            // Required: without a context, the other services of the array go without a line as well.
             if (context == nullptr) break;
             XMLUnMarshaller* const unMarshaller = context->createUnMarshaller();
             XMLElement* element = unMarshaller != nullptr ? unMarshaller->UnMarshall(piece) : nullptr;

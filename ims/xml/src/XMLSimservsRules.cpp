@@ -1,5 +1,6 @@
 #include "XMLSimservsRules.h"
 
+#include <cstring>
 #include <iterator>
 
 namespace {

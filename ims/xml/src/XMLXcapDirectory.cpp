@@ -70,7 +70,7 @@ const XmlFieldTable* ix_xcap_directory::FieldTable() const {
 
 int ix_xcap_directory::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (!ixNameIs(name, IX_STR_FOLDER)) return 1;
-    return ixIs<ix_folder>(child) ? addFolder(static_cast<ix_folder*>(child)) : 0;
+    return ixTakeInto<ix_folder>(mFolderList, child, kSourceFile, __LINE__);
 }
 
 int ix_xcap_directory::addFolder(ix_folder* folder) {
@@ -87,7 +87,7 @@ const XmlFieldTable* ix_folder::FieldTable() const {
 
 int ix_folder::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_ENTRY)) {
-        return ixIs<ix_entry>(child) ? addEntry(static_cast<ix_entry*>(child)) : 0;
+        return ixTakeInto<ix_entry>(mEntryList, child, kSourceFile, __LINE__);
     }
     return ixEndNameIs(name, IX_STR_ERROR_CODE) ? ixTakeText(mErrorCode, text, child) : 1;
 }

@@ -141,7 +141,7 @@ const XmlFieldTable* ix_uniqueness_failure::FieldTable() const {
 
 int ix_uniqueness_failure::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (!ixNameIs(name, IX_STR_EXISTS)) return 1;
-    return ixIs<ix_exists>(child) ? addExists(static_cast<ix_exists*>(child)) : 0;
+    return ixTakeInto<ix_exists>(mExistsList, child, kSourceFile, __LINE__);
 }
 
 int ix_uniqueness_failure::addExists(ix_exists* exists) {

@@ -311,7 +311,9 @@ int XmlDecoder::DecodeSelfClosingTag(char* content, char* end) {
     end[-1] = '\0';
     m_iSelfClosing = 1;
     TagName name;
-    if (SplitAttributes(content, end - 1, &name) != IX_XML_ERROR) return kTagDone;
+    const int result = SplitAttributes(content, end - 1, &name);
+    m_iSelfClosing = 0;
+    if (result != IX_XML_ERROR) return kTagDone;
     ixLog(kSourceFile, kSelfClosingFailed);
     return kSyntaxError;
 }

@@ -208,6 +208,7 @@ void IxXMLDocGenerator::CutBack(const Place& place) {
     if (m_pBuffer == nullptr || place.length > m_length) return;
     m_length = place.length;
     m_pBuffer[m_length] = '\0';
+    m_bZeroFilled = false;
     m_iStartTagOpen = place.startTagOpen;
     m_bTruncated = place.truncated;
 }
