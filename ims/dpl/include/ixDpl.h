@@ -3,7 +3,9 @@
 ///
 /// The library takes memory, log, files and the text functions below from here, and nothing else of the system but the
 /// plain functions of the C library that need none of it (such as memcpy). A device replaces them all by linking its
-/// own library in place of the host implementation that comes with the project (ixDplHost.h controls that one).
+/// own library in place of the host implementation that comes with the project (ixDplHost.h controls that one). The
+/// library itself does without `__strcmp`, `__strlcpy`, `__strlcat`, `__strlncpy` and `__strcspn`; they are there for
+/// what else runs on the layer.
 ///
 /// The functions have C++ linkage on purpose: the C library exports a `__strdup` of its own, and a function of the same
 /// linkage name would replace it for the whole process.

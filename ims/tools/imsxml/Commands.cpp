@@ -153,10 +153,9 @@ std::string ListNamespaces(const Document& document, const Options& options, con
 }
 
 std::string ListSchemas() {
-    std::vector<std::vector<std::string>> rows = {{"NUMBER", "NAME", "ACCESS", "BUILD", "NAMESPACE", "ROOT ELEMENTS"}};
+    std::vector<std::vector<std::string>> rows = {{"NUMBER", "NAME", "ACCESS", "NAMESPACE", "ROOT ELEMENTS"}};
     for (const XmlSchemaInfo* schema : AllSchemas()) {
         rows.push_back({std::to_string(schema->id), schema->name, schema->writes ? "read/write" : "read",
-                        schema->create != nullptr ? "yes" : "no",
                         *schema->namespaceUri != '\0' ? schema->namespaceUri : "-", schema->rootElements});
     }
     std::vector<std::size_t> widths(rows[0].size());

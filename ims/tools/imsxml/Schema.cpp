@@ -94,9 +94,7 @@ const XmlSchemaInfo& SchemaByName(const std::string& name) {
     std::vector<std::pair<std::string_view, std::string>> candidates;
     for (const XmlSchemaInfo* schema : AllSchemas()) {
         candidates.emplace_back(schema->name, schema->name);
-        if (name != schema->name) continue;
-        if (schema->create != nullptr) return *schema;
-        throw DocumentError{kWrongUsage, "schema " + name + " is not part of this build"};
+        if (name == schema->name) return *schema;
     }
     throw DocumentError{kWrongUsage,
                         "no schema has the name \"" + name + "\"; the nearest: " + Nearest(name, candidates)};
@@ -137,11 +135,5 @@ const XmlSchemaInfo& SchemaOf(Scanner& scanner) {
     const std::string fault = NamespaceFault(root, *schema);
     if (!fault.empty())
         throw DocumentError{kNotDecoded, "root element " + TagText(root.name) + ' ' + fault, root.offset};
-    if (schema->create == nullptr) {
-        throw DocumentError{kNotDecoded,
-                            "schema " + std::string(schema->name) + " of root element " + TagText(root.name) +
-                                " is not part of this build",
-                            root.offset};
-    }
     return *schema;
 }

@@ -72,6 +72,7 @@ class IX_XML_EXPORT ix_ns_caps_duplextype : public XMLElement {
 class IX_XML_EXPORT ix_ns_caps_servcaps : public XMLElement {
   public:
     static constexpr char kClassName[] = "ix_ns_caps_servcaps";
+    static constexpr int kNotSet = 2;
 
     ~ix_ns_caps_servcaps() override;
     const char* ClassName() const override { return kClassName; }
@@ -88,8 +89,8 @@ class IX_XML_EXPORT ix_ns_caps_servcaps : public XMLElement {
     /// Takes over `duplex` in place of the earlier one, which is deleted; NULL: none. @return 1.
     int setDuplexValue(ix_ns_caps_duplextype* duplex) { return ixSetChild(mDuplex, duplex); }
 
-    int mAudio = 2;                            ///< Element `audio`: 0 "false", 1 "true", 2 not set.
-    int mVideo = 2;                            ///< Element `video`: 0 "false", 1 "true", 2 not set.
+    int mAudio = kNotSet;                      ///< Element `audio`: 0 "false", 1 "true", `kNotSet`.
+    int mVideo = kNotSet;                      ///< Element `video`: 0 "false", 1 "true", `kNotSet`.
     ix_ns_caps_duplextype* mDuplex = nullptr;  ///< Element `duplex`. Owned; NULL: none.
 };
 

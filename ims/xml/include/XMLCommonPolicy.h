@@ -34,7 +34,8 @@ class IX_XML_EXPORT ix_ns_common_policy_extensibleType : public ix_ns_common_pol
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
-    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory.
+    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addElement(XMLElement* element);
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setElementValue(IxSingleElementList* list) { return ixOverwriteChild(mElementList, list); }
@@ -75,7 +76,8 @@ class IX_XML_EXPORT ix_ns_common_policy_oneType : public ix_ns_common_policy_typ
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
     int setIdValue(const char* id) { return ixOverwriteWithText(mId, id); }
-    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory.
+    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addExtension(XMLElement* element);
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setExtensionValue(IxSingleElementList* list) { return ixOverwriteChild(mExtensionList, list); }
@@ -96,13 +98,15 @@ class IX_XML_EXPORT ix_ns_common_policy_manyType : public ix_ns_common_policy_ty
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
-    /// Appends an exception, which then belongs to this element. @return 1, or 0 without memory.
+    /// Appends an exception, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addExcept(ix_ns_common_policy_exceptType* except);
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setExceptValue(IxSingleElementList* list) { return ixOverwriteChild(mExceptList, list); }
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
     int setDomainValue(const char* domain) { return ixOverwriteWithText(mDomain, domain); }
-    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory.
+    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addExtension(XMLElement* element);
     int setExtensionValue(IxSingleElementList* list) { return ixOverwriteChild(mExtensionList, list); }
 
@@ -122,7 +126,8 @@ class IX_XML_EXPORT ix_ns_common_policy_identityType : public ix_ns_common_polic
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
-    /// Appends a child, which then belongs to this element. @return 1, or 0 without memory.
+    /// Appends a child, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addOne(ix_ns_common_policy_oneType* one);
     int addMany(ix_ns_common_policy_manyType* many);
     int addExtension(XMLElement* element);
@@ -164,7 +169,8 @@ class IX_XML_EXPORT ix_ns_common_policy_validityType : public ix_ns_common_polic
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
-    /// Appends a date and time, which then belongs to this element. @return 1, or 0 without memory.
+    /// Appends a date and time, which then belongs to this element. @return 1, or 0 without memory, when it stays with
+    /// the caller.
     int addFrom(ix_string* from);
     int addUntil(ix_string* until);
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
@@ -186,7 +192,8 @@ class IX_XML_EXPORT ix_ns_common_policy_conditionsType : public ix_ns_common_pol
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
-    /// Appends a condition, which then belongs to this element. @return 1, or 0 without memory.
+    /// Appends a condition, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addIdentity(ix_ns_common_policy_identityType* identity);
     int addSphere(ix_ns_common_policy_sphereType* sphere);
     int addValidity(ix_ns_common_policy_validityType* validity);
@@ -242,7 +249,8 @@ class IX_XML_EXPORT ix_ns_common_policy_ruleset : public ix_ns_common_policy_typ
     const XmlFieldTable* FieldTable() const override;
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
-    /// Appends a rule, which then belongs to this element. @return 1, or 0 without memory.
+    /// Appends a rule, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addRule(ix_ns_common_policy_ruleType* rule);
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setRuleValue(IxSingleElementList* list) { return ixOverwriteChild(mRuleList, list); }

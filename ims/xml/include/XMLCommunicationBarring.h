@@ -62,6 +62,7 @@ class IX_XML_EXPORT ix_outgoing_communication_barring : public ix_ns_communicati
     const char* TypeName() const override { return "OutgoingCommunicationBarring"; }
 };
 
+/// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
 class IX_XML_EXPORT CommunicationBarringDataBinder : public XmlRuleDataBinder {
   public:
     /// Says which root to create. @return 1, or 0 for anything but incoming and outgoing, the earlier type kept.

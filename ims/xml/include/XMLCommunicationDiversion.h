@@ -55,6 +55,7 @@ class IX_XML_EXPORT ix_communication_diversion : public ix_ns_xcap_ruleServiceTy
     const char* SourceFile() const override;
 };
 
+/// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
 class IX_XML_EXPORT CommunicationDiversionDataBinder : public XmlRuleDataBinder {
   public:
     /// A new `ix_communication_diversion`, active.

@@ -47,7 +47,7 @@ enum eXMLSchemaID {
 };
 
 /// The number of schema numbers, the reserved ones included.
-constexpr int kXmlSchemaCount = 28;
+constexpr int kXmlSchemaCount = IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL + 1;
 
 /// Writes a tree as XML text.
 class IX_XML_EXPORT XMLMarshaller : public XmlHeapObject {
@@ -95,7 +95,7 @@ class IX_XML_EXPORT XMLObjectFactory : public XmlHeapObject {
 };
 
 /// Entry to one schema. Owns the three objects that it creates. Call each create operation once: a second call makes a
-/// new object, and the earlier one is then the caller's.
+/// new object, and the earlier one is then the caller's, who frees it with `IX_DELETE`.
 class IX_XML_EXPORT XMLContext : public XmlHeapObject {
   public:
     XMLContext() = default;
@@ -129,7 +129,7 @@ struct XmlSchemaInfo {
     const char* namespaceUri;  ///< "" when its documents carry none.
     bool writes;               ///< False: documents are only read.
     bool takesBinder;          ///< True: `SetNamespaceBinder` has an effect.
-    XMLContext* (*create)();   ///< NULL: not part of this build.
+    XMLContext* (*create)();   ///< A new context of the schema; NULL without memory.
 };
 
 class IX_XML_EXPORT XMLFactory {

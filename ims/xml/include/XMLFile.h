@@ -5,6 +5,8 @@
 
 #include "XmlPlatform.h"
 
+/// What a file is opened for: `Read` as it is, `Write` from nothing (a file that is there is emptied), `ReadWrite` as
+/// it is, to be overwritten from its beginning.
 enum eXMLFileAccessMode { eXMLFileRead = 0, eXMLFileWrite = 1, eXMLFileReadWrite = 2 };
 
 /// A thin wrapper over the platform layer's IO device. Every failure is logged, and a result of 0 or NULL.
@@ -27,7 +29,7 @@ class IX_XML_EXPORT XMLFile : public XmlHeapObject {
     /// of the object; NULL on failure, when the file is closed. An empty file is a failure.
     char* Read();
 
-    /// Writes `text` in the file's mode. @return 1, or 0.
+    /// Writes `text` in the file's mode. @return 1, or 0, also for NULL.
     int Write(const char* text);
 
     /// Closes the file and frees the buffer. @return 1.

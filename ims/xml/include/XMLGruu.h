@@ -62,7 +62,7 @@ class IX_XML_EXPORT ix_temp_gruu : public ix_gruuType {
     void LogRefusal() const override;
 };
 
-/// A public GRUU inside another document.
+/// A public GRUU inside another document. Neither read nor written; the class is there for applications.
 class IX_XML_EXPORT ix_ns_gruuinfo_pubGruu : public ix_pub_gruu {
   public:
     static constexpr char kClassName[] = "ix_ns_gruuinfo_pubGruu";
@@ -74,7 +74,7 @@ class IX_XML_EXPORT ix_ns_gruuinfo_pubGruu : public ix_pub_gruu {
     void LogRefusal() const override;
 };
 
-/// A temporary GRUU inside another document.
+/// A temporary GRUU inside another document. Neither read nor written; the class is there for applications.
 class IX_XML_EXPORT ix_ns_gruuinfo_tempGruu : public ix_temp_gruu {
   public:
     static constexpr char kClassName[] = "ix_ns_gruuinfo_tempGruu";
@@ -86,6 +86,7 @@ class IX_XML_EXPORT ix_ns_gruuinfo_tempGruu : public ix_temp_gruu {
     void LogRefusal() const override;
 };
 
+/// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
 class IX_XML_EXPORT GruuDataBinder : public XMLObjectFactory {
   public:
     ~GruuDataBinder() override;

@@ -95,6 +95,9 @@ class IX_XML_EXPORT ix_error : public ix_statusValueType {
 };
 
 /// The element `status` of a notification. At most one of the seven values is expected to be set.
+///
+/// The status of a presence tuple (XMLPresence.h) has the same class name, so that `ixIs` and `ixAs` take one for the
+/// other. They belong to different documents; never offer one where the other belongs.
 class IX_XML_EXPORT ix_status : public XMLElement {
   public:
     static constexpr char kClassName[] = "ix_status";

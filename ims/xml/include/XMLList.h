@@ -30,7 +30,7 @@ class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
     /// Unlinks the first node that holds `key`. A NULL key is never found. @return 1, or 0.
     unsigned int Remove(void* key);
 
-    /// The key at a zero-based index, or NULL. Walks from the head: to visit all entries, follow `GetPtrToListHead`.
+    /// The key at a zero-based index, or NULL. Walks from the head: to visit all entries, use `XmlEntries`.
     void* GetKeyAtIndex(unsigned short index) const;
 
     /// The first node, or NULL when the list is empty.

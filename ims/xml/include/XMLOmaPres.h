@@ -10,6 +10,8 @@
 #ifndef IX_XML_OMA_PRES_H
 #define IX_XML_OMA_PRES_H
 
+#include <iterator>
+
 #include "XmlElementSupport.h"
 #include "XmlFields.h"
 
@@ -36,9 +38,16 @@ class IX_XML_EXPORT ix_ns_oma_pres_service_description : public XMLElement {
     char* mDescription = nullptr;  ///< Element `description`, for people. Owned; NULL: not set.
 };
 
+/// The words of an element `basic`, here and in PIDF.
+inline constexpr char kPresenceBasicTexts[][100] = {"open", "closed"};
+inline constexpr XmlEnumeration kPresenceBasics = {kPresenceBasicTexts[0], sizeof kPresenceBasicTexts[0],
+                                                   int{std::size(kPresenceBasicTexts)}};
+
 /// What the elements share whose content is one `basic`.
 class IX_XML_EXPORT ix_ns_oma_pres_basicType : public XMLElement {
   public:
+    static constexpr int kNotSet = 2;
+
     ~ix_ns_oma_pres_basicType() override;
     const char* BaseClassName() const override { return "XMLElement"; }
     int Reserved() const override { return 0; }
@@ -48,7 +57,7 @@ class IX_XML_EXPORT ix_ns_oma_pres_basicType : public XMLElement {
     /// @return 1.
     int setBasicValue(int basic) { return ixSetNumber(mBasic, basic); }
 
-    int mBasic = 2;  ///< Element `basic`: 0 "open", 1 "closed", 2 not set.
+    int mBasic = kNotSet;  ///< Element `basic`: 0 "open", 1 "closed", `kNotSet`.
 };
 
 /// The element `willingness`: whether the user wants to be reached by a service.
@@ -81,6 +90,8 @@ class IX_XML_EXPORT ix_ns_oma_pres_overriding_willingness : public ix_ns_oma_pre
 /// What the elements share whose content is a state.
 class IX_XML_EXPORT ix_ns_oma_pres_stateType : public XMLElement {
   public:
+    static constexpr int kNotSet = 2;
+
     ~ix_ns_oma_pres_stateType() override;
     const char* BaseClassName() const override { return "XMLElement"; }
     int Reserved() const override { return 0; }
@@ -90,7 +101,7 @@ class IX_XML_EXPORT ix_ns_oma_pres_stateType : public XMLElement {
     /// @return 1.
     int setStateValue(int state) { return ixSetNumber(mState, state); }
 
-    int mState = 2;  ///< The element's own text: 0 "active", 1 "terminated", 2 not set.
+    int mState = kNotSet;  ///< The element's own text: 0 "active", 1 "terminated", `kNotSet`.
 
   protected:
     /// The only name whose text is taken.

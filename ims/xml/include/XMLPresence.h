@@ -65,9 +65,13 @@ class IX_XML_EXPORT ix_contact : public XMLElement {
 namespace PresenceNameSpace {
 
 /// The element `status` of a tuple.
+///
+/// The status of a disposition notification (XMLImdn.h) has the same class name, so that `ixIs` and `ixAs` take one for
+/// the other. They belong to different documents; never offer one where the other belongs.
 class IX_XML_EXPORT ix_status : public XMLElement {
   public:
     static constexpr char kClassName[] = "ix_status";
+    static constexpr int kNotSet = 2;
 
     ~ix_status() override;
     const char* ClassName() const override { return kClassName; }
@@ -85,7 +89,7 @@ class IX_XML_EXPORT ix_status : public XMLElement {
     /// caller.
     int addAnyElement(XMLElement* element);
 
-    int mBasic = 2;  ///< Element `basic`: 0 "open", 1 "closed", 2 not set. Longer words count by their beginning.
+    int mBasic = kNotSet;  ///< Element `basic`: 0 "open", 1 "closed", `kNotSet`. Longer words count by their beginning.
     IxSingleElementList* mAnyElementList = nullptr;  ///< Other children. Owned, not written; NULL: none.
 };
 

@@ -163,8 +163,8 @@ class IX_XML_EXPORT ix_registration : public XMLElement {
     /// @}
 
     /// Owned `ix_ns_reginfo_contact` objects in document order; NULL: none. The list takes any number of them, but its
-    /// count has 16 bits and starts again at 0 after 65535: follow the nodes from `GetPtrToListHead`, which is also the
-    /// only way to visit them all in linear time.
+    /// count has 16 bits and starts again at 0 after 65535: walk it with `XmlEntries`, which is also the way to visit
+    /// them all in linear time.
     IxSingleElementList* mContactList = nullptr;
     char* mAor = nullptr;  ///< Owned; the address of record, a URI. NULL: not set. Mandatory in a written document.
     char* mId = nullptr;   ///< Owned; NULL: not set, written as an empty text.

@@ -33,6 +33,7 @@ class IX_XML_EXPORT ix_listMemberType : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
+    /// The list, which stays with the element; NULL: none.
     IxSingleElementList* getAnyAttributeValue() const { return mAnyAttribute; }
     /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
@@ -126,8 +127,8 @@ class IX_XML_EXPORT ix_listType : public ix_listMemberType {
 
     char* mName = nullptr;                           ///< Owned; unique among its sisters. NULL: not set.
     IxSingleElementList* mChildren = nullptr;        ///< Owned, as are the entries, which are of the four classes above
-                                                     ///< in document order. NULL: none. Its count has 16 bits, so that
-                                                     ///< a list of more than 65535 is read whole only by its nodes.
+                                                     ///< in document order. NULL: none. Its count has 16 bits:
+                                                     ///< walk a list of more than 65535 with `XmlEntries`.
     IxSingleElementList* mAnyElementList = nullptr;  ///< Owned, as are the entries: children of other classes, which
                                                      ///< only the RLS services yield. Never written. NULL: none.
 };

@@ -36,7 +36,8 @@ class IX_XML_EXPORT ix_Simservs : public XMLElement {
     /// Services arrive through `addService`, not as child elements. @return 1.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
-    /// Appends a service, which then belongs to this element. @return 1, or 0 without memory.
+    /// Appends a service, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
+    /// caller.
     int addService(XMLElement* service);
     /// Takes over a list of services in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setServiceValue(IxSingleElementList* list);

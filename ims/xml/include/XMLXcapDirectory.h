@@ -102,6 +102,7 @@ class IX_XML_EXPORT ix_entry : public XMLElement {
                                                     ///< written back. NULL: none.
 };
 
+/// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
 class IX_XML_EXPORT XcapDirectoryDataBinder : public XMLObjectFactory {
   public:
     /// A new `ix_xcap_directory`.

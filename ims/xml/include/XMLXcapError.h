@@ -196,6 +196,7 @@ class IX_XML_EXPORT ix_not_utf_8 : public ix_phraseType {
     const char* TypeName() const override { return "NotUtf8"; }
 };
 
+/// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
 class IX_XML_EXPORT XcapErrorDataBinder : public XMLObjectFactory {
   public:
     /// A new `ix_xcap_error`.
@@ -212,7 +213,8 @@ class IX_XML_EXPORT XcapErrorDataBinder : public XMLObjectFactory {
     ix_no_parent* CreateNo_parentElement();
     ix_not_xml_frag* CreateNot_xml_fragElement();
     ix_schema_validation_error* CreateSchema_validation_errorElement();
-    /// An empty list, for objects that exist or for alternative values.
+    /// An empty list, for objects that exist or for alternative values. One that is not linked is freed with
+    /// `ix_xml_common_methods`.
     IxSingleElementList* CreateList();
 };
 

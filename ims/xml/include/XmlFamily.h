@@ -3,7 +3,7 @@
 ///
 /// A schema is served by a context, a binder factory, an unmarshaller, a decoder, a marshaller and its element classes.
 /// Each takes what is particular to it from a plain struct of constants: source path, log texts, namespaces, element
-/// tables. The first families to read are communication waiting (XMLCommunicationWaiting.h) and GRUU (XMLGruu.h);
+/// tables. The first families to read are GRUU (XMLGruu.h) and RCS terms (XMLRcsTermsInfo.h);
 /// docs/adding-a-schema.md builds one from nothing.
 #ifndef IX_XML_FAMILY_H
 #define IX_XML_FAMILY_H
@@ -215,8 +215,8 @@ constexpr XmlDecoderInfo ixDecoderInfo(const char* source, int line,
 /// object on top of the stack. Attributes go where `XmlAttributePolicy` says: one that the decoder knows as it is, any
 /// other as a pair.
 ///
-/// Of the objects that no tree owns (an accepted child that its parent did not keep, a root inside a root) the decoder
-/// frees those that it replaced or that nobody took, when it ends; the result itself is never its own.
+/// When it ends, the decoder frees accepted children that their parent did not keep, and roots that a later root
+/// replaced. It never frees the result.
 class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
   public:
     ~XmlFamilyDecoder() override;

@@ -35,6 +35,7 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
 
     /// Writes the XML declaration into an empty buffer, once. NULL: version "1.0", encoding "ISO-8859-15".
     void ixAddHeader(const char* version, const char* encoding);
+    /// Line feed and a comment, with one blank behind the text. NULL: nothing.
     void ixAddComment(const char* text);
     /// Sets the prefix of the element names that follow (copied); NULL: none. Without memory for the copy there is
     /// none, either.
@@ -44,6 +45,7 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
 
     /// Line feed and start tag. `open` 1: the tag stays open for attributes, behind a blank.
     void ixStartElement(const char* name, int open);
+    /// The same without the line feed.
     void ixStartElementWithoutNL(const char* name, int open);
     /// Line feed and an element without attributes and content.
     void ixStartElementSelfEnding(const char* name);

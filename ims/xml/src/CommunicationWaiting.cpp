@@ -8,6 +8,7 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/CommunicationWaiting";
 
+// Required: the source lines of this family are fixed; the others show their own.
 constexpr XmlKnownName kRoot = {IX_STR_COMMUNICATION_WAITING, XmlKnownName::Optional, IX_STR_SS};
 
 constexpr XmlContainerRow kContainers[] = {

@@ -6,9 +6,6 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCaps";
 
-/// The value of a flag whose text is neither "true" nor "false".
-constexpr int kNotSet = 2;
-
 constexpr XmlField kDuplexTypesFields[] = {
     {XmlFieldKind::Child, IX_STR_FULL, IX_CHILD_MEMBER(ix_ns_caps_duplextypes, mFull)},
     {XmlFieldKind::Child, IX_STR_HALF, IX_CHILD_MEMBER(ix_ns_caps_duplextypes, mHalf)},
@@ -26,8 +23,8 @@ constexpr XmlField kDuplexFields[] = {
 constexpr XmlFieldTable kDuplexTable = {nullptr, kDuplexFields, std::size(kDuplexFields)};
 
 constexpr XmlField kServcapsFields[] = {
-    {XmlFieldKind::Flag, IX_STR_AUDIO, XmlIntMember(&ix_ns_caps_servcaps::mAudio), kNotSet},
-    {XmlFieldKind::Flag, IX_STR_VIDEO, XmlIntMember(&ix_ns_caps_servcaps::mVideo), kNotSet},
+    {XmlFieldKind::Flag, IX_STR_AUDIO, XmlIntMember(&ix_ns_caps_servcaps::mAudio), ix_ns_caps_servcaps::kNotSet},
+    {XmlFieldKind::Flag, IX_STR_VIDEO, XmlIntMember(&ix_ns_caps_servcaps::mVideo), ix_ns_caps_servcaps::kNotSet},
     {XmlFieldKind::Child, IX_STR_DUPLEX, IX_CHILD_MEMBER(ix_ns_caps_servcaps, mDuplex)},
 };
 constexpr XmlFieldTable kServcapsTable = {nullptr, kServcapsFields, std::size(kServcapsFields)};
@@ -42,7 +39,7 @@ int SetTextObject(ix_string*& field, const char* text) {
 
 int FlagOf(const char* text) {
     if (ixNameIs(text, IX_STR_FALSE)) return 0;
-    return ixNameIs(text, IX_STR_TRUE) ? 1 : kNotSet;
+    return ixNameIs(text, IX_STR_TRUE) ? 1 : ix_ns_caps_servcaps::kNotSet;
 }
 
 }  // namespace

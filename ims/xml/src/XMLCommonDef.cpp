@@ -105,6 +105,7 @@ int ix_AttributeValuePair::setValueValue(const char* value) {
 ix_xml_common_array_definition* ix_xml_common_array_definition::m_pXmlStrRef = nullptr;
 
 ix_xml_common_array_definition* ix_xml_common_array_definition::CreateArrayInstance() {
+    // Required: its source line is fixed.
     if (m_pXmlStrRef == nullptr) m_pXmlStrRef = IX_NEW_AT(304, ix_xml_common_array_definition);
     return m_pXmlStrRef;
 }

@@ -9,6 +9,7 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCommunicationWaiting";
 
+// Required: the source lines of this family are fixed; the others show their own.
 constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
     XmlUnMarshallerInfo info;
     info.source = kSourceFile;

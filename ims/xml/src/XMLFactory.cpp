@@ -107,7 +107,7 @@ int XMLContext::SetNamespaceBinder(XMLObject* /*binder*/) {
 
 XMLContext* XMLFactory::newInstance(eXMLSchemaID id) {
     const XmlSchemaInfo* const schema = SchemaInfo(id);
-    return schema != nullptr && schema->create != nullptr ? schema->create() : nullptr;
+    return schema != nullptr ? schema->create() : nullptr;
 }
 
 void XMLFactory::deleteContext(XMLContext* context) {

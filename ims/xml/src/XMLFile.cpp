@@ -21,7 +21,7 @@ constexpr XmlLogText kOpenedForBoth = {2, kSchemaCode, 202, "XMLFile::Init() - O
 constexpr XmlLogText kOpenForBothFailed = {2, kSchemaCode, 206,
                                            "XMLFile::Init() - Unable to open file for Read and Write [%d] "};
 
-/// What the byte count holds before a read.
+/// Required: what the byte count holds before a read, which a device that reads nothing leaves there.
 constexpr std::int32_t kCountBeforeRead = 1025;
 
 }  // namespace

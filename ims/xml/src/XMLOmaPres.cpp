@@ -9,14 +9,8 @@ const char kSourceFile[] = "ims/xml/src/XMLOmaPres";
 
 constexpr XmlLogText kRefused = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 
-constexpr char kBasicTexts[][100] = {"open", "closed"};
-constexpr XmlEnumeration kBasics = {kBasicTexts[0], sizeof kBasicTexts[0], std::size(kBasicTexts)};
-
 constexpr char kStateTexts[][100] = {"active", "terminated"};
 constexpr XmlEnumeration kStates = {kStateTexts[0], sizeof kStateTexts[0], std::size(kStateTexts)};
-
-/// The value of an enumeration whose text is none of the rows.
-constexpr int kNotSet = 2;
 
 constexpr XmlField kServiceDescriptionFields[] = {
     {XmlFieldKind::Text, IX_STR_SERVICE_ID, XmlTextMember(&ix_ns_oma_pres_service_description::mServiceId)},
@@ -27,13 +21,14 @@ constexpr XmlFieldTable kServiceDescriptionTable = {nullptr, kServiceDescription
                                                     std::size(kServiceDescriptionFields)};
 
 constexpr XmlField kBasicFields[] = {
-    {XmlFieldKind::Enumeration, IX_STR_BASIC, XmlIntMember(&ix_ns_oma_pres_basicType::mBasic), kNotSet, &kBasics},
+    {XmlFieldKind::Enumeration, IX_STR_BASIC, XmlIntMember(&ix_ns_oma_pres_basicType::mBasic),
+     ix_ns_oma_pres_basicType::kNotSet, &kPresenceBasics},
 };
 constexpr XmlFieldTable kBasicTable = {nullptr, kBasicFields, std::size(kBasicFields)};
 
 constexpr XmlField kStateFields[] = {
-    {XmlFieldKind::Enumeration, IX_STR_IX_NULL, XmlIntMember(&ix_ns_oma_pres_stateType::mState), kNotSet, &kStates,
-     "text"},
+    {XmlFieldKind::Enumeration, IX_STR_IX_NULL, XmlIntMember(&ix_ns_oma_pres_stateType::mState),
+     ix_ns_oma_pres_stateType::kNotSet, &kStates, "text"},
 };
 constexpr XmlFieldTable kStateTable = {nullptr, kStateFields, std::size(kStateFields)};
 
@@ -64,7 +59,7 @@ const XmlFieldTable* ix_ns_oma_pres_basicType::FieldTable() const {
 }
 
 int ix_ns_oma_pres_basicType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_BASIC)) return setBasicValue(kBasics.IndexOfPrefix(text));
+    if (ixEndNameIs(name, IX_STR_BASIC)) return setBasicValue(kPresenceBasics.IndexOfPrefix(text));
     ixLog(kSourceFile, kRefused, name, text);
     return child == nullptr ? 1 : 0;
 }

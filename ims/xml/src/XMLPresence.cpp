@@ -46,12 +46,6 @@ constexpr XmlLogText kDuplexFailed = {2, kSchemaCode, __LINE__,
 constexpr XmlLogText kDuplexTypesFailed = {
     2, kSchemaCode, __LINE__, "<XML Module>: PresenceMarshaller XML Failed at AddDuplexTypesElementToXml!"};
 
-constexpr char kBasicTexts[][100] = {"open", "closed"};
-constexpr XmlEnumeration kBasics = {kBasicTexts[0], sizeof kBasicTexts[0], std::size(kBasicTexts)};
-
-/// The value of a basic that is none of the rows.
-constexpr int kNotSet = 2;
-
 constexpr XmlField kNoteFields[] = {
     {XmlFieldKind::Text, IX_STR_IX_NULL, XmlTextMember(&ix_note::mText), 0, nullptr, "text"},
 };
@@ -64,7 +58,7 @@ constexpr XmlField kContactFields[] = {
 constexpr XmlFieldTable kContactTable = {nullptr, kContactFields, std::size(kContactFields)};
 
 constexpr XmlField kStatusFields[] = {
-    {XmlFieldKind::Enumeration, IX_STR_BASIC, XmlIntMember(&ix_status::mBasic), kNotSet, &kBasics},
+    {XmlFieldKind::Enumeration, IX_STR_BASIC, XmlIntMember(&ix_status::mBasic), ix_status::kNotSet, &kPresenceBasics},
     {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_status::mAnyElementList), 0, nullptr, "any"},
 };
 constexpr XmlFieldTable kStatusTable = {nullptr, kStatusFields, std::size(kStatusFields)};
@@ -128,7 +122,7 @@ const XmlFieldTable* ix_status::FieldTable() const {
 
 int ix_status::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (child != nullptr) return addAnyElement(child);
-    if (ixEndNameIs(name, IX_STR_BASIC)) return setBasicValue(kBasics.IndexOfPrefix(text));
+    if (ixEndNameIs(name, IX_STR_BASIC)) return setBasicValue(kPresenceBasics.IndexOfPrefix(text));
     ixLog(kSourceFile, kRefused, name, text);
     return 1;
 }
@@ -313,7 +307,7 @@ int PresenceMarshaller::AddAnyElementToXml(XMLElement* element) {
 int PresenceMarshaller::AddStatusElementToXml(ix_status* element) {
     if (element == nullptr) return 0;
     StartElement(IX_STR_STATUS);
-    AddTextElement(IX_STR_BASIC, kBasics.TextOf(element->mBasic));
+    AddTextElement(IX_STR_BASIC, kPresenceBasics.TextOf(element->mBasic));
     EndElement(IX_STR_STATUS);
     return 1;
 }
