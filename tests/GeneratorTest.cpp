@@ -219,4 +219,18 @@ TEST_F(GeneratorTest, AValueThatCannotBeEscapedIsLeftOut) {
     EXPECT_EQ(Log(), line);
 }
 
+TEST_F(GeneratorTest, WhatWasCutIsGone) {
+    Generator generator;
+    generator.ixInitXmlDoc();
+    generator.ixStartElement("a", 0);
+    const Generator::Place before = generator.Here();
+    generator.ixStartElement("b", 1);
+    EXPECT_STREQ(generator.ixGetXmlDoc(), "\n<a>\n<b ");
+    generator.CutBack(before);
+    const char* const text = generator.ixGetXmlDoc();
+    EXPECT_EQ(std::string(text, 10), std::string("\n<a>\0\0\0\0\0\0", 10));
+    generator.ixEndXmlElement("a");
+    EXPECT_STREQ(generator.ixGetXmlDoc(), "\n<a></a>");
+}
+
 }  // namespace

@@ -306,6 +306,13 @@ TEST_F(TokenizerTest, SplittingATagTellsWhetherTheElementWasReported) {
         EXPECT_EQ(tokenizer.decoder.DecodeAttributes(&row.tag[0]), row.result) << row.tag;
         EXPECT_EQ(tokenizer.Events(), row.events);
     }
+    // A tag that closes itself and fails makes none of those behind it close themselves.
+    Tokenizer tokenizer;
+    EXPECT_EQ(tokenizer.Decode("<a b/>"), -1);
+    tokenizer.decoder.InitXmlDecoder();
+    char tag[] = "c x='1'";
+    EXPECT_EQ(tokenizer.decoder.DecodeAttributes(tag), 0);
+    EXPECT_EQ(tokenizer.Events(), "+a +c c.x[1]");
 }
 
 /// What a decode without memory leaves: its lines behind the first, the events, the state.
