@@ -414,17 +414,17 @@ TEST_F(FileTransferTest, HooksAnswerAsTheyMust) {
     ix_AttributeValuePair pair;
     ix_string other;
     NamelessElement nameless;
-    const struct {
-        XMLElement& to;
-        const char* name;
-        XMLElement* child;
-        int answer;
-    } cases[] = {
-        {file, "file-info", nullptr, 0}, {file, "file-info", &other, 1},  {file, "data", &data, 1},
-        {info, "data", &other, 0},       {info, "data", &nameless, 1},    {info, "data", nullptr, 1},
-        {info, "file-info", &info, 1},   {info, "/file-size", &other, 1}, {info, "file-size", nullptr, 1},
-    };
-    for (const auto& c : cases) EXPECT_EQ(Offer(c.to, c.name, nullptr, c.child), c.answer) << c.name;
+    ExpectAnswers({
+        {file, "file-info", nullptr, 0},
+        {file, "file-info", &other, 1},
+        {file, "data", &data, 1},
+        {info, "data", &other, 0},
+        {info, "data", &nameless, 1},
+        {info, "data", nullptr, 1},
+        {info, "file-info", &info, 1},
+        {info, "/file-size", &other, 1},
+        {info, "file-size", nullptr, 1},
+    });
     EXPECT_EQ(file.mFileInfoList, nullptr);
     for (const char* const name : {"url", "etag", "until"})
         EXPECT_EQ(OfferAttribute(data, name, "v", &pair), 0) << name;
@@ -507,12 +507,7 @@ TEST_F(MediaControlTest, HooksAnswerAsTheyMust) {
     ix_to_encoder toEncoder;
     ix_string other;
     NamelessElement nameless;
-    const struct {
-        XMLElement& to;
-        const char* name;
-        XMLElement* child;
-        int answer;
-    } cases[] = {
+    ExpectAnswers({
         {root, "vc_primitive", &other, 0},
         {root, "stream_id", nullptr, 1},
         {primitive, "to_encoder", &primitive, 0},
@@ -521,8 +516,7 @@ TEST_F(MediaControlTest, HooksAnswerAsTheyMust) {
         {toEncoder, "picture_fast_update", &other, 0},
         {toEncoder, "picture_fast_update", &nameless, 1},
         {toEncoder, "camera", nullptr, 1},
-    };
-    for (const auto& c : cases) EXPECT_EQ(Offer(c.to, c.name, nullptr, c.child), c.answer) << c.name;
+    });
     EXPECT_EQ(toEncoder.mPictureFastUpdate, nullptr);
 }
 

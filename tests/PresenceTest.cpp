@@ -133,18 +133,19 @@ TEST_F(PresenceTest, ObjectsOfOtherClassesAreRefused) {
     ix_ns_caps_duplextype duplex;
     ix_ns_oma_pres_service_description description;
     ix_string other;
-    const struct {
-        XMLElement& element;
-        const char* name;
-        XMLElement* child;
-    } cases[] = {
-        {presence, "tuple", &other},  {presence, "note", nullptr},      {presence, "other", &other},
-        {tuple, "status", &other},    {tuple, "contact", nullptr},      {tuple, "note", nullptr},
-        {tuple, "note", &tuple},      {note, "other", &other},          {servcaps, "duplex", &other},
-        {servcaps, "other", &duplex}, {duplex, "supported", &servcaps}, {duplex, "notsupported", nullptr},
-        {description, "x", &other},
-    };
-    for (const auto& c : cases) EXPECT_EQ(Offer(c.element, c.name, nullptr, c.child), 0) << c.name;
+    ExpectAnswers({{presence, "tuple", &other, 0},
+                   {presence, "note", nullptr, 0},
+                   {presence, "other", &other, 0},
+                   {tuple, "status", &other, 0},
+                   {tuple, "contact", nullptr, 0},
+                   {tuple, "note", nullptr, 0},
+                   {tuple, "note", &tuple, 0},
+                   {note, "other", &other, 0},
+                   {servcaps, "duplex", &other, 0},
+                   {servcaps, "other", &duplex, 0},
+                   {duplex, "supported", &servcaps, 0},
+                   {duplex, "notsupported", nullptr, 0},
+                   {description, "x", &other, 0}});
     EXPECT_EQ(TreeOf(&presence).size() + TreeOf(&tuple).size() + TreeOf(&servcaps).size(), 3U);  // the class alone
 }
 

@@ -232,30 +232,30 @@ TEST_F(XcapTest, HooksRefuseWhatTheyCannotKeep) {
     ix_xcap_directory directory;
     ix_folder folder;
     ix_entry entry;
-    const struct {
-        XMLElement& to;
-        const char* name;
-        const char* text;
-        XMLElement* child;
-        int answer;
-    } children[] = {
-        {error, "no-parent", nullptr, nullptr, 0},     {error, "no-parent", nullptr, &exists, 0},
-        {error, "exists", nullptr, &exists, 1},        {error, "error-element", nullptr, nullptr, 1},
-        {noParent, "/ancestor", "kept", nullptr, 1},   {noParent, "/ancestor", "other", &entry, 0},
-        {noParent, "/ancestor", nullptr, nullptr, 1},  {noParent, "ancestor", "other", nullptr, 1},
-        {failure, "exists", nullptr, nullptr, 0},      {failure, "exists", nullptr, &noParent, 0},
-        {failure, "no-parent", nullptr, &noParent, 1}, {exists, "/alt-value", "other", &entry, 0},
-        {exists, "/alt-value", nullptr, nullptr, 1},   {exists, "/other", "other", nullptr, 1},
-        {directory, "folder", nullptr, nullptr, 0},    {directory, "folder", nullptr, &entry, 0},
-        {directory, "entry", nullptr, &entry, 1},      {folder, "entry", nullptr, nullptr, 0},
-        {folder, "entry", nullptr, &directory, 0},     {folder, "folder", nullptr, &folder, 1},
-        {folder, "/error-code", "kept", nullptr, 1},   {folder, "/error-code", nullptr, nullptr, 1},
-        {folder, "/error-code", "other", &entry, 0},   {folder, "error-code", "other", nullptr, 1},
-    };
-    for (const auto& c : children) {
-        SCOPED_TRACE(c.name);
-        EXPECT_EQ(c.to.ProcessUnMarshall(const_cast<char*>(c.name), const_cast<char*>(c.text), c.child), c.answer);
-    }
+    ExpectAnswers({{error, "no-parent", nullptr, 0},
+                   {error, "no-parent", &exists, 0},
+                   {error, "exists", &exists, 1},
+                   {error, "error-element", nullptr, 1},
+                   {noParent, "/ancestor", nullptr, 1, "kept"},
+                   {noParent, "/ancestor", &entry, 0, "other"},
+                   {noParent, "/ancestor", nullptr, 1},
+                   {noParent, "ancestor", nullptr, 1, "other"},
+                   {failure, "exists", nullptr, 0},
+                   {failure, "exists", &noParent, 0},
+                   {failure, "no-parent", &noParent, 1},
+                   {exists, "/alt-value", &entry, 0, "other"},
+                   {exists, "/alt-value", nullptr, 1},
+                   {exists, "/other", nullptr, 1, "other"},
+                   {directory, "folder", nullptr, 0},
+                   {directory, "folder", &entry, 0},
+                   {directory, "entry", &entry, 1},
+                   {folder, "entry", nullptr, 0},
+                   {folder, "entry", &directory, 0},
+                   {folder, "folder", &folder, 1},
+                   {folder, "/error-code", nullptr, 1, "kept"},
+                   {folder, "/error-code", nullptr, 1},
+                   {folder, "/error-code", &entry, 0, "other"},
+                   {folder, "error-code", nullptr, 1, "other"}});
     ix_AttributeValuePair pair;
     const struct {
         XMLElement& to;

@@ -23,6 +23,13 @@ int FamilyTest::Offer(XMLElement& element, const char* name, const char* text, X
     return element.ProcessUnMarshall(const_cast<char*>(name), const_cast<char*>(text), child);
 }
 
+void FamilyTest::ExpectAnswers(const std::vector<HookAnswer>& answers) {
+    for (const HookAnswer& row : answers) {
+        EXPECT_EQ(Offer(row.to, row.name, row.text, row.child), row.answer)
+            << row.to.ClassName() << ": " << row.name << (row.child != nullptr ? " with an object" : "");
+    }
+}
+
 int FamilyTest::OfferAttribute(XMLElement& element, const char* attribute, const char* value, XMLAttribute* pair) {
     return element.ProcessUnMarshallAttribute(const_cast<char*>(attribute), const_cast<char*>(value), pair);
 }

@@ -27,10 +27,21 @@ class NamelessElement : public ix_string {
     const char* ClassName() const override { return nullptr; }
 };
 
+/// What `ProcessUnMarshall` of `to` answers.
+struct HookAnswer {
+    XMLElement& to;
+    const char* name;
+    XMLElement* child;
+    int answer;
+    const char* text = nullptr;
+};
+
 class FamilyTest : public XmlTest {
   protected:
     /// Calls `ProcessUnMarshall`, which changes none of the texts.
     static int Offer(XMLElement& element, const char* name, const char* text, XMLElement* child = nullptr);
+
+    static void ExpectAnswers(const std::vector<HookAnswer>& answers);
 
     /// Calls `ProcessUnMarshallAttribute`, which changes none of the texts.
     static int OfferAttribute(XMLElement& element, const char* attribute, const char* value,
