@@ -47,7 +47,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
     }
 
     void Finalize() override {
-        std::printf("\n%-28s %8s | times as fast as            | allocations for each object and text\n", "", "MB/s");
+        std::printf("\n%-28s %8s | times as fast as            | allocations for each object and text\n", "", "MiB/s");
         std::printf("%-28s", "");
         for (const char* const library : kLibraries)
             std::printf(" %8s%s", library, library == kLibraries[0] ? " |" : "");

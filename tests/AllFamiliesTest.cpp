@@ -108,6 +108,7 @@ const Family kFamilies[] = {
 /// written. Says how far it came; never leaves anything of its own behind.
 struct Work {
     bool decoded = false;
+    int cutShort = 0;  ///< Decodes that failed, and left their trees to nobody.
     std::string tree;
     std::string written;
     bool sameAgain = false;
@@ -121,19 +122,25 @@ struct Work {
     }
 
   private:
+    XMLElement* Decode(XMLUnMarshaller* reader, const char* text) {
+        XMLElement* const root = reader != nullptr ? reader->UnMarshall(text) : nullptr;
+        if (root == nullptr) ++cutShort;
+        return root;
+    }
+
     void Run(XMLContext& namespaces, XMLContext& context, const char* text) {
         XMLUnMarshaller* const namespaceReader = namespaces.createUnMarshaller();
-        XMLElement* const binder = namespaceReader != nullptr ? namespaceReader->UnMarshall(text) : nullptr;
+        XMLElement* const binder = Decode(namespaceReader, text);
         context.SetNamespaceBinder(static_cast<XMLObject*>(binder));
         XMLUnMarshaller* const reader = context.createUnMarshaller();
         XMLMarshaller* const writer = context.createMarshaller();
-        XMLElement* const root = reader != nullptr ? reader->UnMarshall(text) : nullptr;
+        XMLElement* const root = Decode(reader, text);
         decoded = root != nullptr;
         if (m_looksAtTree) tree = TreeOf(root).dump(2);
         const char* const result = decoded && writer != nullptr ? writer->Marshall(root) : nullptr;
         if (result != nullptr) {
             written = result;
-            XMLElement* const again = reader->UnMarshall(result);
+            XMLElement* const again = Decode(reader, result);
             sameAgain = XmlFields::Equal(root, again);
             XMLFactory::DeleteElement(again);
         }
@@ -211,6 +218,10 @@ TEST_P(AllFamiliesTest, StandsEveryAllocationFailing) {
             EXPECT_TRUE(reached || work.written == plain.written);
             EXPECT_EQ(ixDplHostLedger().unknownRemovals, 0U);
             EXPECT_EQ(ixDplHostLedger().doubleRemovals, 0U);
+            // A service inside simservs is a document of its own, which may be cut short without a word.
+            if (work.cutShort == 0 && GetParam().id != IX_XML_SCHEMA_SIMSERVS) {
+                EXPECT_EQ(ixDplHostLedger().liveHeapBlocks, 0U) << failing;
+            }
             ixDplHostReleaseHeap();
         }
         EXPECT_GT(failing, 10U);
@@ -278,7 +289,10 @@ TEST_P(AllFamiliesTest, StandsEveryCharacterMissing) {
     }
 }
 
+// Without ledger and log, whose locks would keep the threads in step.
 TEST_P(AllFamiliesTest, TwoThreadsDoNotDisturbEachOther) {
+    ixDplHostSetLogSink(nullptr, nullptr, 0);
+    ixDplHostEnableLedger(false);
     std::vector<std::string> texts;
     for (const std::string& sample : Samples()) texts.push_back(ReadFile(sample));
     std::vector<std::string> expected;

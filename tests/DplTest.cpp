@@ -122,6 +122,9 @@ TEST(BlockCacheTest, BlocksThatServeAgainHaveTheirSize) {
             for (std::size_t i = 0; i < 20 * kMost; ++i) {
                 const std::size_t size = i % kMost;
                 blocks.push_back(static_cast<unsigned char*>(i % 7 == 0 ? __calloc(size, 1) : __malloc(size)));
+                if (i % 7 == 0) {
+                    ASSERT_TRUE(std::all_of(blocks.back(), blocks.back() + size, [](int byte) { return byte == 0; }));
+                }
                 std::memset(blocks.back(), static_cast<int>(i % 251), size);
             }
             for (std::size_t i = 0; i < blocks.size(); ++i) {
@@ -241,6 +244,9 @@ class DeviceTest : public DplTest {
     std::string m_path;
     ixDplIODevice m_device{0, IX_DPL_IO_FILE, 0, nullptr, 0, 0};
 };
+
+// Devices have these numbers in their own layers.
+static_assert(IX_DPL_IO_FILE == 2 && IX_DPL_IO_READ == 3 && IX_DPL_IO_WRITE == 4 && IX_DPL_IO_READ_WRITE == 5, "");
 
 TEST_F(DeviceTest, WhatCannotBeOpenedLeavesTheDeviceClosed) {
     const std::string pipe = Path("pipe");

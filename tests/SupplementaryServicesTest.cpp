@@ -97,7 +97,6 @@ TEST_F(IdentityPresentationTest, TheSimservTypeTakesWhatItsClassesIgnore) {
     EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(active, no, &service), 0);
     EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(other, no, nullptr), 1);
     EXPECT_EQ(Log().back().text, "Cannot accommodate the element other with value false");
-    ixDplHostEnableLedger(true);
     auto* const child = static_cast<ix_string*>(ixTrack(14, "test", 1, new ix_string, sizeof(ix_string)));
     EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(other, no, child), 1);
     EXPECT_EQ(service.mAnyList->GetCount(), 1);

@@ -507,7 +507,43 @@ TEST_F(ToolTest, RootsWithoutASchema) {
     // A default namespace that was taken away counts as none.
     Write("undeclared", "<pub-gruu xmlns='' uri='a'/>");
     EXPECT_EQ(Run("decode undeclared").status, 0);
+    EXPECT_EQ(MessageFor("<pub-gruu uri='a'></pub-gruu >", "decode"),
+              "1:19: end tag </pub-gruu > has a blank before \">\", which is not supported");
+    // A message has one line, whole characters, and nothing that a terminal obeys.
+    std::string longName = "a\x7f\xc2\x9b";
+    while (longName.size() < 100) longName += "\xc3\xa4";
+    EXPECT_NE(MessageFor('<' + longName + "/>", "decode").find("<a\\u007f\\u009b\xc3\xa4"), std::string::npos);
+    EXPECT_NE(MessageFor('<' + longName + "/>", "decode").find("\xc3\xa4...>"), std::string::npos);
     EXPECT_EQ(MessageFor("<a><b></a>", "namespaces"), "1:7: end tag </a> does not match <b> opened at 1:4");
+}
+
+TEST_F(ToolTest, LostOutputIsAnError) {
+    for (const char* const command : {"decode gruu", "convert gruu", "schemas", "--help", "decode --help"}) {
+        const Result result = Run(std::string(command) + " >/dev/full");
+        EXPECT_EQ(result.status, 2) << command;
+        EXPECT_EQ(result.errors, "imsxml: standard output: No space left on device\n") << command;
+    }
+    // Nobody reads on: the other files are not tried.
+    EXPECT_EQ(Run("decode gruu gruu gruu >/dev/full").errors, "imsxml: standard output: No space left on device\n");
+}
+
+TEST_F(ToolTest, AnIgnoredEndOfChildrenAndBracketsInNamesDoNotMatter) {
+    Write("[a,b]", kGruu);
+    const std::string command =
+        "cd '" + m_folder + "' && trap '' CHLD && exec '" IMSXML_TOOL "' decode '[a,b]' >out 2>err";
+    EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 0);
+    EXPECT_EQ(ReadFile(m_folder + "/err"), "");
+    EXPECT_NE(ReadFile(m_folder + "/out").find("ix_pub_gruu"), std::string::npos);
+}
+
+TEST_F(ToolTest, WarnsOfATextThatIsNotWellFormed) {
+    Write("rule",
+          "<cp:rule id='a' xmlns:cp='urn:ietf:params:xml:ns:common-policy'><cp:conditions><cp:validity>"
+          "<cp:from>now</cp:from></cp:validity></cp:conditions></cp:rule>");
+    const Result result = Run("convert rule");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "<cp:rule id=\"a\">\n<cp:conditions>\n<cp:validity></cp:rule>");
+    EXPECT_EQ(result.errors.substr(0, 52), "rule: warning: the written text is not well-formed: ");
 }
 
 #endif

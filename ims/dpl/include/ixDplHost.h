@@ -57,7 +57,8 @@ struct ixDplHostLedgerTotals {
 
 IX_DPL_EXPORT ixDplHostLedgerTotals ixDplHostLedger();
 
-/// Calls `visit` for every live object, oldest first.
+/// Calls `visit` for every live object, oldest first. The ledger is locked meanwhile, so `visit` must call nothing of
+/// the platform layer that takes or frees memory.
 IX_DPL_EXPORT void ixDplHostVisitLedger(void (*visit)(const ixDplHostBlock& block, void* context), void* context);
 
 /// One line a live object, then the totals.

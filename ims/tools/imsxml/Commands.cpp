@@ -13,12 +13,13 @@
 #include "Outline.h"
 #include "Scanner.h"
 #include "Schema.h"
+#include "Text.h"
 #include "XMLSchemaNameSpaceRetrieval.h"
 
 namespace {
 
-void Warn(const Document& document, const char* message) {
-    std::fprintf(stderr, "%s: warning: %s\n", document.name.c_str(), message);
+void Warn(const Document& document, const std::string& message) {
+    std::fprintf(stderr, "%s: warning: %s\n", document.name.c_str(), message.c_str());
 }
 
 /// A document and what decoded it. The members go in reverse order: the context uses the binder.
@@ -76,16 +77,27 @@ Decoded Decode(const Document& document, const Options& options) {
 
 std::string MarshallText(const Decoded& decoded, const Document& document, bool log) {
     const std::string name = decoded.schema->name;
-    LogWatch watch(log);
     XMLMarshaller* const marshaller = decoded.context->createMarshaller();
     if (marshaller == nullptr) throw DocumentError{kNotMarshalled, "documents of schema " + name + " are only read"};
-    const char* const text = marshaller->Marshall(decoded.root.get());
+    const char* text = nullptr;
+    std::string reason;
+    {
+        const LogWatch watch(log);
+        text = marshaller->Marshall(decoded.root.get());
+        reason = watch.Reason();
+    }
     if (text == nullptr) {
-        const std::string reason = watch.Reason().empty() ? "the library does not say why" : watch.Reason();
+        if (reason.empty()) reason = "the library does not say why";
         throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document: " + reason};
     }
-    if (marshaller->IsTruncated() != 0) Warn(document, "the text was cut at 32767 characters");
-    return text;
+    const std::string written = text;
+    if (marshaller->IsTruncated() != 0) {
+        Warn(document, "the text was cut at 32767 characters");
+    } else if (!Scanner(written).FindEnd()) {
+        // Elements stay open where something mandatory is missing in them.
+        Warn(document, "the written text is not well-formed" + (reason.empty() ? "" : ": " + reason));
+    }
+    return written;
 }
 
 bool HasColour(Colour colour) {
@@ -97,20 +109,8 @@ bool HasColour(Colour colour) {
     return isatty(STDOUT_FILENO) == 1;
 }
 
-/// White space in an attribute stands for blanks, which also keeps a declaration on its line.
-std::string WithBlanks(const char* text) {
-    std::string result = text != nullptr ? text : "";
-    std::replace_if(
-        result.begin(), result.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
-    return result;
-}
-
-/// The tokenizer leaves the white space between the name of an attribute and the "=".
 std::string PrefixOf(const ix_AttributeValuePair& declaration) {
-    if (declaration.mName == nullptr) return "(default)";
-    std::string prefix = WithBlanks(declaration.mName);
-    prefix.erase(prefix.find_last_not_of(' ') + 1);
-    return prefix;
+    return declaration.mName != nullptr ? std::string(TrimEnd(WithBlanks(declaration.mName))) : "(default)";
 }
 
 }  // namespace
@@ -147,7 +147,8 @@ std::string ListNamespaces(const Document& document, const Options& options, con
     std::string text;
     for (const auto* pair : XmlEntries<ix_AttributeValuePair>(list)) {
         if (options.HasManyFiles()) text += document.name + '\t';
-        text += PrefixOf(*pair) + '\t' + WithBlanks(pair->mValue) + '\n';
+        // White space in an attribute stands for blanks, which also keeps a declaration on its line.
+        text += PrefixOf(*pair) + '\t' + WithBlanks(pair->mValue != nullptr ? pair->mValue : "") + '\n';
     }
     return text;
 }

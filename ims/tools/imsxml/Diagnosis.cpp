@@ -4,18 +4,9 @@
 
 #include "Scanner.h"
 #include "Schema.h"
+#include "Text.h"
 
 namespace {
-
-constexpr char kSpaces[] = " \t\r\n";
-
-bool Begins(std::string_view text, std::string_view beginning) {
-    return text.substr(0, beginning.size()) == beginning;
-}
-
-bool Ends(std::string_view text, std::string_view end) {
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
 
 void SkipSpaces(std::string_view& text) {
     text.remove_prefix(std::min(text.size(), text.find_first_not_of(kSpaces)));
@@ -73,6 +64,7 @@ std::string EndTagFault(const Document& document, const Scanner& scanner) {
     const std::string tag = "end tag " + TagText(scanner.Tag());
     if (scanner.Open().empty()) return tag + ", but no element is open";
     const OpenElement& open = scanner.Open().back();
+    if (TrimEnd(scanner.Tag().substr(1)) == open.name) return tag + " has a blank before \">\", which is not supported";
     return tag + " does not match " + TagText(open.name) + " opened at " + document.PlaceOf(open.offset);
 }
 

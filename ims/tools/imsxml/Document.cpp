@@ -33,7 +33,8 @@ std::string ReadText(const std::string& name) {
     do {
         got = read(file, block, sizeof block);
         if (got > 0) text.append(block, static_cast<std::size_t>(got));
-    } while (got > 0 || (got < 0 && errno == EINTR));
+        // More than this no decoder takes.
+    } while ((got > 0 && text.size() <= INT_MAX) || (got < 0 && errno == EINTR));
     const int error = errno;
     if (!isInput) close(file);
     if (got < 0) throw DocumentError{kWrongUsage, std::strerror(error)};

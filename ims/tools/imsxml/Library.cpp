@@ -4,21 +4,11 @@
 #include <cstring>
 #include <string_view>
 
+#include "Text.h"
+
 namespace {
 
 constexpr char kModule[] = "<XML Module>: ";
-
-bool Begins(std::string_view text, std::string_view beginning) {
-    return text.substr(0, beginning.size()) == beginning;
-}
-
-bool Has(std::string_view text, std::string_view part) {
-    return text.find(part) != std::string_view::npos;
-}
-
-bool Ends(std::string_view text, std::string_view end) {
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
 
 /// Some lines hold a whole document; in the output each is one line all the same.
 std::string OnOneLine(std::string_view text) {
@@ -33,7 +23,7 @@ std::string OnOneLine(std::string_view text) {
             line += byte;
         }
     }
-    return line;
+    return WithoutControls(line);
 }
 
 }  // namespace

@@ -2,23 +2,27 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
+#include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "Runner.h"
 #include "Schema.h"
+#include "Text.h"
 
 namespace {
 
 constexpr char kAbout[] = R"help(Reads and writes the XML documents of the IP Multimedia Subsystem.
 
-Every command takes any number of files; "-" is the standard input. Each file is tried, also after one that failed.)help";
+Every command but schemas takes any number of files; "-" is the standard input. Each file is tried, also after one that failed.)help";
 
 constexpr char kFooter[] = R"help(
 Exit status, the highest of all files:
   0  done
   1  a document could not be decoded; the message says where and why
-  2  wrong usage, or a file that cannot be read
+  2  wrong usage, a file that cannot be read, or output that cannot be written
   3  decoded, but the document cannot be written
   4  the time limit of --timeout ran out
 
@@ -31,12 +35,12 @@ Examples:
 "imsxml COMMAND --help" tells more of a command.)help";
 
 constexpr char kDecodeFooter[] = R"help(
-Prints an object a file: its schema, its name and the root element. An element has its class and the fields that are
+Prints one object per file: its schema, its name and the root element. An element has its class and the fields that are
 set. One file is spread over lines; of several files each has one line. The schema follows from the root element and
 its namespace, unless --schema names one.
 
 The tree has a line for each field. An element stands on one line when its fields are few and short; otherwise its
-fields are below it, and what tells it from others of its name stands behind the name.
+fields are below it, and the field that distinguishes it from its siblings follows the name.
 
 Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time limit.
 
@@ -57,7 +61,7 @@ Examples:
   imsxml convert --binder waiting.xml > written.xml)help";
 
 constexpr char kNamespacesFooter[] = R"help(
-Prints a line a declaration, in the order of the text: the prefix, a tab and the URI. The default namespace has the
+Prints one line per declaration, in the order of the text: the prefix, a tab and the URI. The default namespace has the
 prefix "(default)". With several files, each line starts with the file's name and a tab.
 
 Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time limit.
@@ -66,8 +70,8 @@ Example:
   imsxml namespaces simservs.xml)help";
 
 constexpr char kSchemasFooter[] = R"help(
-Prints a line a schema: its number, the name that --schema takes, whether documents are only read, whether this build
-has it, its namespace ("-": none), and its root elements ("*": any).
+Prints one line per schema: its number, the name that --schema takes, whether documents are only read, its namespace
+("-": none), and its root elements ("*": any).
 
 Example:
   imsxml schemas | grep simservs)help";
@@ -89,6 +93,18 @@ std::string WrongUsage(const CLI::App* app, const CLI::Error& error) {
            (commands.empty() ? "" : commands[0]->get_name() + ' ') + "--help\n";
 }
 
+/// The arguments, the last one first, as the parser takes them.
+std::vector<std::string> Arguments(int argc, char** argv) {
+    std::vector<std::string> arguments;
+    for (int i = argc - 1; i > 0; --i) {
+        std::string argument = argv[i];
+        // The parser takes such a name for a list of names.
+        if (Begins(argument, "[") && Ends(argument, "]")) argument = "./" + argument;
+        arguments.push_back(std::move(argument));
+    }
+    return arguments;
+}
+
 class CommandLine {
   public:
     CommandLine();
@@ -99,7 +115,7 @@ class CommandLine {
     void AddDecoding(CLI::App* command);
 
     Options m_options;
-    std::string m_schema;
+    std::optional<std::string> m_schema;
     std::string m_format = "json";
     std::string m_colour = "auto";
     CLI::App m_app{kAbout, "imsxml"};
@@ -151,10 +167,11 @@ void CommandLine::AddDecoding(CLI::App* command) {
 
 int CommandLine::Run(int argc, char** argv) {
     try {
-        m_app.parse(argc, argv);
-        if (!m_schema.empty()) m_options.schema = &SchemaByName(m_schema);
+        m_app.parse(Arguments(argc, argv));
+        if (m_schema) m_options.schema = &SchemaByName(*m_schema);
     } catch (const CLI::ParseError& error) {
-        return m_app.exit(error) == 0 ? kDone : kWrongUsage;
+        std::ostringstream help;
+        return m_app.exit(error, help, std::cerr) == 0 ? Print(help.str()) : kWrongUsage;
     } catch (const DocumentError& error) {
         std::fprintf(stderr, "imsxml: %s\n", error.message.c_str());
         return error.status;

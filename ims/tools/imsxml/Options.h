@@ -23,7 +23,7 @@ struct Options {
     bool binder = false;
     bool log = false;
     bool leaks = false;
-    double timeout = 10;  ///< Seconds a file; 0: no limit.
+    double timeout = 10;  ///< Seconds per file; 0: no limit.
 
     bool HasManyFiles() const { return files.size() > 1; }
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "Text.h"
+
 namespace {
 
 constexpr std::size_t kIndent = 2;
@@ -54,39 +56,6 @@ std::size_t Columns(std::string_view text) {
             ++columns;
     }
     return columns;
-}
-
-/// What a terminal obeys or reorders the line for, although JSON lets it stand: DEL, the control characters above
-/// ASCII, separators of lines, changes of the direction.
-bool IsControl(unsigned code) {
-    return (code >= 0x7f && code < 0xa0) || (code >= 0x2028 && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
-}
-
-/// Such characters as JSON escapes. `text` is UTF-8.
-std::string WithoutControls(const std::string& text) {
-    std::string clean;
-    clean.reserve(text.size());
-    const auto byte = [&text](std::size_t at) { return static_cast<unsigned char>(at < text.size() ? text[at] : 0); };
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        unsigned code = byte(i);
-        std::size_t more = 0;
-        if (code == 0xc2) {
-            code = byte(i + 1);
-            more = 1;
-        } else if (code == 0xe2) {
-            code = 0x2000U + ((byte(i + 1) & 0x3fU) << 6U) + (byte(i + 2) & 0x3fU);
-            more = 2;
-        }
-        if (!IsControl(code) || (more == 0 && code != 0x7f)) {
-            clean += text[i];
-            continue;
-        }
-        constexpr char kDigits[] = "0123456789abcdef";
-        clean += "\\u";
-        for (unsigned shift = 16; shift != 0;) clean += kDigits[(code >> (shift -= 4)) & 0xfU];
-        i += more;
-    }
-    return clean;
 }
 
 }  // namespace

@@ -10,11 +10,10 @@
 /// Writes trees as indented lines.
 ///
 /// - A field is `name = value`. So is a child that is no more than a text, and an entry of a list that is no more than
-/// a
-///   name and a value.
-/// - Any other element begins with its XML name, its class where the name does not tell it, and the field that tells it
-///   from others of its name. Its fields follow on the same line when all of them are plain and fit, otherwise below
-///   it.
+///   a name and a value.
+/// - Any other element begins with its XML name, its class where the name does not tell it, and the field that
+///   distinguishes it from its siblings. Its fields follow on the same line when all of them are plain and fit,
+///   otherwise below it.
 class Outline {
   public:
     explicit Outline(bool colour) : m_colour(colour) {}

@@ -1,7 +1,6 @@
 #include "Runner.h"
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,6 +12,10 @@
 #include <cstring>
 #include <exception>
 
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
+
 #include "Library.h"
 
 namespace {
@@ -20,18 +23,11 @@ namespace {
 /// Added to what a child reports, so that an `exit` deep in the library is not taken for a report.
 constexpr int kReported = 64;
 
+/// What a child reports when nobody takes its output any more.
+constexpr int kOutputLost = kTimeLimit + 1;
+
 void PrintError(const std::string& line) {
     std::fprintf(stderr, "%s\n", line.c_str());
-}
-
-/// Trees of thousands of levels are printed by calls of that depth. The kernel keeps more than this free below the
-/// stack, so that it can grow.
-void AllowDeepTrees() {
-    constexpr rlim_t kStackSize = rlim_t{100} * 1024 * 1024;
-    rlimit limit{};
-    if (getrlimit(RLIMIT_STACK, &limit) != 0 || limit.rlim_cur >= kStackSize) return;
-    limit.rlim_cur = std::min(kStackSize, limit.rlim_max);
-    setrlimit(RLIMIT_STACK, &limit);
 }
 
 void PrintLedger(const std::string& name) {
@@ -96,18 +92,28 @@ std::string TimeMessage(Stage stage, double seconds) {
     }
 }
 
+/// A child that runs without end must not outlive the one that would end it.
+void EndWithParent(pid_t parent) {
+#ifdef __linux__
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+#endif
+    if (getppid() != parent) _exit(kReported + kNotDecoded);
+}
+
 int RunInChild(Command command, const Options& options, const std::string& name, const std::string* input) {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) throw DocumentError{kWrongUsage, std::strerror(errno)};
+    const pid_t parent = getpid();
     const pid_t child = fork();
     if (child < 0) throw DocumentError{kWrongUsage, std::strerror(errno)};
     if (child == 0) {
         close(ends[0]);
+        EndWithParent(parent);
         std::string output;
         int status = RunCommand(command, options, name, input, Progress(ends[1]), output);
         // The clock stops here: a reader of the output may take its time.
         close(ends[1]);
-        status = std::max(status, Print(output));
+        if (Print(output) != kDone) status = kOutputLost;
         _exit(kReported + status);
     }
     close(ends[1]);
@@ -135,7 +141,8 @@ int Print(const std::string& text) {
 }
 
 int RunOnFiles(Command command, const Options& options) {
-    AllowDeepTrees();
+    // A caller may have left it ignored, and then nobody learns how a child ended.
+    std::signal(SIGCHLD, SIG_DFL);
     int worst = kDone;
     std::string input;
     bool hasInput = false;
@@ -145,10 +152,15 @@ int RunOnFiles(Command command, const Options& options) {
             // Read here, so that it can be given more than once.
             if (isInput && !hasInput) input = ReadText(name);
             hasInput = hasInput || isInput;
-            worst = std::max(worst, RunInChild(command, options, name, isInput ? &input : nullptr));
+            const int status = RunInChild(command, options, name, isInput ? &input : nullptr);
+            if (status == kOutputLost) return std::max<int>(worst, kWrongUsage);
+            worst = std::max(worst, status);
         } catch (const DocumentError& error) {
             PrintError(name + ": " + error.message);
             worst = std::max<int>(worst, error.status);
+        } catch (const std::exception& error) {
+            PrintError(name + ": " + error.what());
+            worst = std::max<int>(worst, kWrongUsage);
         }
     }
     return worst;

@@ -1,27 +1,6 @@
 #include "Scanner.h"
 
-#include <algorithm>
-
-namespace {
-
-constexpr char kSpaces[] = " \t\r\n";
-
-/// The name as a person means it: the tokenizer leaves white space between it and the "=".
-std::string TrimEnd(std::string text) {
-    text.erase(text.find_last_not_of(kSpaces) + 1);
-    return text;
-}
-
-/// What of a text fits a message.
-std::string Short(std::string_view whole) {
-    constexpr std::size_t kMost = 80;
-    std::string text(whole.substr(0, kMost));
-    std::replace_if(
-        text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < ' '; }, ' ');
-    return text + (whole.size() > kMost ? "..." : "");
-}
-
-}  // namespace
+#include "Text.h"
 
 std::string TagText(std::string_view name) {
     return '<' + Short(name) + '>';

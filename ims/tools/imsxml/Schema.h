@@ -17,7 +17,7 @@ std::vector<const XmlSchemaInfo*> AllSchemas();
 /// The local names of a schema's root elements; none when any will do.
 std::vector<std::string_view> RootsOf(const XmlSchemaInfo& schema);
 
-/// Throws `DocumentError` (wrong usage) for a name that no schema of this build has.
+/// Throws `DocumentError` (wrong usage) for a name that no schema has.
 const XmlSchemaInfo& SchemaByName(const std::string& name);
 
 /// True for the elements of a rule of communication diversion and barring. XCAP transports them alone, and both schemas
@@ -33,7 +33,7 @@ const XmlSchemaInfo* SchemaWithRoot(std::string_view local);
 /// What is wrong with the namespace of a root element of this schema; "": nothing, as far as it is declared.
 std::string NamespaceFault(const RootElement& root, const XmlSchemaInfo& schema);
 
-/// Throws `DocumentError` for a document whose root element no schema of this build has.
+/// Throws `DocumentError` for a document whose root element no schema has.
 /// @param scanner stands behind the root's start tag.
 const XmlSchemaInfo& SchemaOf(Scanner& scanner);
 

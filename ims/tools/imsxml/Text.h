@@ -1,0 +1,37 @@
+/// @file
+/// Work on texts that the files of the command share.
+#ifndef IMSXML_TOOL_TEXT_H
+#define IMSXML_TOOL_TEXT_H
+
+#include <string>
+#include <string_view>
+
+/// White space as XML has it.
+constexpr char kSpaces[] = " \t\r\n";
+
+inline bool Begins(std::string_view text, std::string_view beginning) {
+    return text.substr(0, beginning.size()) == beginning;
+}
+
+inline bool Ends(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+inline bool Has(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+/// Without the white space at its end: the tokenizer leaves it between the name of an attribute and the "=".
+std::string_view TrimEnd(std::string_view text);
+
+/// Control characters, line feeds among them, as blanks.
+std::string WithBlanks(std::string_view text);
+
+/// What a terminal obeys, or reorders the line for, as JSON escapes: control characters, separators of lines, changes
+/// of the direction. `text` is UTF-8.
+std::string WithoutControls(std::string_view text);
+
+/// What of a text fits a message: at most 80 bytes, on one line.
+std::string Short(std::string_view text);
+
+#endif
