@@ -99,6 +99,23 @@ char* FindByte(char* from, const char* last, char byte) {
     return static_cast<char*>(std::memchr(from, byte, static_cast<std::size_t>(last - from)));
 }
 
+/// memcmp for two names, mostly short ones, which have just been written: looked at in words, they come straight from
+/// where they were written to.
+bool SameBytes(const char* left, const char* right, std::size_t length) {
+    for (; length >= sizeof(std::uint64_t); length -= sizeof(std::uint64_t)) {
+        std::uint64_t words[2];
+        std::memcpy(&words[0], left, sizeof words[0]);
+        std::memcpy(&words[1], right, sizeof words[1]);
+        if (words[0] != words[1]) return false;
+        left += sizeof words[0];
+        right += sizeof words[1];
+    }
+    for (; length != 0; --length) {
+        if (*left++ != *right++) return false;
+    }
+    return true;
+}
+
 /// Cuts off the token in front of `end`: the end of the text, or a delimiter that becomes the NUL of the token.
 void EndToken(char* end, char** rest) {
     if (*end != '\0') *end++ = '\0';
@@ -288,7 +305,7 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
     const OpenName& last = LastOpenName();
     const char* const open = static_cast<const char*>(last.node.m_pData);
     const auto length = static_cast<std::size_t>(end - name);
-    if (open == nullptr || last.length != length || std::memcmp(open, name, length) != 0) {
+    if (open == nullptr || last.length != length || !SameBytes(open, name, length)) {
         if (open != nullptr) ixLog(kSourceFile, kMismatch, open);
         return IX_XML_ERROR;
     }
