@@ -47,7 +47,7 @@ class Work {
     bool IsStable() const {
         return !m_writtenTwice || m_cut || m_first.find('&') != std::string::npos || m_first == m_second ||
                m_first.find("<proessing-notification>") != std::string::npos || DeclaresDefaultTwice() ||
-               m_first.find("many") != std::string::npos;
+               m_first.find("<many ") != std::string::npos || m_first.find(":many ") != std::string::npos;
     }
 
     void Print() const { std::fprintf(stderr, "first:\n%s\nsecond:\n%s\n", m_first.c_str(), m_second.c_str()); }
