@@ -22,13 +22,6 @@ void ExpectNamelessEventsRefused(XmlFamilyDecoder& decoder, int refusedAttribute
     EXPECT_EQ(decoder.ProcessAttribute(name, name, name), 0);
 }
 
-/// Level and text of each line.
-Strings Lines(const std::vector<LogLine>& log) {
-    Strings lines;
-    for (const LogLine& line : log) lines.push_back(std::to_string(line.level) + " " + line.text);
-    return lines;
-}
-
 class MessagingTest : public FamilyTest {};
 
 TEST_F(MessagingTest, DecodersRefuseEventsWithoutNames) {
@@ -58,7 +51,7 @@ TEST_F(MessagingTest, ATextThatCannotBeCopiedIsLogged) {
         ClearLog();
         ixDplHostFailAllocation(1);
         EXPECT_EQ(reader->UnMarshall("<a/>"), nullptr);
-        EXPECT_EQ(Lines(Log()), Strings{std::string("4 ") + c.line});
+        EXPECT_EQ(LevelsAndTexts(Log()), Strings{std::string("4 ") + c.line});
     }
 }
 
@@ -141,7 +134,7 @@ TEST_F(ImdnTest, WritesOneNotificationOrSaysThatItFailed) {
                                   "2 <XML Module>: " + c.writer,
                                   "3 <XML Module>: AddIMDNElementToXml, failed to add " + c.failed + ".",
                                   "2 <XML Module>: Marshall XML " + text};
-        EXPECT_EQ(Lines(Log()), expected);
+        EXPECT_EQ(LevelsAndTexts(Log()), expected);
     }
 }
 
@@ -209,7 +202,7 @@ TEST_F(ImdnTest, LogsWhatItHasNoPlaceFor) {
                               "2 Cannot accommodate the element /note with value n",
                               "2 Cannot accommodate the element proessing-notification with value (null)",
                               "2 Cannot accommodate the element /proessing-notification with value "};
-    EXPECT_EQ(Lines(LogOf("XMLImdn")), expected);
+    EXPECT_EQ(LevelsAndTexts(LogOf("XMLImdn")), expected);
     // Only the root's own namespace is left out.
     EXPECT_EQ(root.as<ix_imdn>()->mAnyAttributeList, nullptr);
     EXPECT_EQ(TreeOf(root.get()).at("/any/0/attributes/0/name"_json_pointer), "xmlns");
@@ -261,7 +254,7 @@ TEST_F(IsComposingTest, AttributesAreOfferedAsElements) {
                               "2 Cannot accommodate the element x with value 1",
                               "2 Cannot accommodate the element more with value (null)",
                               "2 Cannot accommodate the element /more with value m"};
-    EXPECT_EQ(Lines(LogOf("XMLIsComposing")), expected);
+    EXPECT_EQ(LevelsAndTexts(LogOf("XMLIsComposing")), expected);
 }
 
 TEST_F(IsComposingTest, ReadsTheLeadingDigitsOfRefresh) {
@@ -328,7 +321,7 @@ TEST_F(IsComposingTest, SaysWhatIsNotPresent) {
         "1 <XML Module>: IsComposingElement Refresh not present",
         "2 <XML Module>: IsComposingMarshaller XML " + text,
     };
-    EXPECT_EQ(Lines(Log()), expected);
+    EXPECT_EQ(LevelsAndTexts(Log()), expected);
 }
 
 TEST_F(IsComposingTest, KeepsElementsOfOtherSchemas) {
@@ -384,7 +377,7 @@ TEST_F(FileTransferTest, OneMissingUrlFailsTheDocument) {
         "2 <XML Module>: FileMarshaller XML Failed at AddFileInfoElementToXml!",
         "2 <XML Module>: FileMarshaller XML Failed!",
     };
-    EXPECT_EQ(Lines(Log()), expected);
+    EXPECT_EQ(LevelsAndTexts(Log()), expected);
 }
 
 TEST_F(FileTransferTest, OnlyTheFirstOfTwoRootsInARowIsRead) {
@@ -404,7 +397,7 @@ TEST_F(FileTransferTest, LogsEveryOffer) {
         "2 In ix_ns_ft_file_info::ProcessUnMarshall",    "2 In ix_ns_ft_file_info::ProcessUnMarshall",
         "2 In ix_ns_ft_file_info::ProcessUnMarshall",    "2 In ix_ns_ft_data::ProcessUnMarshallAttribute",
         "2 In ix_ns_ft_data::ProcessUnMarshallAttribute"};
-    EXPECT_EQ(Lines(LogOf("XMLFt")), expected);
+    EXPECT_EQ(LevelsAndTexts(LogOf("XMLFt")), expected);
 }
 
 TEST_F(FileTransferTest, HooksAnswerAsTheyMust) {
@@ -493,7 +486,7 @@ TEST_F(MediaControlTest, ARequestThatIsNotPresentFailsTheDocument) {
         "2 <XML Module>: AddVcPrimitiveElementToXml XML Failed!",
         "2 <XML Module>: MediaControlMarshaller XML Failed!",
     };
-    EXPECT_EQ(Lines(Log()), expected);
+    EXPECT_EQ(LevelsAndTexts(Log()), expected);
     request->setPresentValue(1);
     request->setNameValue(nullptr);
     EXPECT_EQ(Write(IX_XML_SCHEMA_MEDIA_CONTROL, root.get()), "(null)");

@@ -49,9 +49,14 @@ std::vector<LogLine> XmlTest::LogOf(const std::string& file) {
     return lines;
 }
 
-std::vector<std::string> XmlTest::NewLinesOf(const std::string& file) {
+std::vector<std::string> XmlTest::LevelsAndTexts(const std::vector<LogLine>& log) {
     std::vector<std::string> lines;
-    for (const LogLine& line : LogOf(file)) lines.push_back(std::to_string(line.level) + ' ' + line.text);
+    for (const LogLine& line : log) lines.push_back(std::to_string(line.level) + ' ' + line.text);
+    return lines;
+}
+
+std::vector<std::string> XmlTest::NewLinesOf(const std::string& file) {
+    std::vector<std::string> lines = LevelsAndTexts(LogOf(file));
     ClearLog();
     return lines;
 }

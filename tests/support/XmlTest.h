@@ -40,6 +40,8 @@ class XmlTest : public testing::Test {
     std::vector<LogLine> Log();
     /// The lines of one source file, "XMLList" for example.
     std::vector<LogLine> LogOf(const std::string& file);
+    /// "level text" of each line.
+    static std::vector<std::string> LevelsAndTexts(const std::vector<LogLine>& log);
     /// "level text" of each line of one source file since the last call; forgets all lines.
     std::vector<std::string> NewLinesOf(const std::string& file);
     /// The texts of all lines.
