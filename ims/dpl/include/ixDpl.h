@@ -10,7 +10,8 @@
 /// The functions have C++ linkage on purpose: the C library exports a `__strdup` of its own, and a function of the same
 /// linkage name would replace it for the whole process.
 ///
-/// Every function may be called from several threads at once. None may throw: the library is compiled without exceptions.
+/// Every function may be called from several threads at once. None may throw: the library is compiled without
+/// exceptions.
 #ifndef IX_DPL_H
 #define IX_DPL_H
 
