@@ -90,7 +90,7 @@ std::string MarshallText(const Decoded& decoded, const Document& document, bool 
         if (reason.empty()) reason = "the library does not say why";
         throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document: " + reason};
     }
-    const std::string written = text;
+    std::string written = text;
     if (marshaller->IsTruncated() != 0) {
         Warn(document, "the text was cut at 32767 characters");
     } else if (!Scanner(written).FindEnd()) {

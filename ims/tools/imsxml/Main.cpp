@@ -99,7 +99,7 @@ std::vector<std::string> Arguments(int argc, char** argv) {
     for (int i = argc - 1; i > 0; --i) {
         std::string argument = argv[i];
         // The parser takes such a name for a list of names.
-        if (Begins(argument, "[") && Ends(argument, "]")) argument = "./" + argument;
+        if (Begins(argument, "[") && Ends(argument, "]")) argument.insert(0, "./");
         arguments.push_back(std::move(argument));
     }
     return arguments;
