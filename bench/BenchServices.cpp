@@ -269,7 +269,7 @@ constexpr char kDiversionRules[] = R"(    <cp:ruleset>
         </cp:conditions>
         <cp:actions>
           <ss:forward-to>
-            <ss:target>sip:assistant@ims.example.net</ss:target>
+            <ss:target>sip:reception@ims.example.net</ss:target>
           </ss:forward-to>
         </cp:actions>
       </cp:rule>
