@@ -17,6 +17,7 @@ namespace {
 struct Family {
     eXMLSchemaID id;
     const char* folder;                           ///< Below samples/, and in the folder of real documents.
+    const char* logName;                          ///< What its unmarshaller calls itself in the log.
     std::vector<const char*> sources;             ///< Binding and decoder, each with a header of the same name.
     std::map<std::string, const char*> losses{};  ///< Samples that do not come back equal, and what they lose.
     bool endless = false;                         ///< Damaged documents may keep the decoder busy without end.
@@ -27,79 +28,106 @@ void PrintTo(const Family& family, std::ostream* stream) {
 }
 
 const Family kFamilies[] = {
-    {IX_XML_SCHEMA_IS_COMPOSING, "is-composing", {"XMLIsComposing", "IsComposing"}},
+    {IX_XML_SCHEMA_IS_COMPOSING, "is-composing", "IsComposing", {"XMLIsComposing", "IsComposing"}},
     {IX_XML_SCHEMA_RESOURCE_LISTS,
      "resource-lists",
+     "ResourceLists",
      {"XMLResourceList", "ResourceLists"},
      {{"odd", "entries and references without their mandatory attribute"}}},
     {IX_XML_SCHEMA_CONFERENCE_INFO,
      "conference-info",
+     "ConferenceInfo",
      {"XMLConferenceInfo", "ConferenceInfo"},
      {{"odd", "a sidebar without an entity is not written"}}},
     {IX_XML_SCHEMA_IMDN,
      "imdn",
+     "IMDN",
      {"XMLImdn", "Imdn"},
      {{"rich", "one notification and no stray elements are written"},
       {"odd", "a processing notification is written under another name"}}},
     {IX_XML_SCHEMA_COMMUNICATION_WAITING,
      "communication-waiting",
+     "CommunicationWaiting",
      {"XMLCommunicationWaiting", "CommunicationWaiting"},
      {{"odd", "an entity that is meant literally: only quotes are escaped"}}},
-    {IX_XML_SCHEMA_OIP, "oip", {"XMLOriginatingIdentityPresentation", "OriginatingIdentityPresentation"}},
-    {IX_XML_SCHEMA_TIP, "tip", {"XMLTerminatingIdentityPresentation", "TerminatingIdentityPresentation"}},
+    {IX_XML_SCHEMA_OIP, "oip", "OIP", {"XMLOriginatingIdentityPresentation", "OriginatingIdentityPresentation"}},
+    {IX_XML_SCHEMA_TIP, "tip", "TIP", {"XMLTerminatingIdentityPresentation", "TerminatingIdentityPresentation"}},
     {IX_XML_SCHEMA_COMMUNICATION_DIVERSION,
      "communication-diversion",
+     "CommunicationDiversion",
      {"XMLCommunicationDiversion", "CommunicationDiversion"},
      {{"odd", "presence-status, the content of transformations"}}},
     {IX_XML_SCHEMA_COMMUNICATION_BARRING,
      "communication-barring",
+     "CommunicationBarring",
      {"XMLCommunicationBarring", "CommunicationBarring"},
      {{"rich", "entries that the walk over a list skips"}, {"odd", "the target of a diversion"}}},
     {IX_XML_SCHEMA_SIMSERVS,
      "simservs",
+     "Simservs",
      {"XMLSimservs", "Simservs"},
      {{"odd", "a part of an element that only looks like a service"}},
      true},
-    {IX_XML_SCHEMA_XCAP_ERROR, "xcap-error", {"XMLXcapError", "XcapError"}, {{"rich", "the phrase of the root"}}},
+    {IX_XML_SCHEMA_XCAP_ERROR,
+     "xcap-error",
+     "XcapError",
+     {"XMLXcapError", "XcapError"},
+     {{"rich", "the phrase of the root"}}},
     {IX_XML_SCHEMA_WAP_PROVISIONING_DOC,
      "wap-provisioning",
+     "WapProvisioningDoc",
      {"XMLCharacteristic", "XMLWapProvisioningDoc", "WapProvisioningDoc"},
      {{"typical", "read only"}, {"rich", "read only"}, {"odd", "read only"}}},
     {IX_XML_SCHEMA_VOLTE_CONFIG_INFO,
      "volte-config-info",
+     "VolteConfigInfo",
      {"XMLCharacteristic", "XMLVolteConfigInfo", "VolteConfigInfo"},
      {{"typical", "read only"}, {"rich", "read only"}, {"odd", "read only"}}},
     {IX_XML_SCHEMA_PRESENCE,
      "presence",
+     "Presence",
      {"XMLPresence", "Presence", "XMLOmaPres", "XMLCaps"},
      {{"odd", "objects of extensions where no writer looks for them"}}},
     {IX_XML_SCHEMA_RLS_SERVICES,
      "rls-services",
+     "RlsServices",
      {"XMLRlsServices", "RlsServices"},
      {{"rich", "the service's own list"}, {"odd", "the service's own list"}}},
-    {IX_XML_SCHEMA_LIST, "rlmi", {"XMLRlmi", "Rlmi"}, {{"rich", "the cid and the other attributes of the list"}}},
+    {IX_XML_SCHEMA_LIST,
+     "rlmi",
+     "List",
+     {"XMLRlmi", "Rlmi"},
+     {{"rich", "the cid and the other attributes of the list"}}},
     {IX_XML_SCHEMA_XCAP_DIRECTORY,
      "xcap-directory",
+     "XcapDirectory",
      {"XMLXcapDirectory", "XcapDirectory"},
      {{"odd", "a folder without auid is written with an empty one"}}},
-    {IX_XML_SCHEMA_FILE, "file-transfer", {"XMLFt", "Ft"}},
-    {IX_XML_SCHEMA_MEDIA_CONTROL, "media-control", {"XMLMediaControl", "MediaControl"}},
+    {IX_XML_SCHEMA_FILE, "file-transfer", "File", {"XMLFt", "Ft"}},
+    {IX_XML_SCHEMA_MEDIA_CONTROL, "media-control", "MediaControl", {"XMLMediaControl", "MediaControl"}},
     {IX_XML_SCHEMA_CALL_WAITING_INDICATION,
      "call-waiting-indication",
+     "CallWaitingIndication",
      {"XMLCallWaitingIndication", "CallWaitingIndication"}},
     {IX_XML_SCHEMA_CW_INDICATION,
      "cw-indication",
+     "CallWaitingIndication",
      {"XMLCWIndication", "CWIndication"},
      {{"odd", "a reason that was not there comes back without content"}}},
-    {IX_XML_SCHEMA_RCS_TERMS_INFO, "rcs-terms-info", {"XMLRcsTermsInfo", "RcsTermsInfo"}},
-    {IX_XML_SCHEMA_BOOTSTRAPPING_INFO, "bootstrapping-info", {"XMLBootstrappingInfo", "BootstrappingInfo"}},
-    {IX_XML_SCHEMA_GRUU, "gruu", {"XMLGruu", "Gruu"}, {{"rich", "first-cseq is written in 32 bits"}}},
+    {IX_XML_SCHEMA_RCS_TERMS_INFO, "rcs-terms-info", "RcsTermsInfo", {"XMLRcsTermsInfo", "RcsTermsInfo"}},
+    {IX_XML_SCHEMA_BOOTSTRAPPING_INFO,
+     "bootstrapping-info",
+     "BootstrappingInfo",
+     {"XMLBootstrappingInfo", "BootstrappingInfo"}},
+    {IX_XML_SCHEMA_GRUU, "gruu", "Gruu", {"XMLGruu", "Gruu"}, {{"rich", "first-cseq is written in 32 bits"}}},
     {IX_XML_SCHEMA_REGINFO,
      "reginfo",
+     "Reginfo",
      {"XMLReginfo", "ReginfoDecoder"},
      {{"odd", "unknown elements; quotes in a value; the extra text of an id that was missing"}}},
     {IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL,
      "namespaces",
+     "SchemaNamespaceRetrieval",
      {"XMLSchemaNameSpaceRetrieval", "SchemaNameSpaceRetrieval"},
      {{"typical", "read only"}, {"rich", "read only"}, {"odd", "read only"}}},
 };
@@ -308,6 +336,28 @@ TEST_P(AllFamiliesTest, TwoThreadsDoNotDisturbEachOther) {
     std::thread second(run);
     first.join();
     second.join();
+}
+
+TEST_P(AllFamiliesTest, WithoutTextOrItsCopyThereIsNoTree) {
+    const OwnedContext context(GetParam().id);
+    XMLUnMarshaller* const reader = context->createUnMarshaller();
+    EXPECT_EQ(reader->UnMarshall(static_cast<const char*>(nullptr)), nullptr);
+    EXPECT_EQ(reader->UnMarshall(static_cast<XMLFile*>(nullptr)), nullptr);
+    // Simservs asks for the memory of its pieces first.
+    const unsigned long copy = GetParam().id == IX_XML_SCHEMA_SIMSERVS ? 6 : 1;
+    ClearLog();
+    ixDplHostFailAllocation(copy);
+    EXPECT_EQ(reader->UnMarshall("<a/>"), nullptr);
+    ixDplHostStopCounting();
+    const std::string line =
+        std::string("4 <XML Module>: StrDup failed in ") + GetParam().logName + "UnMarshaller::UnMarshall";
+    const Strings lines = LevelsAndTexts(Log());
+    // GRUU tells of the text before it copies it.
+    EXPECT_EQ(lines.size(), GetParam().id == IX_XML_SCHEMA_GRUU ? 2U : 1U);
+    EXPECT_EQ(lines.back(), line);
+    EXPECT_EQ(Log().back().code, 6070);
+    const auto isOwn = [this](const std::string& source) { return Log().back().source == "ims/xml/src/" + source; };
+    EXPECT_TRUE(std::any_of(GetParam().sources.begin(), GetParam().sources.end(), isOwn)) << Log().back().source;
 }
 
 TEST_P(AllFamiliesTest, AnEmptyRootIsWrittenOrRefused) {

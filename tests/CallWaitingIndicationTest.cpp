@@ -198,12 +198,6 @@ TEST_F(ImsBodyTest, EachFormRefusesTheOther) {
         const Strings refused = {"3 <XML Module>: CallWaitingIndicationMarshaller :: Marshall",
                                  "2 <XML Module>: CallWaitingIndicationMarshaller XML Failed!"};
         EXPECT_EQ(NewLinesOf(c.file), refused);
-        const OwnedContext context(c.id);
-        XMLUnMarshaller* const unMarshaller = context->createUnMarshaller();
-        ixDplHostFailAllocation(1);
-        EXPECT_EQ(unMarshaller->UnMarshall(c.document), nullptr);
-        const Strings noCopy = {"4 <XML Module>: StrDup failed in CallWaitingIndicationUnMarshaller::UnMarshall"};
-        EXPECT_EQ(NewLinesOf(c.file), noCopy);
     }
 }
 

@@ -205,11 +205,6 @@ TEST_F(ConferenceInfoTest, OtherRootsAndPrefixesYieldNull) {
     EXPECT_TRUE(Logged("<XML Module>XMLConferenceInfoDecoder :: ProcessElement: n_strElement is NULL"));
     EXPECT_EQ(decoder.ProcessAttribute(name, nullptr, name), -1);
     EXPECT_TRUE(Logged("<XML Module>XMLConferenceInfoDecoder :: ProcessAttribute: n_strElement is NULL"));
-    ConferenceInfoUnMarshaller reader;
-    ixDplHostFailAllocation(1);
-    EXPECT_EQ(reader.UnMarshall("<conference-info/>"), nullptr);
-    ixDplHostStopCounting();
-    EXPECT_TRUE(Logged("<XML Module>: StrDup failed in ConferenceInfoUnMarshaller::UnMarshall"));
 }
 
 TEST_F(ConferenceInfoTest, MarshallerNamesWhatFailed) {

@@ -35,26 +35,6 @@ TEST_F(MessagingTest, DecodersRefuseEventsWithoutNames) {
     ExpectNamelessEventsRefused(media, 0);
 }
 
-TEST_F(MessagingTest, ATextThatCannotBeCopiedIsLogged) {
-    const struct {
-        eXMLSchemaID id;
-        const char* line;
-    } cases[] = {
-        {IX_XML_SCHEMA_IMDN, "<XML Module>: StrDup failed in IMDNUnMarshaller::UnMarshall"},
-        {IX_XML_SCHEMA_IS_COMPOSING, "<XML Module>: StrDup failed in IsComposingUnMarshaller::UnMarshall"},
-        {IX_XML_SCHEMA_FILE, "<XML Module>: StrDup failed in FileUnMarshaller::UnMarshall"},
-        {IX_XML_SCHEMA_MEDIA_CONTROL, "<XML Module>: StrDup failed in MediaControlUnMarshaller::UnMarshall"},
-    };
-    for (const auto& c : cases) {
-        const OwnedContext context(c.id);
-        XMLUnMarshaller* const reader = context->createUnMarshaller();
-        ClearLog();
-        ixDplHostFailAllocation(1);
-        EXPECT_EQ(reader->UnMarshall("<a/>"), nullptr);
-        EXPECT_EQ(LevelsAndTexts(Log()), Strings{std::string("4 ") + c.line});
-    }
-}
-
 TEST_F(MessagingTest, MarshallersTakeTheirOwnRootOnly) {
     ix_file file;
     ix_imdn imdn;

@@ -115,16 +115,6 @@ TEST_F(PresenceTest, DecoderRefusesEventsWithoutNames) {
     EXPECT_EQ(NewLinesOf("Presence"), logged);
 }
 
-TEST_F(PresenceTest, UnMarshallerLogsAFailedCopy) {
-    const OwnedContext context(kId);
-    XMLUnMarshaller* const unMarshaller = context->createUnMarshaller();
-    ixDplHostFailAllocation(1);
-    EXPECT_EQ(unMarshaller->UnMarshall("<presence/>"), nullptr);
-    ASSERT_FALSE(Log().empty());
-    EXPECT_EQ(Log().back().level, 4);
-    EXPECT_EQ(Log().back().text, "<XML Module>: StrDup failed in PresenceUnMarshaller::UnMarshall");
-}
-
 TEST_F(PresenceTest, ObjectsOfOtherClassesAreRefused) {
     ix_presence presence;
     ix_tuple tuple;

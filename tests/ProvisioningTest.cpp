@@ -12,13 +12,10 @@ struct Document {
     eXMLSchemaID id;
     const char* root;
     const char* className;
-    const char* noCopy;
 };
 
-const Document kWap = {IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "wap-provisioningdoc", "ix_wap_provisioning_doc",
-                       "<XML Module>: StrDup failed in WapProvisioningDocUnMarshaller::UnMarshall"};
-const Document kVolte = {IX_XML_SCHEMA_VOLTE_CONFIG_INFO, "volte-config-info", "ix_volte_config_info",
-                         "<XML Module>: StrDup failed in VolteConfigInfoUnMarshaller::UnMarshall"};
+const Document kWap = {IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "wap-provisioningdoc", "ix_wap_provisioning_doc"};
+const Document kVolte = {IX_XML_SCHEMA_VOLTE_CONFIG_INFO, "volte-config-info", "ix_volte_config_info"};
 
 class ProvisioningTest : public FamilyTest, public testing::WithParamInterface<Document> {
   protected:
@@ -175,16 +172,6 @@ TEST_P(ProvisioningTest, BadInputYieldsNull) {
                                     std::string("<characteristic><parm name=\"a\"/></characteristic>")}) {
         EXPECT_EQ(Decode(GetParam().id, text), nullptr) << text;
     }
-    const OwnedContext context(GetParam().id);
-    XMLUnMarshaller* const reader = context->createUnMarshaller();
-    EXPECT_EQ(reader->UnMarshall(static_cast<const char*>(nullptr)), nullptr);
-    ClearLog();
-    ixDplHostFailAllocation(1);
-    EXPECT_EQ(reader->UnMarshall("<a/>"), nullptr);
-    ASSERT_EQ(Log().size(), 1U);
-    EXPECT_EQ(Log()[0].level, 4);
-    EXPECT_EQ(Log()[0].code, 6070);
-    EXPECT_EQ(Log()[0].text, GetParam().noCopy);
 }
 
 // The stack holds the root and 99 characteristics. What lies deeper is created, and filed where it belongs as far as
