@@ -31,13 +31,9 @@ void* operator new(std::size_t size) {
     return block;
 }
 
-void operator delete(void* block) noexcept {
-    std::free(block);
-}
+void operator delete(void* block) noexcept { std::free(block); }
 
-void operator delete(void* block, std::size_t /*size*/) noexcept {
-    std::free(block);
-}
+void operator delete(void* block, std::size_t /*size*/) noexcept { std::free(block); }
 
 double CountAllocations(const std::function<void()>& step) {
     const pugi::allocation_function allocate = pugi::get_memory_allocation_function();

@@ -349,6 +349,4 @@ std::string MakeConference(std::size_t size) {
 
 }  // namespace conference
 
-void AddConferenceDocuments() {
-    AddSizes("conference-info", conference::kConference, conference::MakeConference);
-}
+void AddConferenceDocuments() { AddSizes("conference-info", conference::kConference, conference::MakeConference); }

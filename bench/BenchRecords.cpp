@@ -8,9 +8,7 @@
 
 namespace {
 
-bool NameIs(const char* name, const char* expected) {
-    return *name == *expected && std::strcmp(name, expected) == 0;
-}
+bool NameIs(const char* name, const char* expected) { return *name == *expected && std::strcmp(name, expected) == 0; }
 
 const char* LocalName(const char* name) {
     const char* const colon = std::strchr(name, ':');

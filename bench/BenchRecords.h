@@ -113,9 +113,7 @@ void WriteWithTinyxml2(const char* name, const RecordType& type, const void* rec
 template <class Value>
 constexpr bool kIsNumber = std::is_integral_v<Value> && !std::is_same_v<Value, bool>;
 
-inline void TakeValue(std::string& member, std::string_view text, const char* /*attribute*/) {
-    member.assign(text);
-}
+inline void TakeValue(std::string& member, std::string_view text, const char* /*attribute*/) { member.assign(text); }
 
 template <class Number, class = std::enable_if_t<kIsNumber<Number>>>
 void TakeValue(Number& member, std::string_view text, const char* /*attribute*/) {
@@ -128,9 +126,7 @@ void TakeValue(Word<Words>& member, std::string_view text, const char* /*attribu
     if (found != std::end(Words)) member.index = static_cast<int>(found - std::begin(Words));
 }
 
-inline void TakeValue(bool& member, std::string_view /*text*/, const char* /*attribute*/) {
-    member = true;
-}
+inline void TakeValue(bool& member, std::string_view /*text*/, const char* /*attribute*/) { member = true; }
 
 inline void TakeValue(std::vector<std::string>& member, std::string_view text, const char* /*attribute*/) {
     member.emplace_back(text);

@@ -10,9 +10,7 @@
 
 namespace {
 
-const char* Text(const char* text) {
-    return text != nullptr ? text : "(none)";
-}
+const char* Text(const char* text) { return text != nullptr ? text : "(none)"; }
 
 void Print(const ix_parm& parm, const std::string& path) {
     std::printf("%s%s", path.c_str(), Text(parm.mName));

@@ -12,14 +12,10 @@
 namespace {
 
 /// A field that the document may lack.
-const char* Text(const char* text) {
-    return text != nullptr ? text : "(none)";
-}
+const char* Text(const char* text) { return text != nullptr ? text : "(none)"; }
 
 /// The document's word for an enumerated field.
-const char* Word(const XMLElement& element, const char* field) {
-    return Text(XmlFields::Word(element, field));
-}
+const char* Word(const XMLElement& element, const char* field) { return Text(XmlFields::Word(element, field)); }
 
 void Print(const ix_ns_reginfo_contact& contact) {
     std::printf("  %s: %s, %s", Text(contact.mUri), Word(contact, "state"), Word(contact, "event"));

@@ -23,9 +23,7 @@ struct Family {
     bool endless = false;                         ///< Damaged documents may keep the decoder busy without end.
 };
 
-void PrintTo(const Family& family, std::ostream* stream) {
-    *stream << family.folder;
-}
+void PrintTo(const Family& family, std::ostream* stream) { *stream << family.folder; }
 
 const Family kFamilies[] = {
     {IX_XML_SCHEMA_IS_COMPOSING, "is-composing", "IsComposing", {"XMLIsComposing", "IsComposing"}},

@@ -67,13 +67,9 @@ constexpr XmlField kCatalogueFields[] = {
 };
 constexpr XmlFieldTable kCatalogueTable = {nullptr, kCatalogueFields, std::size(kCatalogueFields)};
 
-ix_term::~ix_term() {
-    XmlFields::Release(this, kTermTable);
-}
+ix_term::~ix_term() { XmlFields::Release(this, kTermTable); }
 
-const XmlFieldTable* ix_term::FieldTable() const {
-    return &kTermTable;
-}
+const XmlFieldTable* ix_term::FieldTable() const { return &kTermTable; }
 
 int ix_term::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_TITLE)) return ixSetText(mTitle, text);
@@ -83,13 +79,9 @@ int ix_term::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return mBusy == nullptr ? ixTakeChild(mBusy, child) : 0;
 }
 
-ix_catalogue::~ix_catalogue() {
-    XmlFields::Release(this, kCatalogueTable);
-}
+ix_catalogue::~ix_catalogue() { XmlFields::Release(this, kCatalogueTable); }
 
-const XmlFieldTable* ix_catalogue::FieldTable() const {
-    return &kCatalogueTable;
-}
+const XmlFieldTable* ix_catalogue::FieldTable() const { return &kCatalogueTable; }
 
 int ix_catalogue::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     // A lenient answer for any other child: taken, but kept by nobody.

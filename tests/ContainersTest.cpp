@@ -10,9 +10,7 @@ LogLine Line(const char* file, int level, int line, const std::string& text) {
     return {level, 6070, std::string("ims/xml/src/") + file, line, text};
 }
 
-LogLine List(int level, int line, const std::string& text) {
-    return Line("XMLList", level, line, text);
-}
+LogLine List(int level, int line, const std::string& text) { return Line("XMLList", level, line, text); }
 
 constexpr char kConstructed[] = "<XML Module>: IxSingleElementList::IxSingleElementList";
 constexpr char kAdd[] = "<XML Module>: IxSingleElementList::Add";

@@ -13,9 +13,7 @@
 
 namespace {
 
-std::uintptr_t Word(const char* text) {
-    return reinterpret_cast<std::uintptr_t>(text);
-}
+std::uintptr_t Word(const char* text) { return reinterpret_cast<std::uintptr_t>(text); }
 
 class DplTest : public XmlTest {
   protected:

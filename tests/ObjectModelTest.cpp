@@ -27,9 +27,7 @@ class NestingElement : public XMLElement {
     IxSingleElementList* mPairs = nullptr;
 };
 
-XMLElement* ReadChild(const XMLElement& parent) {
-    return static_cast<const NestingElement&>(parent).mChild;
-}
+XMLElement* ReadChild(const XMLElement& parent) { return static_cast<const NestingElement&>(parent).mChild; }
 
 constexpr XmlField kFields[] = {
     {XmlFieldKind::Text, IX_STR_NAME, XmlTextMember(&NestingElement::mText)},
@@ -41,13 +39,9 @@ constexpr XmlField kFields[] = {
 };
 constexpr XmlFieldTable kTable = {nullptr, kFields, 6};
 
-NestingElement::~NestingElement() {
-    XmlFields::Release(this, kTable);
-}
+NestingElement::~NestingElement() { XmlFields::Release(this, kTable); }
 
-const XmlFieldTable* NestingElement::FieldTable() const {
-    return &kTable;
-}
+const XmlFieldTable* NestingElement::FieldTable() const { return &kTable; }
 
 NestingElement* NewNesting(NestingElement* parent = nullptr) {
     NestingElement* const element = IX_NEW(NestingElement);
@@ -68,9 +62,7 @@ NestingElement* NewTree() {
     return tree;
 }
 
-void* FirstKey(const IxSingleElementList* list) {
-    return list->GetPtrToListHead()->key;
-}
+void* FirstKey(const IxSingleElementList* list) { return list->GetPtrToListHead()->key; }
 
 class ObjectModelTest : public XmlTest {};
 

@@ -34,9 +34,7 @@ LogLine Line(int level, int line, const std::string& text) {
     return {level, 6053, "ims/xml/src/XmlDecoder", line, text};
 }
 
-LogLine Count(std::size_t length) {
-    return Line(2, 180, "XmlDecoder::n_count = " + std::to_string(length));
-}
+LogLine Count(std::size_t length) { return Line(2, 180, "XmlDecoder::n_count = " + std::to_string(length)); }
 
 const LogLine kValid = Line(2, 547, "XmlDecoder:: DecodeAttributes 0");
 const LogLine kTagFailed = Line(3, 401, "<XML Decoder>:Decoder Failed in DecodeAttributes");

@@ -38,13 +38,9 @@ void Arena::GiveBack(void* block) {
     }
 }
 
-void UseArena(Arena* arena) {
-    t_arena = arena;
-}
+void UseArena(Arena* arena) { t_arena = arena; }
 
-void* __malloc(std::size_t size) {
-    return t_arena != nullptr ? t_arena->Take(size) : nullptr;
-}
+void* __malloc(std::size_t size) { return t_arena != nullptr ? t_arena->Take(size) : nullptr; }
 
 void* __calloc(std::size_t count, std::size_t size) {
     if (size != 0 && count > std::numeric_limits<std::size_t>::max() / size) return nullptr;

@@ -22,13 +22,9 @@ void AppendWord(char (&line)[kLineSize], char conversion, std::uintptr_t word) {
 
 }  // namespace
 
-const char* Log() {
-    return t_log;
-}
+const char* Log() { return t_log; }
 
-void ClearLog() {
-    t_log[0] = '\0';
-}
+void ClearLog() { t_log[0] = '\0'; }
 
 /// Keeps rejected input and failed allocations, without the many lines of the lists. The words say nothing of their
 /// types, so the C library's formatting cannot take them.
@@ -67,6 +63,4 @@ int ixDplIODeviceWrite(ixDplIODevice* /*device*/, const void* /*buffer*/, std::u
     return ENOSYS;
 }
 
-int ixDplIODeviceClose(ixDplIODevice* /*device*/) {
-    return 0;
-}
+int ixDplIODeviceClose(ixDplIODevice* /*device*/) { return 0; }

@@ -28,9 +28,7 @@ long g_liveObjects = 0;
 std::size_t g_logLines = 0;
 std::size_t g_opens = 0;
 
-Header* At(std::size_t offset) {
-    return reinterpret_cast<Header*>(g_arena + offset);
-}
+Header* At(std::size_t offset) { return reinterpret_cast<Header*>(g_arena + offset); }
 
 void Prepare() {
     if (g_ready) return;
@@ -78,29 +76,17 @@ bool InArena(const void* pointer) {
     return address >= start && address < start + kArenaSize;
 }
 
-std::size_t LiveBlocks() {
-    return g_liveBlocks;
-}
+std::size_t LiveBlocks() { return g_liveBlocks; }
 
-std::size_t Allocations() {
-    return g_allocations;
-}
+std::size_t Allocations() { return g_allocations; }
 
-long LiveObjects() {
-    return g_liveObjects;
-}
+long LiveObjects() { return g_liveObjects; }
 
-std::size_t LogLines() {
-    return g_logLines;
-}
+std::size_t LogLines() { return g_logLines; }
 
-std::size_t Opens() {
-    return g_opens;
-}
+std::size_t Opens() { return g_opens; }
 
-void SetExhausted(bool exhausted) {
-    g_exhausted = exhausted;
-}
+void SetExhausted(bool exhausted) { g_exhausted = exhausted; }
 
 }  // namespace other_dpl
 
@@ -113,13 +99,9 @@ void trmemlog_add(int /*module*/, const char* /*source*/, int /*line*/, void* /*
     ++g_liveObjects;
 }
 
-void trmemlog_remove(int /*module*/, void* /*pointer*/) {
-    --g_liveObjects;
-}
+void trmemlog_remove(int /*module*/, void* /*pointer*/) { --g_liveObjects; }
 
-void* __malloc(std::size_t size) {
-    return Take(size);
-}
+void* __malloc(std::size_t size) { return Take(size); }
 
 void* __calloc(std::size_t count, std::size_t size) {
     if (size != 0 && count > std::numeric_limits<std::size_t>::max() / size) return nullptr;
@@ -153,6 +135,4 @@ int ixDplIODeviceWrite(ixDplIODevice* /*device*/, const void* /*buffer*/, std::u
     return other_dpl::kNoFiles;
 }
 
-int ixDplIODeviceClose(ixDplIODevice* /*device*/) {
-    return 0;
-}
+int ixDplIODeviceClose(ixDplIODevice* /*device*/) { return 0; }

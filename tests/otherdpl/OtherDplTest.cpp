@@ -25,9 +25,7 @@ void ExpectNothingAlive(int line) {
     Check(other_dpl::LiveObjects() == 0, "no object is alive", line);
 }
 
-bool IsText(const char* text, const char* expected) {
-    return text != nullptr && std::strcmp(text, expected) == 0;
-}
+bool IsText(const char* text, const char* expected) { return text != nullptr && std::strcmp(text, expected) == 0; }
 
 void ReadsAndWrites() {
     XMLContext* const context = XMLFactory::newInstance(IX_XML_SCHEMA_COMMUNICATION_WAITING);

@@ -3,9 +3,7 @@
 #include "../../ims/tools/imsxml/Json.h"
 #include "XmlFields.h"
 
-std::string Sample(const std::string& name) {
-    return ReadFile(PROJECT_DIR "/samples/" + name + ".xml");
-}
+std::string Sample(const std::string& name) { return ReadFile(PROJECT_DIR "/samples/" + name + ".xml"); }
 
 Strings Pairs(const IxSingleElementList* list) {
     Strings texts;

@@ -81,14 +81,10 @@ class BlockCache {
     static constexpr std::size_t kRoom = 4096;  ///< The most blocks that a thread keeps.
 #ifdef IX_DPL_KEEPS_NONE
     static constexpr bool kKeeps = false;
-    static std::size_t RoomOf(void* /*block*/) {
-        return 0;
-    }
+    static std::size_t RoomOf(void* /*block*/) { return 0; }
 #else
     static constexpr bool kKeeps = true;
-    static std::size_t RoomOf(void* block) {
-        return malloc_usable_size(block);
-    }
+    static std::size_t RoomOf(void* block) { return malloc_usable_size(block); }
 #endif
 
     [[gnu::noinline]] bool Open() {

@@ -10,9 +10,7 @@
 namespace {
 
 /// The handle is the descriptor plus one, because 0 means closed and is a valid descriptor.
-int Descriptor(const ixDplIODevice* device) {
-    return static_cast<int>(device->handle) - 1;
-}
+int Descriptor(const ixDplIODevice* device) { return static_cast<int>(device->handle) - 1; }
 
 int OpenFlags(int access) {
     switch (access) {

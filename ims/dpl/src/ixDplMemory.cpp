@@ -46,9 +46,7 @@ Ledger& TheLedger() {
     return *ledger;
 }
 
-bool LedgerIsOn() {
-    return (mode.load(std::memory_order_relaxed) & kLedger) != 0;
-}
+bool LedgerIsOn() { return (mode.load(std::memory_order_relaxed) & kLedger) != 0; }
 
 /// True when the allocation that is about to be made is one that has to fail.
 bool CountAndFail() {
@@ -185,10 +183,6 @@ void ixDplHostFailAllocation(unsigned long first, unsigned long count) {
     mode.fetch_or(kCounting, std::memory_order_relaxed);
 }
 
-unsigned long ixDplHostAllocations() {
-    return allocations.load(std::memory_order_relaxed);
-}
+unsigned long ixDplHostAllocations() { return allocations.load(std::memory_order_relaxed); }
 
-void ixDplHostStopCounting() {
-    mode.fetch_and(~static_cast<unsigned>(kCounting), std::memory_order_relaxed);
-}
+void ixDplHostStopCounting() { mode.fetch_and(~static_cast<unsigned>(kCounting), std::memory_order_relaxed); }

@@ -5,9 +5,7 @@
 
 #include "ixDpl.h"
 
-void* __memset(void* destination, int value, std::size_t size) {
-    return std::memset(destination, value, size);
-}
+void* __memset(void* destination, int value, std::size_t size) { return std::memset(destination, value, size); }
 
 void* __memmove(void* destination, const void* source, std::size_t size) {
     return std::memmove(destination, source, size);
@@ -21,17 +19,11 @@ char* __strdup(const char* text) {
     return copy;
 }
 
-std::size_t __strlen(const char* text) {
-    return text != nullptr ? std::strlen(text) : 0;
-}
+std::size_t __strlen(const char* text) { return text != nullptr ? std::strlen(text) : 0; }
 
-int __strcmp(const char* left, const char* right) {
-    return std::strcmp(left, right);
-}
+int __strcmp(const char* left, const char* right) { return std::strcmp(left, right); }
 
-int __strncmp(const char* left, const char* right, std::size_t count) {
-    return std::strncmp(left, right, count);
-}
+int __strncmp(const char* left, const char* right, std::size_t count) { return std::strncmp(left, right, count); }
 
 std::size_t __strlcpy(char* destination, const char* source, std::size_t size) {
     const std::size_t length = std::strlen(source);
@@ -56,17 +48,11 @@ char* __strlncpy(char* destination, std::size_t size, const char* source, std::s
     return destination;
 }
 
-char* __strchr(const char* text, int character) {
-    return const_cast<char*>(std::strchr(text, character));
-}
+char* __strchr(const char* text, int character) { return const_cast<char*>(std::strchr(text, character)); }
 
-char* __strstr(const char* text, const char* part) {
-    return const_cast<char*>(std::strstr(text, part));
-}
+char* __strstr(const char* text, const char* part) { return const_cast<char*>(std::strstr(text, part)); }
 
-std::size_t __strcspn(const char* text, const char* reject) {
-    return std::strcspn(text, reject);
-}
+std::size_t __strcspn(const char* text, const char* reject) { return std::strcspn(text, reject); }
 
 int __atoi(const char* text) {
     const std::int64_t value = __atoi64(text);

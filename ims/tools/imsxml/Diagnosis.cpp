@@ -8,9 +8,7 @@
 
 namespace {
 
-void SkipSpaces(std::string_view& text) {
-    text.remove_prefix(std::min(text.size(), text.find_first_not_of(kSpaces)));
-}
+void SkipSpaces(std::string_view& text) { text.remove_prefix(std::min(text.size(), text.find_first_not_of(kSpaces))); }
 
 std::string_view CutWord(std::string_view& text, const char* delimiters) {
     const std::string_view word = text.substr(0, text.find_first_of(delimiters));

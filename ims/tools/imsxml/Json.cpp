@@ -4,9 +4,7 @@
 
 namespace {
 
-Json TextOrNull(const char* text) {
-    return text != nullptr ? Json(text) : Json();
-}
+Json TextOrNull(const char* text) { return text != nullptr ? Json(text) : Json(); }
 
 Json EntryToJson(XmlFieldKind kind, const void* entry) {
     if (entry == nullptr) return {};

@@ -33,9 +33,7 @@ LogWatch::LogWatch(bool print, unsigned levels) : m_print(print) {
         [](const ixDplHostLogLine& line, void* context) { static_cast<LogWatch*>(context)->Take(line); }, this, levels);
 }
 
-LogWatch::~LogWatch() {
-    ixDplHostSetLogSink(nullptr, nullptr, 0);
-}
+LogWatch::~LogWatch() { ixDplHostSetLogSink(nullptr, nullptr, 0); }
 
 void LogWatch::Take(const ixDplHostLogLine& line) {
     if (std::strcmp(line.text, "stack overflow\n") == 0) m_tooDeep = true;

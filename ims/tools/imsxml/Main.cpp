@@ -185,6 +185,4 @@ int CommandLine::Run(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    return CommandLine().Run(argc, argv);
-}
+int main(int argc, char** argv) { return CommandLine().Run(argc, argv); }

@@ -149,9 +149,7 @@ std::string Outline::Assignment(const std::string& name, const Json& value) {
 }
 
 /// Escapes keep a text on its line, and a terminal from obeying it.
-std::string Outline::Value(const Json& value) {
-    return WithoutControls(ToText(value, -1, m_replaced));
-}
+std::string Outline::Value(const Json& value) { return WithoutControls(ToText(value, -1, m_replaced)); }
 
 /// The same without quotes.
 std::string Outline::Unquoted(const Json& text) {

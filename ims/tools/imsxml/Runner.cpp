@@ -26,9 +26,7 @@ constexpr int kReported = 64;
 /// What a child reports when nobody takes its output any more.
 constexpr int kOutputLost = kTimeLimit + 1;
 
-void PrintError(const std::string& line) {
-    std::fprintf(stderr, "%s\n", line.c_str());
-}
+void PrintError(const std::string& line) { std::fprintf(stderr, "%s\n", line.c_str()); }
 
 void PrintLedger(const std::string& name) {
     char* text = nullptr;

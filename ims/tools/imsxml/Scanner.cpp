@@ -2,22 +2,16 @@
 
 #include "Text.h"
 
-std::string TagText(std::string_view name) {
-    return '<' + Short(name) + '>';
-}
+std::string TagText(std::string_view name) { return '<' + Short(name) + '>'; }
 
-std::string QuotedText(std::string_view text) {
-    return '"' + Short(text) + '"';
-}
+std::string QuotedText(std::string_view text) { return '"' + Short(text) + '"'; }
 
 std::string_view RootElement::Prefix() const {
     const std::size_t colon = name.find(':');
     return colon == std::string::npos ? std::string_view() : std::string_view(name).substr(0, colon);
 }
 
-std::string_view OpenElement::Local() const {
-    return std::string_view(name).substr(name.find(':') + 1);
-}
+std::string_view OpenElement::Local() const { return std::string_view(name).substr(name.find(':') + 1); }
 
 std::optional<std::string> RootElement::Namespace() const {
     const std::string declaration = Prefix().empty() ? "xmlns" : "xmlns:" + std::string(Prefix());
@@ -27,9 +21,7 @@ std::optional<std::string> RootElement::Namespace() const {
     return std::nullopt;
 }
 
-Scanner::Scanner(const std::string& text) : m_text(text) {
-    m_tokenizer.SetSchemaDecoder(this);
-}
+Scanner::Scanner(const std::string& text) : m_text(text) { m_tokenizer.SetSchemaDecoder(this); }
 
 bool Scanner::FindRoot() {
     while (!m_root && Next()) {

@@ -9,15 +9,11 @@ bool IsControl(unsigned code) {
            (code >= 0x2066 && code <= 0x2069);
 }
 
-bool IsTail(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U;
-}
+bool IsTail(char byte) { return (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U; }
 
 }  // namespace
 
-std::string_view TrimEnd(std::string_view text) {
-    return text.substr(0, text.find_last_not_of(kSpaces) + 1);
-}
+std::string_view TrimEnd(std::string_view text) { return text.substr(0, text.find_last_not_of(kSpaces) + 1); }
 
 std::string WithBlanks(std::string_view text) {
     std::string result(text);

@@ -17,9 +17,7 @@ inline bool Ends(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
-inline bool Has(std::string_view text, std::string_view part) {
-    return text.find(part) != std::string_view::npos;
-}
+inline bool Has(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
 
 /// Without the white space at its end: the tokenizer leaves it between the name of an attribute and the "=".
 std::string_view TrimEnd(std::string_view text);

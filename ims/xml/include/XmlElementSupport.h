@@ -47,9 +47,7 @@ const Element* ixAs(const XMLElement* element) {
 }
 
 /// True for an object that has no class name, which a hook answers with 1 and does not take.
-inline bool ixIsNameless(const XMLElement* element) {
-    return element != nullptr && element->ClassName() == nullptr;
-}
+inline bool ixIsNameless(const XMLElement* element) { return element != nullptr && element->ClassName() == nullptr; }
 
 /// `attribute` as a pair, or NULL when it is none.
 IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);

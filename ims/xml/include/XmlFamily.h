@@ -539,23 +539,15 @@ class IX_XML_EXPORT XmlBinderContext : public XmlFamilyContext {
 };
 
 /// The objects of a schema that is only read: what its context creates, and the constants of its unmarshaller.
-#define IX_READING_FAMILY(context, unMarshaller, binderFactory) \
-    XmlFamilyUnMarshaller* context::NewUnMarshaller() {         \
-        return IX_NEW(unMarshaller);                            \
-    }                                                           \
-    XMLObjectFactory* context::NewBinderFactory() {             \
-        return IX_NEW(binderFactory);                           \
-    }                                                           \
-    const XmlUnMarshallerInfo& unMarshaller::Info() const {     \
-        return kUnMarshallerInfo;                               \
-    }                                                           \
+#define IX_READING_FAMILY(context, unMarshaller, binderFactory)                         \
+    XmlFamilyUnMarshaller* context::NewUnMarshaller() { return IX_NEW(unMarshaller); }  \
+    XMLObjectFactory* context::NewBinderFactory() { return IX_NEW(binderFactory); }     \
+    const XmlUnMarshallerInfo& unMarshaller::Info() const { return kUnMarshallerInfo; } \
     static_assert(true, "takes the semicolon")
 
 /// The same of a schema that is written, too.
-#define IX_FAMILY(context, marshaller, unMarshaller, binderFactory) \
-    XmlFamilyMarshaller* context::NewMarshaller() {                 \
-        return IX_NEW(marshaller);                                  \
-    }                                                               \
+#define IX_FAMILY(context, marshaller, unMarshaller, binderFactory)              \
+    XmlFamilyMarshaller* context::NewMarshaller() { return IX_NEW(marshaller); } \
     IX_READING_FAMILY(context, unMarshaller, binderFactory)
 /// @}
 

@@ -41,6 +41,4 @@ constexpr XmlDecoderInfo kInfo = Info();
 
 XMLGruuDecoder::XMLGruuDecoder() : XmlFamilyDecoder(kInfo) {}
 
-int XMLGruuDecoder::OtherElement(char* /*name*/, char* /*text*/) {
-    return 0;
-}
+int XMLGruuDecoder::OtherElement(char* /*name*/, char* /*text*/) { return 0; }

@@ -28,9 +28,7 @@ int XMLMediaControlDecoder::ProcessElement(char* element, char* text) {
     return XmlFamilyDecoder::ProcessElement(element, text);
 }
 
-int XMLMediaControlDecoder::ProcessAttribute(char* /*element*/, char* /*attribute*/, char* /*value*/) {
-    return 0;
-}
+int XMLMediaControlDecoder::ProcessAttribute(char* /*element*/, char* /*attribute*/, char* /*value*/) { return 0; }
 
 int XMLMediaControlDecoder::StartElement(char* name) {
     if (!ixNameIs(name, IX_STR_PICTURE_FAST_UPDATE)) return XmlFamilyDecoder::StartElement(name);

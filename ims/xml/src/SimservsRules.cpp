@@ -6,13 +6,9 @@
 
 namespace {
 
-constexpr XmlKnownName Policy(e_XmlStrRef local) {
-    return {local, XmlKnownName::Required, IX_STR_CP};
-}
+constexpr XmlKnownName Policy(e_XmlStrRef local) { return {local, XmlKnownName::Required, IX_STR_CP}; }
 
-constexpr XmlKnownName Service(e_XmlStrRef local) {
-    return {local, XmlKnownName::Optional, IX_STR_SS};
-}
+constexpr XmlKnownName Service(e_XmlStrRef local) { return {local, XmlKnownName::Optional, IX_STR_SS}; }
 
 constexpr const char* kFlag = ix_empty_element_type::kClassName;
 

@@ -41,13 +41,9 @@ constexpr XmlFieldTable kTable = {nullptr, kFields, std::size(kFields)};
 
 }  // namespace
 
-ix_bootstrappinginfo::~ix_bootstrappinginfo() {
-    XmlFields::Release(this, kTable);
-}
+ix_bootstrappinginfo::~ix_bootstrappinginfo() { XmlFields::Release(this, kTable); }
 
-const XmlFieldTable* ix_bootstrappinginfo::FieldTable() const {
-    return &kTable;
-}
+const XmlFieldTable* ix_bootstrappinginfo::FieldTable() const { return &kTable; }
 
 int ix_bootstrappinginfo::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_BTID)) return child == nullptr ? setBtidValue(text) : 0;
@@ -62,9 +58,7 @@ int ix_bootstrappinginfo::addAnyElement(XMLElement* element) {
     return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
 }
 
-XMLElement* BootstrappingInfoDataBinder::CreateRootElement() {
-    return IX_NEW(ix_bootstrappinginfo);
-}
+XMLElement* BootstrappingInfoDataBinder::CreateRootElement() { return IX_NEW(ix_bootstrappinginfo); }
 
 BootstrappingInfoMarshaller::BootstrappingInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

@@ -38,13 +38,9 @@ constexpr XmlFieldTable kRootTable = {nullptr, kRootFields, std::size(kRootField
 
 }  // namespace
 
-ix_alternative_service::~ix_alternative_service() {
-    XmlFields::Release(this, kServiceTable);
-}
+ix_alternative_service::~ix_alternative_service() { XmlFields::Release(this, kServiceTable); }
 
-const XmlFieldTable* ix_alternative_service::FieldTable() const {
-    return &kServiceTable;
-}
+const XmlFieldTable* ix_alternative_service::FieldTable() const { return &kServiceTable; }
 
 int ix_alternative_service::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     ixLog(kSourceFile, kServiceHook);
@@ -59,13 +55,9 @@ int ix_alternative_service::ProcessUnMarshallAttribute(char* /*attribute*/, char
     return 1;
 }
 
-ix_ims_3gpp::~ix_ims_3gpp() {
-    XmlFields::Release(this, kRootTable);
-}
+ix_ims_3gpp::~ix_ims_3gpp() { XmlFields::Release(this, kRootTable); }
 
-const XmlFieldTable* ix_ims_3gpp::FieldTable() const {
-    return &kRootTable;
-}
+const XmlFieldTable* ix_ims_3gpp::FieldTable() const { return &kRootTable; }
 
 int ix_ims_3gpp::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     ixLog(kSourceFile, kRootHook);
@@ -74,13 +66,9 @@ int ix_ims_3gpp::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return ixTakeChild(mAlternativeService, child);
 }
 
-const char* ix_ims_3gpp::SourceFile() const {
-    return kSourceFile;
-}
+const char* ix_ims_3gpp::SourceFile() const { return kSourceFile; }
 
-XMLElement* CWIndicationDataBinder::CreateRootElement() {
-    return IX_NEW(ix_ims_3gpp);
-}
+XMLElement* CWIndicationDataBinder::CreateRootElement() { return IX_NEW(ix_ims_3gpp); }
 
 ix_alternative_service* CWIndicationDataBinder::CreateAlternativeServiceElement() {
     return IX_NEW(ix_alternative_service);

@@ -59,9 +59,7 @@ ix_ns_call_waiting_indication_action::~ix_ns_call_waiting_indication_action() {
     XmlFields::Release(this, kActionTable);
 }
 
-const XmlFieldTable* ix_ns_call_waiting_indication_action::FieldTable() const {
-    return &kActionTable;
-}
+const XmlFieldTable* ix_ns_call_waiting_indication_action::FieldTable() const { return &kActionTable; }
 
 int ix_ns_call_waiting_indication_action::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     ixLog(kSourceFile, kActionHook);
@@ -79,9 +77,7 @@ ix_ns_call_waiting_indication_alternative_service::~ix_ns_call_waiting_indicatio
     XmlFields::Release(this, kServiceTable);
 }
 
-const XmlFieldTable* ix_ns_call_waiting_indication_alternative_service::FieldTable() const {
-    return &kServiceTable;
-}
+const XmlFieldTable* ix_ns_call_waiting_indication_alternative_service::FieldTable() const { return &kServiceTable; }
 
 int ix_ns_call_waiting_indication_alternative_service::ProcessUnMarshall(char* name, char* /*text*/,
                                                                          XMLElement* child) {
@@ -96,13 +92,9 @@ int ix_ns_call_waiting_indication_alternative_service::ProcessUnMarshallAttribut
     return 1;
 }
 
-ix_3gpp_ims::~ix_3gpp_ims() {
-    XmlFields::Release(this, kRootTable);
-}
+ix_3gpp_ims::~ix_3gpp_ims() { XmlFields::Release(this, kRootTable); }
 
-const XmlFieldTable* ix_3gpp_ims::FieldTable() const {
-    return &kRootTable;
-}
+const XmlFieldTable* ix_3gpp_ims::FieldTable() const { return &kRootTable; }
 
 int ix_3gpp_ims::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     ixLog(kSourceFile, kRootHook);
@@ -110,13 +102,9 @@ int ix_3gpp_ims::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child
     return ixTakeChild(mAlternativeService, child);
 }
 
-const char* ix_3gpp_ims::SourceFile() const {
-    return kSourceFile;
-}
+const char* ix_3gpp_ims::SourceFile() const { return kSourceFile; }
 
-XMLElement* CallWaitingIndicationDataBinder::CreateRootElement() {
-    return IX_NEW(ix_3gpp_ims);
-}
+XMLElement* CallWaitingIndicationDataBinder::CreateRootElement() { return IX_NEW(ix_3gpp_ims); }
 
 ix_ns_call_waiting_indication_alternative_service* CallWaitingIndicationDataBinder::CreateAlternativeServiceElement() {
     return IX_NEW(ix_ns_call_waiting_indication_alternative_service);

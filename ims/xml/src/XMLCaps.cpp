@@ -44,13 +44,9 @@ int FlagOf(const char* text) {
 
 }  // namespace
 
-ix_ns_caps_duplextypes::~ix_ns_caps_duplextypes() {
-    XmlFields::Release(this, kDuplexTypesTable);
-}
+ix_ns_caps_duplextypes::~ix_ns_caps_duplextypes() { XmlFields::Release(this, kDuplexTypesTable); }
 
-const XmlFieldTable* ix_ns_caps_duplextypes::FieldTable() const {
-    return &kDuplexTypesTable;
-}
+const XmlFieldTable* ix_ns_caps_duplextypes::FieldTable() const { return &kDuplexTypesTable; }
 
 int ix_ns_caps_duplextypes::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_FULL)) return SetTextObject(mFull, text);
@@ -64,13 +60,9 @@ int ix_ns_caps_duplextypes::addAnyElement(XMLElement* element) {
     return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
 }
 
-ix_ns_caps_duplextype::~ix_ns_caps_duplextype() {
-    XmlFields::Release(this, kDuplexTable);
-}
+ix_ns_caps_duplextype::~ix_ns_caps_duplextype() { XmlFields::Release(this, kDuplexTable); }
 
-const XmlFieldTable* ix_ns_caps_duplextype::FieldTable() const {
-    return &kDuplexTable;
-}
+const XmlFieldTable* ix_ns_caps_duplextype::FieldTable() const { return &kDuplexTable; }
 
 int ix_ns_caps_duplextype::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (ixNameIs(name, IX_STR_SUPPORTED)) return ixTakeChild(mSupported, child);
@@ -80,13 +72,9 @@ int ix_ns_caps_duplextype::ProcessUnMarshall(char* name, char* /*text*/, XMLElem
     return child == nullptr ? 1 : 0;
 }
 
-ix_ns_caps_servcaps::~ix_ns_caps_servcaps() {
-    XmlFields::Release(this, kServcapsTable);
-}
+ix_ns_caps_servcaps::~ix_ns_caps_servcaps() { XmlFields::Release(this, kServcapsTable); }
 
-const XmlFieldTable* ix_ns_caps_servcaps::FieldTable() const {
-    return &kServcapsTable;
-}
+const XmlFieldTable* ix_ns_caps_servcaps::FieldTable() const { return &kServcapsTable; }
 
 int ix_ns_caps_servcaps::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_AUDIO)) return setAudioValue(FlagOf(text));

@@ -31,13 +31,9 @@ constexpr XmlFieldTable kDocumentTable = {nullptr, kDocumentFields, std::size(kD
 
 }  // namespace
 
-ix_parm::~ix_parm() {
-    XmlFields::Release(this, kParmTable);
-}
+ix_parm::~ix_parm() { XmlFields::Release(this, kParmTable); }
 
-const XmlFieldTable* ix_parm::FieldTable() const {
-    return &kParmTable;
-}
+const XmlFieldTable* ix_parm::FieldTable() const { return &kParmTable; }
 
 int ix_parm::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_NAME)) return ixTakeText(mName, text, child);
@@ -45,21 +41,13 @@ int ix_parm::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return 1;
 }
 
-int ix_parm::setParmName(const char* name) {
-    return ixTakeText(mName, name, nullptr);
-}
+int ix_parm::setParmName(const char* name) { return ixTakeText(mName, name, nullptr); }
 
-int ix_parm::setParmValue(const char* value) {
-    return ixTakeText(mValue, value, nullptr);
-}
+int ix_parm::setParmValue(const char* value) { return ixTakeText(mValue, value, nullptr); }
 
-ix_characteristic::~ix_characteristic() {
-    XmlFields::Release(this, kCharacteristicTable);
-}
+ix_characteristic::~ix_characteristic() { XmlFields::Release(this, kCharacteristicTable); }
 
-const XmlFieldTable* ix_characteristic::FieldTable() const {
-    return &kCharacteristicTable;
-}
+const XmlFieldTable* ix_characteristic::FieldTable() const { return &kCharacteristicTable; }
 
 int ix_characteristic::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_TYPE)) return ixTakeText(mType, text, child);
@@ -70,17 +58,11 @@ int ix_characteristic::ProcessUnMarshall(char* name, char* text, XMLElement* chi
     return 1;
 }
 
-int ix_characteristic::setTypeValue(const char* type) {
-    return ixTakeText(mType, type, nullptr);
-}
+int ix_characteristic::setTypeValue(const char* type) { return ixTakeText(mType, type, nullptr); }
 
-int ix_characteristic::setParmList(IxSingleElementList* list) {
-    return ixSetElementList(mParmList, list);
-}
+int ix_characteristic::setParmList(IxSingleElementList* list) { return ixSetElementList(mParmList, list); }
 
-int ix_characteristic::addParm(ix_parm* parm) {
-    return ixAppend(mParmList, parm, kSourceFile, __LINE__);
-}
+int ix_characteristic::addParm(ix_parm* parm) { return ixAppend(mParmList, parm, kSourceFile, __LINE__); }
 
 int ix_characteristic::setCharacteristicList(IxSingleElementList* list) {
     return ixSetElementList(mCharacteristicList, list);
@@ -90,13 +72,9 @@ int ix_characteristic::addCharacteristic(ix_characteristic* characteristic) {
     return ixAppend(mCharacteristicList, characteristic, kSourceFile, __LINE__);
 }
 
-ix_characteristicDocType::~ix_characteristicDocType() {
-    XmlFields::Release(this, kDocumentTable);
-}
+ix_characteristicDocType::~ix_characteristicDocType() { XmlFields::Release(this, kDocumentTable); }
 
-const XmlFieldTable* ix_characteristicDocType::FieldTable() const {
-    return &kDocumentTable;
-}
+const XmlFieldTable* ix_characteristicDocType::FieldTable() const { return &kDocumentTable; }
 
 int ix_characteristicDocType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_VERSION)) return ixTakeText(mVersion, text, child);
@@ -107,9 +85,7 @@ int ix_characteristicDocType::ProcessUnMarshall(char* name, char* text, XMLEleme
     return ixNameIs(name, kParmName) && child != nullptr ? 0 : 1;
 }
 
-int ix_characteristicDocType::setVersionValue(const char* version) {
-    return ixTakeText(mVersion, version, nullptr);
-}
+int ix_characteristicDocType::setVersionValue(const char* version) { return ixTakeText(mVersion, version, nullptr); }
 
 int ix_characteristicDocType::setCharacteristicList(IxSingleElementList* list) {
     return ixSetElementList(mCharacteristicList, list);
@@ -119,14 +95,8 @@ int ix_characteristicDocType::addCharacteristic(ix_characteristic* characteristi
     return ixAppend(mCharacteristicList, characteristic, kSourceFile, __LINE__);
 }
 
-ix_characteristic* XmlCharacteristicDataBinder::CreateCharacteristic() {
-    return IX_NEW(ix_characteristic);
-}
+ix_characteristic* XmlCharacteristicDataBinder::CreateCharacteristic() { return IX_NEW(ix_characteristic); }
 
-ix_parm* XmlCharacteristicDataBinder::CreateParm() {
-    return IX_NEW(ix_parm);
-}
+ix_parm* XmlCharacteristicDataBinder::CreateParm() { return IX_NEW(ix_parm); }
 
-char* XmlCharacteristicMarshaller::Marshall(XMLElement* /*root*/) {
-    return nullptr;
-}
+char* XmlCharacteristicMarshaller::Marshall(XMLElement* /*root*/) { return nullptr; }

@@ -31,9 +31,7 @@ void DeletePair(void* entry, IxSingleElementList& /*list*/) {
     IX_DELETE(pair);
 }
 
-void DeleteText(void* entry, IxSingleElementList& /*list*/) {
-    FreeElement(entry);
-}
+void DeleteText(void* entry, IxSingleElementList& /*list*/) { FreeElement(entry); }
 
 /// Hands every entry to `end`, which may append to the list, then deletes the list.
 void DeleteList(IxSingleElementList* list, void (*end)(void* entry, IxSingleElementList& list)) {
@@ -48,41 +46,23 @@ void DeleteList(IxSingleElementList* list, void (*end)(void* entry, IxSingleElem
 
 }  // namespace
 
-int XMLElement::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) {
-    return 1;
-}
+int XMLElement::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) { return 1; }
 
-int XMLElement::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* /*pair*/) {
-    return 1;
-}
+int XMLElement::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* /*pair*/) { return 1; }
 
-const XmlFieldTable* XMLElement::FieldTable() const {
-    return nullptr;
-}
+const XmlFieldTable* XMLElement::FieldTable() const { return nullptr; }
 
-ix_string::~ix_string() {
-    XmlFields::Release(this, kStringTable);
-}
+ix_string::~ix_string() { XmlFields::Release(this, kStringTable); }
 
-const XmlFieldTable* ix_string::FieldTable() const {
-    return &kStringTable;
-}
+const XmlFieldTable* ix_string::FieldTable() const { return &kStringTable; }
 
-int ix_string::setValueValue(const char* value) {
-    return ixSetText(mValue, value);
-}
+int ix_string::setValueValue(const char* value) { return ixSetText(mValue, value); }
 
-ix_empty_element_type::~ix_empty_element_type() {
-    XmlFields::Release(this, kEmptyElementTable);
-}
+ix_empty_element_type::~ix_empty_element_type() { XmlFields::Release(this, kEmptyElementTable); }
 
-const XmlFieldTable* ix_empty_element_type::FieldTable() const {
-    return &kEmptyElementTable;
-}
+const XmlFieldTable* ix_empty_element_type::FieldTable() const { return &kEmptyElementTable; }
 
-int ix_empty_element_type::setNameValue(const char* name) {
-    return ixSetText(mName, name);
-}
+int ix_empty_element_type::setNameValue(const char* name) { return ixSetText(mName, name); }
 
 int ix_empty_element_type::setPresentValue(int present) {
     mPresent = present;
@@ -94,13 +74,9 @@ ix_AttributeValuePair::~ix_AttributeValuePair() {
     __free(mValue);
 }
 
-int ix_AttributeValuePair::setNameValue(const char* name) {
-    return ixSetText(mName, name);
-}
+int ix_AttributeValuePair::setNameValue(const char* name) { return ixSetText(mName, name); }
 
-int ix_AttributeValuePair::setValueValue(const char* value) {
-    return ixSetText(mValue, value);
-}
+int ix_AttributeValuePair::setValueValue(const char* value) { return ixSetText(mValue, value); }
 
 ix_xml_common_array_definition* ix_xml_common_array_definition::m_pXmlStrRef = nullptr;
 
@@ -119,17 +95,11 @@ void FreeElement(void* text) {
     if (text != nullptr) __free(text);
 }
 
-void ix_xml_common_methods::DeleteElementList(IxSingleElementList* list) {
-    DeleteList(list, DeleteElement);
-}
+void ix_xml_common_methods::DeleteElementList(IxSingleElementList* list) { DeleteList(list, DeleteElement); }
 
-void ix_xml_common_methods::DeleteAttributeList(IxSingleElementList* list) {
-    DeleteList(list, DeletePair);
-}
+void ix_xml_common_methods::DeleteAttributeList(IxSingleElementList* list) { DeleteList(list, DeletePair); }
 
-void ix_xml_common_methods::DeleteTextList(IxSingleElementList* list) {
-    DeleteList(list, DeleteText);
-}
+void ix_xml_common_methods::DeleteTextList(IxSingleElementList* list) { DeleteList(list, DeleteText); }
 
 const char ix_xml_common_array_definition::arrXmlStrRef[kXmlStrRefCount][100] = {
     "IX_NULL",

@@ -101,9 +101,7 @@ ix_ns_common_policy_extensibleType::~ix_ns_common_policy_extensibleType() {
     XmlFields::Release(this, kExtensibleTable);
 }
 
-const XmlFieldTable* ix_ns_common_policy_extensibleType::FieldTable() const {
-    return &kExtensibleTable;
-}
+const XmlFieldTable* ix_ns_common_policy_extensibleType::FieldTable() const { return &kExtensibleTable; }
 
 int ix_ns_common_policy_extensibleType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return name == nullptr ? 1 : TakeAny(mElementList, name, text, child, __LINE__);
@@ -113,13 +111,9 @@ int ix_ns_common_policy_extensibleType::addElement(XMLElement* element) {
     return ixAppend(mElementList, element, kSourceFile, __LINE__);
 }
 
-ix_ns_common_policy_exceptType::~ix_ns_common_policy_exceptType() {
-    XmlFields::Release(this, kExceptTable);
-}
+ix_ns_common_policy_exceptType::~ix_ns_common_policy_exceptType() { XmlFields::Release(this, kExceptTable); }
 
-const XmlFieldTable* ix_ns_common_policy_exceptType::FieldTable() const {
-    return &kExceptTable;
-}
+const XmlFieldTable* ix_ns_common_policy_exceptType::FieldTable() const { return &kExceptTable; }
 
 int ix_ns_common_policy_exceptType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (ixNameIs(attribute, IX_STR_DOMAIN)) return TakeText(mDomain, value, pair);
@@ -127,13 +121,9 @@ int ix_ns_common_policy_exceptType::ProcessUnMarshallAttribute(char* attribute, 
     return 1;
 }
 
-ix_ns_common_policy_oneType::~ix_ns_common_policy_oneType() {
-    XmlFields::Release(this, kOneTable);
-}
+ix_ns_common_policy_oneType::~ix_ns_common_policy_oneType() { XmlFields::Release(this, kOneTable); }
 
-const XmlFieldTable* ix_ns_common_policy_oneType::FieldTable() const {
-    return &kOneTable;
-}
+const XmlFieldTable* ix_ns_common_policy_oneType::FieldTable() const { return &kOneTable; }
 
 int ix_ns_common_policy_oneType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return TakeAny(mExtensionList, name, text, child, __LINE__);
@@ -147,13 +137,9 @@ int ix_ns_common_policy_oneType::addExtension(XMLElement* element) {
     return ixAppend(mExtensionList, element, kSourceFile, __LINE__);
 }
 
-ix_ns_common_policy_manyType::~ix_ns_common_policy_manyType() {
-    XmlFields::Release(this, kManyTable);
-}
+ix_ns_common_policy_manyType::~ix_ns_common_policy_manyType() { XmlFields::Release(this, kManyTable); }
 
-const XmlFieldTable* ix_ns_common_policy_manyType::FieldTable() const {
-    return &kManyTable;
-}
+const XmlFieldTable* ix_ns_common_policy_manyType::FieldTable() const { return &kManyTable; }
 
 int ix_ns_common_policy_manyType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr) return 1;
@@ -174,13 +160,9 @@ int ix_ns_common_policy_manyType::addExtension(XMLElement* element) {
     return ixAppend(mExtensionList, element, kSourceFile, __LINE__);
 }
 
-ix_ns_common_policy_identityType::~ix_ns_common_policy_identityType() {
-    XmlFields::Release(this, kIdentityTable);
-}
+ix_ns_common_policy_identityType::~ix_ns_common_policy_identityType() { XmlFields::Release(this, kIdentityTable); }
 
-const XmlFieldTable* ix_ns_common_policy_identityType::FieldTable() const {
-    return &kIdentityTable;
-}
+const XmlFieldTable* ix_ns_common_policy_identityType::FieldTable() const { return &kIdentityTable; }
 
 int ix_ns_common_policy_identityType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr) return 1;
@@ -203,25 +185,17 @@ int ix_ns_common_policy_identityType::addExtension(XMLElement* element) {
     return ixAppend(mExtensionList, element, kSourceFile, __LINE__);
 }
 
-ix_ns_common_policy_sphereType::~ix_ns_common_policy_sphereType() {
-    XmlFields::Release(this, kSphereTable);
-}
+ix_ns_common_policy_sphereType::~ix_ns_common_policy_sphereType() { XmlFields::Release(this, kSphereTable); }
 
-const XmlFieldTable* ix_ns_common_policy_sphereType::FieldTable() const {
-    return &kSphereTable;
-}
+const XmlFieldTable* ix_ns_common_policy_sphereType::FieldTable() const { return &kSphereTable; }
 
 int ix_ns_common_policy_sphereType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     return ixNameIs(attribute, IX_STR_VALUE) ? TakeText(mValue, value, pair) : 1;
 }
 
-ix_ns_common_policy_validityType::~ix_ns_common_policy_validityType() {
-    XmlFields::Release(this, kValidityTable);
-}
+ix_ns_common_policy_validityType::~ix_ns_common_policy_validityType() { XmlFields::Release(this, kValidityTable); }
 
-const XmlFieldTable* ix_ns_common_policy_validityType::FieldTable() const {
-    return &kValidityTable;
-}
+const XmlFieldTable* ix_ns_common_policy_validityType::FieldTable() const { return &kValidityTable; }
 
 int ix_ns_common_policy_validityType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_FROM)) return TakeString(mFromList, text, child, __LINE__);
@@ -241,9 +215,7 @@ ix_ns_common_policy_conditionsType::~ix_ns_common_policy_conditionsType() {
     XmlFields::Release(this, kConditionsTable);
 }
 
-const XmlFieldTable* ix_ns_common_policy_conditionsType::FieldTable() const {
-    return &kConditionsTable;
-}
+const XmlFieldTable* ix_ns_common_policy_conditionsType::FieldTable() const { return &kConditionsTable; }
 
 int ix_ns_common_policy_conditionsType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr) return 1;
@@ -274,13 +246,9 @@ int ix_ns_common_policy_conditionsType::addOtherCondition(XMLElement* condition)
     return ixAppend(mOtherConditionsList, condition, kSourceFile, __LINE__);
 }
 
-ix_ns_common_policy_ruleType::~ix_ns_common_policy_ruleType() {
-    XmlFields::Release(this, kRuleTable);
-}
+ix_ns_common_policy_ruleType::~ix_ns_common_policy_ruleType() { XmlFields::Release(this, kRuleTable); }
 
-const XmlFieldTable* ix_ns_common_policy_ruleType::FieldTable() const {
-    return &kRuleTable;
-}
+const XmlFieldTable* ix_ns_common_policy_ruleType::FieldTable() const { return &kRuleTable; }
 
 int ix_ns_common_policy_ruleType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (name == nullptr) return 1;
@@ -297,13 +265,9 @@ int ix_ns_common_policy_ruleType::ProcessUnMarshallAttribute(char* attribute, ch
     return ixNameIs(attribute, IX_STR_ID) ? TakeText(mId, value, pair) : 1;
 }
 
-ix_ns_common_policy_ruleset::~ix_ns_common_policy_ruleset() {
-    XmlFields::Release(this, kRulesetTable);
-}
+ix_ns_common_policy_ruleset::~ix_ns_common_policy_ruleset() { XmlFields::Release(this, kRulesetTable); }
 
-const XmlFieldTable* ix_ns_common_policy_ruleset::FieldTable() const {
-    return &kRulesetTable;
-}
+const XmlFieldTable* ix_ns_common_policy_ruleset::FieldTable() const { return &kRulesetTable; }
 
 int ix_ns_common_policy_ruleset::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (name == nullptr) return 1;

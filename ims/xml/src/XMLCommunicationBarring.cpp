@@ -50,22 +50,16 @@ constexpr XmlFieldTable kAllowTable = {nullptr, kAllowFields, std::size(kAllowFi
 
 }  // namespace
 
-ix_allow_action_type::~ix_allow_action_type() {
-    XmlFields::Release(this, kAllowTable);
-}
+ix_allow_action_type::~ix_allow_action_type() { XmlFields::Release(this, kAllowTable); }
 
-const XmlFieldTable* ix_allow_action_type::FieldTable() const {
-    return &kAllowTable;
-}
+const XmlFieldTable* ix_allow_action_type::FieldTable() const { return &kAllowTable; }
 
 int ix_allow_action_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (!ixEndNameIs(name, IX_STR_ALLOW)) return 1;
     return child == nullptr ? setAllowValue(ixNameIs(text, IX_STR_TRUE) ? 1 : 0) : 0;
 }
 
-const char* ix_ns_communication_barringType::SourceFile() const {
-    return kSourceFile;
-}
+const char* ix_ns_communication_barringType::SourceFile() const { return kSourceFile; }
 
 int CommunicationBarringDataBinder::setCBType(XML_COMMUNICATION_BARRING_TYPE type) {
     ixLog(kSourceFile, kSetType, static_cast<int>(type));
@@ -83,13 +77,9 @@ XMLElement* CommunicationBarringDataBinder::CreateRootElement() {
     return nullptr;
 }
 
-ix_allow_action_type* CommunicationBarringDataBinder::CreateAllowTypeElement() {
-    return IX_NEW(ix_allow_action_type);
-}
+ix_allow_action_type* CommunicationBarringDataBinder::CreateAllowTypeElement() { return IX_NEW(ix_allow_action_type); }
 
-const char* CommunicationBarringDataBinder::SourceFile() const {
-    return kSourceFile;
-}
+const char* CommunicationBarringDataBinder::SourceFile() const { return kSourceFile; }
 
 Communication_barringMarshaller::Communication_barringMarshaller() : XmlRuleMarshaller(kMarshallerInfo, kRuleTexts) {}
 

@@ -50,13 +50,9 @@ constexpr XmlFieldTable kOwnDiversionTable = {nullptr, kDiversionFields, 1};
 
 }  // namespace
 
-ix_NoReplyTimer::~ix_NoReplyTimer() {
-    XmlFields::Release(this, kTimerTable);
-}
+ix_NoReplyTimer::~ix_NoReplyTimer() { XmlFields::Release(this, kTimerTable); }
 
-const XmlFieldTable* ix_NoReplyTimer::FieldTable() const {
-    return &kTimerTable;
-}
+const XmlFieldTable* ix_NoReplyTimer::FieldTable() const { return &kTimerTable; }
 
 int ix_NoReplyTimer::setNoReplyTimerValue(unsigned int seconds) {
     if (seconds < kShortestTimer || seconds > kLongestTimer) return 0;
@@ -64,13 +60,9 @@ int ix_NoReplyTimer::setNoReplyTimerValue(unsigned int seconds) {
     return 1;
 }
 
-ix_communication_diversion::~ix_communication_diversion() {
-    XmlFields::Release(this, kOwnDiversionTable);
-}
+ix_communication_diversion::~ix_communication_diversion() { XmlFields::Release(this, kOwnDiversionTable); }
 
-const XmlFieldTable* ix_communication_diversion::FieldTable() const {
-    return &kDiversionTable;
-}
+const XmlFieldTable* ix_communication_diversion::FieldTable() const { return &kDiversionTable; }
 
 int ix_communication_diversion::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (!ixEndNameIs(name, IX_STR_NOREPLYTIMER))
@@ -83,25 +75,17 @@ int ix_communication_diversion::ProcessUnMarshall(char* name, char* text, XMLEle
     return setNoReplyTimerValue(timer);
 }
 
-const char* ix_communication_diversion::SourceFile() const {
-    return kSourceFile;
-}
+const char* ix_communication_diversion::SourceFile() const { return kSourceFile; }
 
-XMLElement* CommunicationDiversionDataBinder::CreateRootElement() {
-    return IX_NEW(ix_communication_diversion);
-}
+XMLElement* CommunicationDiversionDataBinder::CreateRootElement() { return IX_NEW(ix_communication_diversion); }
 
 ix_ns_xcap_forward_to_type* CommunicationDiversionDataBinder::CreateForwardToTypeElement() {
     return IX_NEW(ix_ns_xcap_forward_to_type);
 }
 
-ix_NoReplyTimer* CommunicationDiversionDataBinder::CreateNoReplyTimerElement() {
-    return IX_NEW(ix_NoReplyTimer);
-}
+ix_NoReplyTimer* CommunicationDiversionDataBinder::CreateNoReplyTimerElement() { return IX_NEW(ix_NoReplyTimer); }
 
-const char* CommunicationDiversionDataBinder::SourceFile() const {
-    return kSourceFile;
-}
+const char* CommunicationDiversionDataBinder::SourceFile() const { return kSourceFile; }
 
 Communication_diversionMarshaller::Communication_diversionMarshaller()
     : XmlRuleMarshaller(kMarshallerInfo, kRuleTexts) {}

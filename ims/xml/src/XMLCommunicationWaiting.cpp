@@ -53,9 +53,7 @@ constexpr XmlLogText kAddElement = {2, kSchemaCode, 194, "<XML Module>: AddCommu
 
 }  // namespace
 
-int ix_communication_waiting::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) {
-    return 1;
-}
+int ix_communication_waiting::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) { return 1; }
 
 int ix_communication_waiting::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     // Required: what comes without a pair is taken for the switch. Of the decoder, only that does.
@@ -67,17 +65,11 @@ int ix_communication_waiting::ProcessUnMarshallAttribute(char* attribute, char* 
     return 1;
 }
 
-const char* ix_communication_waiting::SourceFile() const {
-    return kSourceFile;
-}
+const char* ix_communication_waiting::SourceFile() const { return kSourceFile; }
 
-XMLElement* CommunicationWaitingDataBinder::CreateRootElement() {
-    return IX_NEW_AT(403, ix_communication_waiting);
-}
+XMLElement* CommunicationWaitingDataBinder::CreateRootElement() { return IX_NEW_AT(403, ix_communication_waiting); }
 
-const XmlUnMarshallerInfo& CommunicationWaitingUnMarshaller::Info() const {
-    return kUnMarshallerInfo;
-}
+const XmlUnMarshallerInfo& CommunicationWaitingUnMarshaller::Info() const { return kUnMarshallerInfo; }
 
 Communication_waitingMarshaller::Communication_waitingMarshaller() : XmlServiceMarshaller(kMarshallerInfo) {}
 

@@ -108,9 +108,7 @@ const char* BooleanText(int flag) {
 }
 
 /// What a class answers for an element that it does not know: a text is ignored, an object refused.
-int Unknown(const XMLElement* child) {
-    return child == nullptr ? 1 : 0;
-}
+int Unknown(const XMLElement* child) { return child == nullptr ? 1 : 0; }
 
 constexpr XmlField kContainerFields[] = {
     {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_conference_containerType::mExtraAttributeList), 0,
@@ -236,12 +234,8 @@ constexpr XmlField kConferenceFields[] = {
 /// The field table of a class, and the end of its objects, which follows from it.
 #define IX_CONFERENCE_FIELDS(type, base, fields)                                      \
     static constexpr XmlFieldTable type##_table = {&base, fields, std::size(fields)}; \
-    type::~type() {                                                                   \
-        XmlFields::Release(this, type##_table);                                       \
-    }                                                                                 \
-    const XmlFieldTable* type::FieldTable() const {                                   \
-        return &type##_table;                                                         \
-    }
+    type::~type() { XmlFields::Release(this, type##_table); }                         \
+    const XmlFieldTable* type::FieldTable() const { return &type##_table; }
 
 IX_CONFERENCE_FIELDS(ix_execution_type, kContainerTable, kExecutionFields)
 IX_CONFERENCE_FIELDS(ix_uri_type, kContainerTable, kUriFields)
@@ -261,13 +255,9 @@ IX_CONFERENCE_FIELDS(ix_users_type, kStatefulTable, kUsersFields)
 IX_CONFERENCE_FIELDS(ix_sidebars_by_val_type, kStatefulTable, kSidebarsFields)
 IX_CONFERENCE_FIELDS(ix_conference_type, kStatefulTable, kConferenceFields)
 
-ix_conference_containerType::~ix_conference_containerType() {
-    XmlFields::Release(this, kContainerTable);
-}
+ix_conference_containerType::~ix_conference_containerType() { XmlFields::Release(this, kContainerTable); }
 
-const XmlFieldTable* ix_conference_containerType::FieldTable() const {
-    return &kContainerTable;
-}
+const XmlFieldTable* ix_conference_containerType::FieldTable() const { return &kContainerTable; }
 
 int ix_conference_containerType::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* pair) {
     ix_AttributeValuePair* const extra = ixAsPair(pair);
@@ -278,9 +268,7 @@ int ix_conference_containerType::addExtraAttribute(ix_AttributeValuePair* pair) 
     return ixAppend(mExtraAttributeList, pair, kSourceFile, __LINE__);
 }
 
-const XmlFieldTable* ix_conference_statefulType::FieldTable() const {
-    return &kStatefulTable;
-}
+const XmlFieldTable* ix_conference_statefulType::FieldTable() const { return &kStatefulTable; }
 
 int ix_conference_statefulType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair == nullptr && ixNameIs(attribute, IX_STR_STATE)) return setStateValue(kStates.IndexOfPrefix(value));
@@ -307,9 +295,7 @@ int ix_uris_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* chil
     return Unknown(child);
 }
 
-int ix_uris_type::addEntry(ix_uri_type* entry) {
-    return ixAppend(mEntryList, entry, kSourceFile, __LINE__);
-}
+int ix_uris_type::addEntry(ix_uri_type* entry) { return ixAppend(mEntryList, entry, kSourceFile, __LINE__); }
 
 int ix_conference_medium_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
@@ -345,9 +331,7 @@ int ix_conference_description_type::ProcessUnMarshall(char* name, char* text, XM
     return Unknown(child);
 }
 
-int ix_conference_description_type::addKeyword(const char* keyword) {
-    return AppendWord(mKeywords, keyword);
-}
+int ix_conference_description_type::addKeyword(const char* keyword) { return AppendWord(mKeywords, keyword); }
 
 int ix_host_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
@@ -368,9 +352,7 @@ int ix_user_roles_type::ProcessUnMarshall(char* name, char* text, XMLElement* ch
     return Unknown(child);
 }
 
-int ix_user_roles_type::addEntry(const char* role) {
-    return AppendWord(mEntryList, role);
-}
+int ix_user_roles_type::addEntry(const char* role) { return AppendWord(mEntryList, role); }
 
 int ix_sip_dialog_id_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
@@ -419,9 +401,7 @@ int ix_endpoint_type::ProcessUnMarshallAttribute(char* attribute, char* value, X
     return ix_conference_statefulType::ProcessUnMarshallAttribute(attribute, value, pair);
 }
 
-int ix_endpoint_type::addMedia(ix_media_type* media) {
-    return ixAppend(mMediaList, media, kSourceFile, __LINE__);
-}
+int ix_endpoint_type::addMedia(ix_media_type* media) { return ixAppend(mMediaList, media, kSourceFile, __LINE__); }
 
 int ix_user_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
@@ -439,9 +419,7 @@ int ix_user_type::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAt
     return ix_conference_statefulType::ProcessUnMarshallAttribute(attribute, value, pair);
 }
 
-int ix_user_type::addLanguage(const char* language) {
-    return AppendWord(mLanguages, language);
-}
+int ix_user_type::addLanguage(const char* language) { return AppendWord(mLanguages, language); }
 
 int ix_user_type::addEndpoint(ix_endpoint_type* endpoint) {
     return ixAppend(mEndpointList, endpoint, kSourceFile, __LINE__);
@@ -452,9 +430,7 @@ int ix_users_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* chi
     return Unknown(child);
 }
 
-int ix_users_type::addUser(ix_user_type* user) {
-    return ixAppend(mUserList, user, kSourceFile, __LINE__);
-}
+int ix_users_type::addUser(ix_user_type* user) { return ixAppend(mUserList, user, kSourceFile, __LINE__); }
 
 int ix_sidebars_by_val_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (ixNameIs(name, IX_STR_ENTRY)) return ixTakeInto<ix_conference_type>(mEntryList, child, kSourceFile, __LINE__);
@@ -481,15 +457,11 @@ int ix_conference_type::ProcessUnMarshallAttribute(char* attribute, char* value,
     return ix_conference_statefulType::ProcessUnMarshallAttribute(attribute, value, pair);
 }
 
-XMLElement* ConferenceInfoDataBinder::CreateRootElement() {
-    return CreateConferenceInfoType();
-}
+XMLElement* ConferenceInfoDataBinder::CreateRootElement() { return CreateConferenceInfoType(); }
 
 /// A creator of the binder factory.
-#define IX_CONFERENCE_CREATOR(operation, type)    \
-    type* ConferenceInfoDataBinder::operation() { \
-        return IX_NEW(type);                      \
-    }
+#define IX_CONFERENCE_CREATOR(operation, type) \
+    type* ConferenceInfoDataBinder::operation() { return IX_NEW(type); }
 
 IX_CONFERENCE_CREATOR(CreateConferenceInfoType, ix_conference_type)
 IX_CONFERENCE_CREATOR(CreateUserRolesType, ix_user_roles_type)

@@ -91,9 +91,7 @@ constexpr XmlSchemaInfo kSchemas[] = {
 
 }  // namespace
 
-int XMLMarshaller::IsTruncated() const {
-    return 0;
-}
+int XMLMarshaller::IsTruncated() const { return 0; }
 
 XMLContext::~XMLContext() {
     IX_DELETE(m_pMarshaller);
@@ -101,22 +99,16 @@ XMLContext::~XMLContext() {
     IX_DELETE(m_pBinderFactory);
 }
 
-int XMLContext::SetNamespaceBinder(XMLObject* /*binder*/) {
-    return 0;
-}
+int XMLContext::SetNamespaceBinder(XMLObject* /*binder*/) { return 0; }
 
 XMLContext* XMLFactory::newInstance(eXMLSchemaID id) {
     const XmlSchemaInfo* const schema = SchemaInfo(id);
     return schema != nullptr ? schema->create() : nullptr;
 }
 
-void XMLFactory::deleteContext(XMLContext* context) {
-    IX_DELETE(context);
-}
+void XMLFactory::deleteContext(XMLContext* context) { IX_DELETE(context); }
 
-void XMLFactory::DeleteElement(XMLElement* element) {
-    IX_DELETE(element);
-}
+void XMLFactory::DeleteElement(XMLElement* element) { IX_DELETE(element); }
 
 const XmlSchemaInfo* XMLFactory::SchemaInfo(int id) {
     for (const XmlSchemaInfo& schema : kSchemas) {

@@ -54,13 +54,9 @@ constexpr XmlFieldTable kFileTable = {nullptr, kFileFields, std::size(kFileField
 
 }  // namespace
 
-ix_ns_ft_data::~ix_ns_ft_data() {
-    XmlFields::Release(this, kDataTable);
-}
+ix_ns_ft_data::~ix_ns_ft_data() { XmlFields::Release(this, kDataTable); }
 
-const XmlFieldTable* ix_ns_ft_data::FieldTable() const {
-    return &kDataTable;
-}
+const XmlFieldTable* ix_ns_ft_data::FieldTable() const { return &kDataTable; }
 
 int ix_ns_ft_data::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     ixLog(kSourceFile, kDataAttribute);
@@ -70,13 +66,9 @@ int ix_ns_ft_data::ProcessUnMarshallAttribute(char* attribute, char* value, XMLA
     return 1;
 }
 
-ix_ns_ft_file_info::~ix_ns_ft_file_info() {
-    XmlFields::Release(this, kFileInfoTable);
-}
+ix_ns_ft_file_info::~ix_ns_ft_file_info() { XmlFields::Release(this, kFileInfoTable); }
 
-const XmlFieldTable* ix_ns_ft_file_info::FieldTable() const {
-    return &kFileInfoTable;
-}
+const XmlFieldTable* ix_ns_ft_file_info::FieldTable() const { return &kFileInfoTable; }
 
 int ix_ns_ft_file_info::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     ixLog(kSourceFile, kFileInfoOffered);
@@ -96,13 +88,9 @@ int ix_ns_ft_file_info::setFileSizeValue(unsigned int size) {
     return 1;
 }
 
-ix_file::~ix_file() {
-    XmlFields::Release(this, kFileTable);
-}
+ix_file::~ix_file() { XmlFields::Release(this, kFileTable); }
 
-const XmlFieldTable* ix_file::FieldTable() const {
-    return &kFileTable;
-}
+const XmlFieldTable* ix_file::FieldTable() const { return &kFileTable; }
 
 int ix_file::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     ixLog(kSourceFile, kFileOffered);
@@ -117,21 +105,13 @@ int ix_file::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XM
     return 1;
 }
 
-int ix_file::addFileInfo(ix_ns_ft_file_info* info) {
-    return ixAppend(mFileInfoList, info, kSourceFile, __LINE__);
-}
+int ix_file::addFileInfo(ix_ns_ft_file_info* info) { return ixAppend(mFileInfoList, info, kSourceFile, __LINE__); }
 
-XMLElement* FileDataBinder::CreateRootElement() {
-    return IX_NEW(ix_file);
-}
+XMLElement* FileDataBinder::CreateRootElement() { return IX_NEW(ix_file); }
 
-ix_ns_ft_file_info* FileDataBinder::CreateFileInfoElement() {
-    return IX_NEW(ix_ns_ft_file_info);
-}
+ix_ns_ft_file_info* FileDataBinder::CreateFileInfoElement() { return IX_NEW(ix_ns_ft_file_info); }
 
-ix_ns_ft_data* FileDataBinder::CreateDataElement() {
-    return IX_NEW(ix_ns_ft_data);
-}
+ix_ns_ft_data* FileDataBinder::CreateDataElement() { return IX_NEW(ix_ns_ft_data); }
 
 FileMarshaller::FileMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

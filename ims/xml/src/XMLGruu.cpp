@@ -72,19 +72,13 @@ constexpr XmlField kTempGruuFields[] = {
 constexpr XmlFieldTable kTempGruuTable = {&kGruuTable, kTempGruuFields, std::size(kTempGruuFields)};
 
 /// True when `text` is a leading part of `word`.
-bool Begins(const char* word, const char* text) {
-    return __strncmp(word, text, __strlen(text)) == 0;
-}
+bool Begins(const char* word, const char* text) { return __strncmp(word, text, __strlen(text)) == 0; }
 
 }  // namespace
 
-ix_gruuType::~ix_gruuType() {
-    XmlFields::Release(this, kGruuTable);
-}
+ix_gruuType::~ix_gruuType() { XmlFields::Release(this, kGruuTable); }
 
-const XmlFieldTable* ix_gruuType::FieldTable() const {
-    return &kGruuTable;
-}
+const XmlFieldTable* ix_gruuType::FieldTable() const { return &kGruuTable; }
 
 int ix_gruuType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (ixNameIs(attribute, IX_STR_URI)) return pair == nullptr ? setUriValue(value) : 0;
@@ -92,17 +86,11 @@ int ix_gruuType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAtt
     return 0;
 }
 
-int ix_gruuType::setUriValue(const char* uri) {
-    return ixSetText(mUri, uri);
-}
+int ix_gruuType::setUriValue(const char* uri) { return ixSetText(mUri, uri); }
 
-void ix_pub_gruu::LogRefusal() const {
-    ixLog(kSourceFile, kPubRefused);
-}
+void ix_pub_gruu::LogRefusal() const { ixLog(kSourceFile, kPubRefused); }
 
-const XmlFieldTable* ix_temp_gruu::FieldTable() const {
-    return &kTempGruuTable;
-}
+const XmlFieldTable* ix_temp_gruu::FieldTable() const { return &kTempGruuTable; }
 
 int ix_temp_gruu::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair == nullptr && ixNameIs(attribute, IX_STR_FIRST_CSEQ)) return setFirstCseqValue(__atoi64(value));
@@ -114,25 +102,15 @@ int ix_temp_gruu::setFirstCseqValue(std::int64_t firstCseq) {
     return 1;
 }
 
-void ix_temp_gruu::LogRefusal() const {
-    ixLog(kSourceFile, kTempRefused);
-}
+void ix_temp_gruu::LogRefusal() const { ixLog(kSourceFile, kTempRefused); }
 
-void ix_ns_gruuinfo_pubGruu::LogRefusal() const {
-    ixLog(kSourceFile, kInnerPubRefused);
-}
+void ix_ns_gruuinfo_pubGruu::LogRefusal() const { ixLog(kSourceFile, kInnerPubRefused); }
 
-void ix_ns_gruuinfo_tempGruu::LogRefusal() const {
-    ixLog(kSourceFile, kInnerTempRefused);
-}
+void ix_ns_gruuinfo_tempGruu::LogRefusal() const { ixLog(kSourceFile, kInnerTempRefused); }
 
-GruuDataBinder::~GruuDataBinder() {
-    __free(m_pGruutype);
-}
+GruuDataBinder::~GruuDataBinder() { __free(m_pGruutype); }
 
-int GruuDataBinder::setGruutypeValue(const char* type) {
-    return ixSetText(m_pGruutype, type);
-}
+int GruuDataBinder::setGruutypeValue(const char* type) { return ixSetText(m_pGruutype, type); }
 
 XMLElement* GruuDataBinder::CreateRootElement() {
     if (m_pGruutype == nullptr) {
@@ -148,13 +126,9 @@ XMLElement* GruuDataBinder::CreateRootElement() {
     return nullptr;
 }
 
-ix_pub_gruu* GruuDataBinder::CreatePubGruuElement() {
-    return IX_NEW(ix_pub_gruu);
-}
+ix_pub_gruu* GruuDataBinder::CreatePubGruuElement() { return IX_NEW(ix_pub_gruu); }
 
-ix_temp_gruu* GruuDataBinder::CreateTempGruuElement() {
-    return IX_NEW(ix_temp_gruu);
-}
+ix_temp_gruu* GruuDataBinder::CreateTempGruuElement() { return IX_NEW(ix_temp_gruu); }
 
 GruuMarshaller::GruuMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

@@ -12,9 +12,7 @@ int ix_ns_identity_presentationType::ProcessUnMarshallAttribute(char* attribute,
     return 1;
 }
 
-int ix_ns_identity_presentationType::ExtensionListLine() const {
-    return __LINE__;
-}
+int ix_ns_identity_presentationType::ExtensionListLine() const { return __LINE__; }
 
 int XmlIdentityPresentationMarshaller::AddIdentityElementToXml(const XmlLogText& entered, e_XmlStrRef name,
                                                                const ix_ns_identity_presentationType* element) {

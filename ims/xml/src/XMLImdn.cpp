@@ -94,13 +94,9 @@ bool IsNotification(e_XmlStrRef name) {
 
 }  // namespace
 
-ix_status::~ix_status() {
-    XmlFields::Release(this, kStatusTable);
-}
+ix_status::~ix_status() { XmlFields::Release(this, kStatusTable); }
 
-const XmlFieldTable* ix_status::FieldTable() const {
-    return &kStatusTable;
-}
+const XmlFieldTable* ix_status::FieldTable() const { return &kStatusTable; }
 
 int ix_status::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
@@ -119,34 +115,24 @@ int ix_status::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, 
     return attribute != nullptr ? addAnyAttribute(attribute) : 1;
 }
 
-int ix_status::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
+int ix_status::addAnyElement(XMLElement* element) { return ixAppend(mAnyElementList, element, kSourceFile, __LINE__); }
 
 int ix_status::addAnyAttribute(ix_AttributeValuePair* pair) {
     return ixAppend(mAnyAttributeList, pair, kSourceFile, __LINE__);
 }
 
-ix_notificationType::~ix_notificationType() {
-    XmlFields::Release(this, kNotificationTable);
-}
+ix_notificationType::~ix_notificationType() { XmlFields::Release(this, kNotificationTable); }
 
-const XmlFieldTable* ix_notificationType::FieldTable() const {
-    return &kNotificationTable;
-}
+const XmlFieldTable* ix_notificationType::FieldTable() const { return &kNotificationTable; }
 
 int ix_notificationType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child);
     return 1;
 }
 
-ix_imdn::~ix_imdn() {
-    XmlFields::Release(this, kImdnTable);
-}
+ix_imdn::~ix_imdn() { XmlFields::Release(this, kImdnTable); }
 
-const XmlFieldTable* ix_imdn::FieldTable() const {
-    return &kImdnTable;
-}
+const XmlFieldTable* ix_imdn::FieldTable() const { return &kImdnTable; }
 
 int ix_imdn::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_MESSAGE_ID)) return setMessageIdValue(text);
@@ -173,61 +159,37 @@ int ix_imdn::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XM
     return attribute != nullptr ? addAnyAttribute(attribute) : 1;
 }
 
-int ix_imdn::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
+int ix_imdn::addAnyElement(XMLElement* element) { return ixAppend(mAnyElementList, element, kSourceFile, __LINE__); }
 
 int ix_imdn::addAnyAttribute(ix_AttributeValuePair* pair) {
     return ixAppend(mAnyAttributeList, pair, kSourceFile, __LINE__);
 }
 
-XMLElement* IMDNDataBinder::CreateRootElement() {
-    return IX_NEW(ix_imdn);
-}
+XMLElement* IMDNDataBinder::CreateRootElement() { return IX_NEW(ix_imdn); }
 
-ix_delivery_notification* IMDNDataBinder::CreateDeliverNotification() {
-    return IX_NEW(ix_delivery_notification);
-}
+ix_delivery_notification* IMDNDataBinder::CreateDeliverNotification() { return IX_NEW(ix_delivery_notification); }
 
-ix_display_notification* IMDNDataBinder::CreateDisplayNotification() {
-    return IX_NEW(ix_display_notification);
-}
+ix_display_notification* IMDNDataBinder::CreateDisplayNotification() { return IX_NEW(ix_display_notification); }
 
 ix_processing_notification* IMDNDataBinder::CreateProcesssingNotification() {
     return IX_NEW(ix_processing_notification);
 }
 
-ix_status* IMDNDataBinder::CreateStatus() {
-    return IX_NEW(ix_status);
-}
+ix_status* IMDNDataBinder::CreateStatus() { return IX_NEW(ix_status); }
 
-ix_delivered* IMDNDataBinder::CreateDeliveredElement() {
-    return IX_NEW(ix_delivered);
-}
+ix_delivered* IMDNDataBinder::CreateDeliveredElement() { return IX_NEW(ix_delivered); }
 
-ix_failed* IMDNDataBinder::CreateFailedElement() {
-    return IX_NEW(ix_failed);
-}
+ix_failed* IMDNDataBinder::CreateFailedElement() { return IX_NEW(ix_failed); }
 
-ix_displayed* IMDNDataBinder::CreateDisplayedElement() {
-    return IX_NEW(ix_displayed);
-}
+ix_displayed* IMDNDataBinder::CreateDisplayedElement() { return IX_NEW(ix_displayed); }
 
-ix_processed* IMDNDataBinder::CreateProcessedElement() {
-    return IX_NEW(ix_processed);
-}
+ix_processed* IMDNDataBinder::CreateProcessedElement() { return IX_NEW(ix_processed); }
 
-ix_stored* IMDNDataBinder::CreateStoredElement() {
-    return IX_NEW(ix_stored);
-}
+ix_stored* IMDNDataBinder::CreateStoredElement() { return IX_NEW(ix_stored); }
 
-ix_forbidden* IMDNDataBinder::CreateForbiddenElement() {
-    return IX_NEW(ix_forbidden);
-}
+ix_forbidden* IMDNDataBinder::CreateForbiddenElement() { return IX_NEW(ix_forbidden); }
 
-ix_error* IMDNDataBinder::CreateErrorElement() {
-    return IX_NEW(ix_error);
-}
+ix_error* IMDNDataBinder::CreateErrorElement() { return IX_NEW(ix_error); }
 
 IMDNMarshaller::IMDNMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

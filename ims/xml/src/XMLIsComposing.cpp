@@ -43,19 +43,13 @@ constexpr XmlFieldTable kTable = {nullptr, kFields, std::size(kFields)};
 
 constexpr e_XmlStrRef kTexts[] = {IX_STR_STATE, IX_STR_LASTACTIVE, IX_STR_CONTENTTYPE, IX_STR_REFRESH};
 
-const char* TextOf(e_XmlStrRef entry) {
-    return ix_xml_common_array_definition::getStringName(entry);
-}
+const char* TextOf(e_XmlStrRef entry) { return ix_xml_common_array_definition::getStringName(entry); }
 
 }  // namespace
 
-ix_isComposing::~ix_isComposing() {
-    XmlFields::Release(this, kTable);
-}
+ix_isComposing::~ix_isComposing() { XmlFields::Release(this, kTable); }
 
-const XmlFieldTable* ix_isComposing::FieldTable() const {
-    return &kTable;
-}
+const XmlFieldTable* ix_isComposing::FieldTable() const { return &kTable; }
 
 int ix_isComposing::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (text != nullptr) {
@@ -82,9 +76,7 @@ int ix_isComposing::addAnyElement(XMLElement* element) {
     return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
 }
 
-XMLElement* IsComposingDataBinder::CreateRootElement() {
-    return IX_NEW(ix_isComposing);
-}
+XMLElement* IsComposingDataBinder::CreateRootElement() { return IX_NEW(ix_isComposing); }
 
 IsComposingMarshaller::IsComposingMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

@@ -28,9 +28,7 @@ constexpr XmlLogText kInvalidIndex = {4, kSchemaCode, 206, "IxSingleElementList:
 
 }  // namespace
 
-IxSingleElementList::IxSingleElementList() {
-    ixLog(kSourceFile, kCreated);
-}
+IxSingleElementList::IxSingleElementList() { ixLog(kSourceFile, kCreated); }
 
 IxSingleElementList::~IxSingleElementList() {
     ixLog(kSourceFile, kDestroyed);

@@ -53,13 +53,9 @@ constexpr XmlFieldTable kMediaControlTable = {nullptr, kMediaControlFields, std:
 
 }  // namespace
 
-ix_to_encoder::~ix_to_encoder() {
-    XmlFields::Release(this, kToEncoderTable);
-}
+ix_to_encoder::~ix_to_encoder() { XmlFields::Release(this, kToEncoderTable); }
 
-const XmlFieldTable* ix_to_encoder::FieldTable() const {
-    return &kToEncoderTable;
-}
+const XmlFieldTable* ix_to_encoder::FieldTable() const { return &kToEncoderTable; }
 
 int ix_to_encoder::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     // Required: any other element behind the request cancels it. Nobody else has it, so it is freed.
@@ -68,41 +64,27 @@ int ix_to_encoder::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* chi
     return ixTakeChild(mPictureFastUpdate, child);
 }
 
-ix_vc_primitive::~ix_vc_primitive() {
-    XmlFields::Release(this, kVcPrimitiveTable);
-}
+ix_vc_primitive::~ix_vc_primitive() { XmlFields::Release(this, kVcPrimitiveTable); }
 
-const XmlFieldTable* ix_vc_primitive::FieldTable() const {
-    return &kVcPrimitiveTable;
-}
+const XmlFieldTable* ix_vc_primitive::FieldTable() const { return &kVcPrimitiveTable; }
 
 int ix_vc_primitive::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     return ixNameIs(name, IX_STR_TO_ENCODER) ? ixTakeChild(mToEncoder, child) : 1;
 }
 
-ix_media_control::~ix_media_control() {
-    XmlFields::Release(this, kMediaControlTable);
-}
+ix_media_control::~ix_media_control() { XmlFields::Release(this, kMediaControlTable); }
 
-const XmlFieldTable* ix_media_control::FieldTable() const {
-    return &kMediaControlTable;
-}
+const XmlFieldTable* ix_media_control::FieldTable() const { return &kMediaControlTable; }
 
 int ix_media_control::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     return ixNameIs(name, IX_STR_VC_PRIMITIVE) ? ixTakeChild(mVcPrimitive, child) : 1;
 }
 
-XMLElement* MediaControlDataBinder::CreateRootElement() {
-    return IX_NEW(ix_media_control);
-}
+XMLElement* MediaControlDataBinder::CreateRootElement() { return IX_NEW(ix_media_control); }
 
-ix_vc_primitive* MediaControlDataBinder::CreateVcPrimitiveElement() {
-    return IX_NEW(ix_vc_primitive);
-}
+ix_vc_primitive* MediaControlDataBinder::CreateVcPrimitiveElement() { return IX_NEW(ix_vc_primitive); }
 
-ix_to_encoder* MediaControlDataBinder::CreateToEncoderElement() {
-    return IX_NEW(ix_to_encoder);
-}
+ix_to_encoder* MediaControlDataBinder::CreateToEncoderElement() { return IX_NEW(ix_to_encoder); }
 
 ix_empty_element_type* MediaControlDataBinder::CreatePictureFastUpdateElement() {
     return ixCreateEmptyElement(ix_xml_common_array_definition::getStringName(IX_STR_PICTURE_FAST_UPDATE), kSourceFile,

@@ -38,9 +38,7 @@ ix_ns_oma_pres_service_description::~ix_ns_oma_pres_service_description() {
     XmlFields::Release(this, kServiceDescriptionTable);
 }
 
-const XmlFieldTable* ix_ns_oma_pres_service_description::FieldTable() const {
-    return &kServiceDescriptionTable;
-}
+const XmlFieldTable* ix_ns_oma_pres_service_description::FieldTable() const { return &kServiceDescriptionTable; }
 
 int ix_ns_oma_pres_service_description::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_SERVICE_ID)) return setServiceIdValue(text);
@@ -50,13 +48,9 @@ int ix_ns_oma_pres_service_description::ProcessUnMarshall(char* name, char* text
     return child == nullptr ? 1 : 0;
 }
 
-ix_ns_oma_pres_basicType::~ix_ns_oma_pres_basicType() {
-    XmlFields::Release(this, kBasicTable);
-}
+ix_ns_oma_pres_basicType::~ix_ns_oma_pres_basicType() { XmlFields::Release(this, kBasicTable); }
 
-const XmlFieldTable* ix_ns_oma_pres_basicType::FieldTable() const {
-    return &kBasicTable;
-}
+const XmlFieldTable* ix_ns_oma_pres_basicType::FieldTable() const { return &kBasicTable; }
 
 int ix_ns_oma_pres_basicType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_BASIC)) return setBasicValue(kPresenceBasics.IndexOfPrefix(text));
@@ -64,13 +58,9 @@ int ix_ns_oma_pres_basicType::ProcessUnMarshall(char* name, char* text, XMLEleme
     return child == nullptr ? 1 : 0;
 }
 
-ix_ns_oma_pres_stateType::~ix_ns_oma_pres_stateType() {
-    XmlFields::Release(this, kStateTable);
-}
+ix_ns_oma_pres_stateType::~ix_ns_oma_pres_stateType() { XmlFields::Release(this, kStateTable); }
 
-const XmlFieldTable* ix_ns_oma_pres_stateType::FieldTable() const {
-    return &kStateTable;
-}
+const XmlFieldTable* ix_ns_oma_pres_stateType::FieldTable() const { return &kStateTable; }
 
 int ix_ns_oma_pres_stateType::ProcessUnMarshall(char* name, char* text, XMLElement* /*child*/) {
     if (name == nullptr || std::strcmp(name, EndTag()) != 0) return 1;

@@ -19,13 +19,9 @@ constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__,
 
 }  // namespace
 
-const char* ix_originating_identity_presentation::SourceFile() const {
-    return kSourceFile;
-}
+const char* ix_originating_identity_presentation::SourceFile() const { return kSourceFile; }
 
-XMLElement* OIPDataBinder::CreateRootElement() {
-    return IX_NEW(ix_originating_identity_presentation);
-}
+XMLElement* OIPDataBinder::CreateRootElement() { return IX_NEW(ix_originating_identity_presentation); }
 
 OIPMarshaller::OIPMarshaller() : XmlIdentityPresentationMarshaller(kMarshallerInfo) {}
 

@@ -82,26 +82,18 @@ constexpr XmlFieldTable kPresenceTable = {nullptr, kPresenceFields, std::size(kP
 
 }  // namespace
 
-ix_note::~ix_note() {
-    XmlFields::Release(this, kNoteTable);
-}
+ix_note::~ix_note() { XmlFields::Release(this, kNoteTable); }
 
-const XmlFieldTable* ix_note::FieldTable() const {
-    return &kNoteTable;
-}
+const XmlFieldTable* ix_note::FieldTable() const { return &kNoteTable; }
 
 int ix_note::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_NOTE)) return setTextValue(text);
     return child == nullptr ? 1 : 0;
 }
 
-ix_contact::~ix_contact() {
-    XmlFields::Release(this, kContactTable);
-}
+ix_contact::~ix_contact() { XmlFields::Release(this, kContactTable); }
 
-const XmlFieldTable* ix_contact::FieldTable() const {
-    return &kContactTable;
-}
+const XmlFieldTable* ix_contact::FieldTable() const { return &kContactTable; }
 
 int ix_contact::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixEndNameIs(name, IX_STR_CONTACT)) return setValueValue(text);
@@ -112,13 +104,9 @@ int ix_contact::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttr
     return ixNameIs(attribute, IX_STR_PRIORITY) ? setPriorityValue(value) : 1;
 }
 
-ix_status::~ix_status() {
-    XmlFields::Release(this, kStatusTable);
-}
+ix_status::~ix_status() { XmlFields::Release(this, kStatusTable); }
 
-const XmlFieldTable* ix_status::FieldTable() const {
-    return &kStatusTable;
-}
+const XmlFieldTable* ix_status::FieldTable() const { return &kStatusTable; }
 
 int ix_status::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (child != nullptr) return addAnyElement(child);
@@ -127,17 +115,11 @@ int ix_status::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return 1;
 }
 
-int ix_status::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
+int ix_status::addAnyElement(XMLElement* element) { return ixAppend(mAnyElementList, element, kSourceFile, __LINE__); }
 
-ix_tuple::~ix_tuple() {
-    XmlFields::Release(this, kTupleTable);
-}
+ix_tuple::~ix_tuple() { XmlFields::Release(this, kTupleTable); }
 
-const XmlFieldTable* ix_tuple::FieldTable() const {
-    return &kTupleTable;
-}
+const XmlFieldTable* ix_tuple::FieldTable() const { return &kTupleTable; }
 
 int ix_tuple::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_STATUS)) return ixTakeChild(mStatus, child);
@@ -156,21 +138,13 @@ int ix_tuple::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttrib
     return ixNameIs(attribute, IX_STR_ID) ? setIdValue(value) : 1;
 }
 
-int ix_tuple::addNote(ix_note* note) {
-    return ixAppend(mNoteList, note, kSourceFile, __LINE__);
-}
+int ix_tuple::addNote(ix_note* note) { return ixAppend(mNoteList, note, kSourceFile, __LINE__); }
 
-int ix_tuple::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
+int ix_tuple::addAnyElement(XMLElement* element) { return ixAppend(mAnyElementList, element, kSourceFile, __LINE__); }
 
-ix_presence::~ix_presence() {
-    XmlFields::Release(this, kPresenceTable);
-}
+ix_presence::~ix_presence() { XmlFields::Release(this, kPresenceTable); }
 
-const XmlFieldTable* ix_presence::FieldTable() const {
-    return &kPresenceTable;
-}
+const XmlFieldTable* ix_presence::FieldTable() const { return &kPresenceTable; }
 
 int ix_presence::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_TUPLE)) {
@@ -188,53 +162,31 @@ int ix_presence::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAtt
     return ixNameIs(attribute, IX_STR_ENTITY) ? setEntityValue(value) : 1;
 }
 
-int ix_presence::addTuple(ix_tuple* tuple) {
-    return ixAppend(mTupleList, tuple, kSourceFile, __LINE__);
-}
+int ix_presence::addTuple(ix_tuple* tuple) { return ixAppend(mTupleList, tuple, kSourceFile, __LINE__); }
 
-int ix_presence::addNote(ix_note* note) {
-    return ixAppend(mNoteList, note, kSourceFile, __LINE__);
-}
+int ix_presence::addNote(ix_note* note) { return ixAppend(mNoteList, note, kSourceFile, __LINE__); }
 
-XMLElement* PresenceDataBinder::CreateRootElement() {
-    return IX_NEW(ix_presence);
-}
+XMLElement* PresenceDataBinder::CreateRootElement() { return IX_NEW(ix_presence); }
 
-ix_tuple* PresenceDataBinder::CreateTupleElement() {
-    return IX_NEW(ix_tuple);
-}
+ix_tuple* PresenceDataBinder::CreateTupleElement() { return IX_NEW(ix_tuple); }
 
-ix_status* PresenceDataBinder::CreateStatusElement() {
-    return IX_NEW(ix_status);
-}
+ix_status* PresenceDataBinder::CreateStatusElement() { return IX_NEW(ix_status); }
 
-ix_contact* PresenceDataBinder::CreateContactElement() {
-    return IX_NEW(ix_contact);
-}
+ix_contact* PresenceDataBinder::CreateContactElement() { return IX_NEW(ix_contact); }
 
-ix_note* PresenceDataBinder::CreateNoteElement() {
-    return IX_NEW(ix_note);
-}
+ix_note* PresenceDataBinder::CreateNoteElement() { return IX_NEW(ix_note); }
 
 ix_ns_oma_pres_service_description* PresenceDataBinder::CreateServiceDescriptionElement() {
     return IX_NEW(ix_ns_oma_pres_service_description);
 }
 
-ix_ns_caps_servcaps* PresenceDataBinder::CreateServcapsElement() {
-    return IX_NEW(ix_ns_caps_servcaps);
-}
+ix_ns_caps_servcaps* PresenceDataBinder::CreateServcapsElement() { return IX_NEW(ix_ns_caps_servcaps); }
 
-ix_ns_caps_duplextype* PresenceDataBinder::CreateDuplexElement() {
-    return IX_NEW(ix_ns_caps_duplextype);
-}
+ix_ns_caps_duplextype* PresenceDataBinder::CreateDuplexElement() { return IX_NEW(ix_ns_caps_duplextype); }
 
-ix_ns_caps_duplextypes* PresenceDataBinder::CreateDuplexTypesElement() {
-    return IX_NEW(ix_ns_caps_duplextypes);
-}
+ix_ns_caps_duplextypes* PresenceDataBinder::CreateDuplexTypesElement() { return IX_NEW(ix_ns_caps_duplextypes); }
 
-ix_string* PresenceDataBinder::CreateStringElement() {
-    return IX_NEW(ix_string);
-}
+ix_string* PresenceDataBinder::CreateStringElement() { return IX_NEW(ix_string); }
 
 PresenceMarshaller::PresenceMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

@@ -54,13 +54,9 @@ constexpr XmlFieldTable kRootTable = {nullptr, kRootFields, std::size(kRootField
 
 }  // namespace
 
-ix_ns_rcs_terms_info_term::~ix_ns_rcs_terms_info_term() {
-    XmlFields::Release(this, kTermTable);
-}
+ix_ns_rcs_terms_info_term::~ix_ns_rcs_terms_info_term() { XmlFields::Release(this, kTermTable); }
 
-const XmlFieldTable* ix_ns_rcs_terms_info_term::FieldTable() const {
-    return &kTermTable;
-}
+const XmlFieldTable* ix_ns_rcs_terms_info_term::FieldTable() const { return &kTermTable; }
 
 int ix_ns_rcs_terms_info_term::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     ixLog(kSourceFile, kTermHook);
@@ -75,13 +71,9 @@ int ix_ns_rcs_terms_info_term::ProcessUnMarshallAttribute(char* /*attribute*/, c
     return 1;
 }
 
-ix_rcs_terms_info::~ix_rcs_terms_info() {
-    XmlFields::Release(this, kRootTable);
-}
+ix_rcs_terms_info::~ix_rcs_terms_info() { XmlFields::Release(this, kRootTable); }
 
-const XmlFieldTable* ix_rcs_terms_info::FieldTable() const {
-    return &kRootTable;
-}
+const XmlFieldTable* ix_rcs_terms_info::FieldTable() const { return &kRootTable; }
 
 int ix_rcs_terms_info::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     ixLog(kSourceFile, kRootHook);
@@ -99,13 +91,9 @@ int ix_rcs_terms_info::addTerm(ix_ns_rcs_terms_info_term* term) {
     return ixAppend(mTerms, term, kSourceFile, __LINE__);
 }
 
-XMLElement* RcsTermsInfoDataBinder::CreateRootElement() {
-    return IX_NEW(ix_rcs_terms_info);
-}
+XMLElement* RcsTermsInfoDataBinder::CreateRootElement() { return IX_NEW(ix_rcs_terms_info); }
 
-ix_ns_rcs_terms_info_term* RcsTermsInfoDataBinder::CreateTermElement() {
-    return IX_NEW(ix_ns_rcs_terms_info_term);
-}
+ix_ns_rcs_terms_info_term* RcsTermsInfoDataBinder::CreateTermElement() { return IX_NEW(ix_ns_rcs_terms_info_term); }
 
 RcsTermsInfoMarshaller::RcsTermsInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

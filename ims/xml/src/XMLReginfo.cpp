@@ -119,9 +119,7 @@ constexpr int kContactStates = 2;
 constexpr int kContactEvents = 4;
 constexpr int kRegistrationStates = 13;
 
-constexpr XmlEnumeration Rows(int first, int count) {
-    return {kTexts[first], sizeof kTexts[0], count};
-}
+constexpr XmlEnumeration Rows(int first, int count) { return {kTexts[first], sizeof kTexts[0], count}; }
 constexpr XmlEnumeration kReginfoState = Rows(0, IX_REGINFO_STATE_UNSET);
 constexpr XmlEnumeration kContactState = Rows(kContactStates, IX_CONTACT_STATE_UNSET);
 constexpr XmlEnumeration kContactEvent = Rows(kContactEvents, IX_CONTACT_EVENT_UNSET);
@@ -216,13 +214,9 @@ void LogAnyElements(const IxSingleElementList* list, const XmlLogText& text) {
 
 }  // namespace
 
-ix_unknown_param::~ix_unknown_param() {
-    XmlFields::Release(this, kUnknownParamTable);
-}
+ix_unknown_param::~ix_unknown_param() { XmlFields::Release(this, kUnknownParamTable); }
 
-const XmlFieldTable* ix_unknown_param::FieldTable() const {
-    return &kUnknownParamTable;
-}
+const XmlFieldTable* ix_unknown_param::FieldTable() const { return &kUnknownParamTable; }
 
 int ix_unknown_param::ProcessUnMarshall(char* name, char* text, XMLElement* /*child*/) {
     if (ixEndNameIs(name, IX_STR_UNKNOWN_PARAM)) return setValueValue(text);
@@ -235,13 +229,9 @@ int ix_unknown_param::ProcessUnMarshallAttribute(char* attribute, char* value, X
     return RefuseAttribute(attribute, kUnknownParamTexts);
 }
 
-ix_ns_reginfo_contact::~ix_ns_reginfo_contact() {
-    XmlFields::Release(this, kContactTable);
-}
+ix_ns_reginfo_contact::~ix_ns_reginfo_contact() { XmlFields::Release(this, kContactTable); }
 
-const XmlFieldTable* ix_ns_reginfo_contact::FieldTable() const {
-    return &kContactTable;
-}
+const XmlFieldTable* ix_ns_reginfo_contact::FieldTable() const { return &kContactTable; }
 
 int ix_ns_reginfo_contact::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_UNKNOWN_PARAM)) {
@@ -281,13 +271,9 @@ int ix_ns_reginfo_contact::addAnyElement(XMLElement* element) {
     return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
 }
 
-ix_registration::~ix_registration() {
-    XmlFields::Release(this, kRegistrationTable);
-}
+ix_registration::~ix_registration() { XmlFields::Release(this, kRegistrationTable); }
 
-const XmlFieldTable* ix_registration::FieldTable() const {
-    return &kRegistrationTable;
-}
+const XmlFieldTable* ix_registration::FieldTable() const { return &kRegistrationTable; }
 
 int ix_registration::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (ixNameIs(name, IX_STR_CONTACT)) {
@@ -314,13 +300,9 @@ int ix_registration::addAnyElement(XMLElement* element) {
     return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
 }
 
-ix_reginfo::~ix_reginfo() {
-    XmlFields::Release(this, kReginfoTable);
-}
+ix_reginfo::~ix_reginfo() { XmlFields::Release(this, kReginfoTable); }
 
-const XmlFieldTable* ix_reginfo::FieldTable() const {
-    return &kReginfoTable;
-}
+const XmlFieldTable* ix_reginfo::FieldTable() const { return &kReginfoTable; }
 
 int ix_reginfo::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (ixNameIs(name, IX_STR_REGISTRATION)) {
@@ -345,33 +327,19 @@ int ix_reginfo::addRegistration(ix_registration* registration) {
     return ixAppend(mRegistrationList, registration, kSourceFile, __LINE__);
 }
 
-int ix_reginfo::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
+int ix_reginfo::addAnyElement(XMLElement* element) { return ixAppend(mAnyElementList, element, kSourceFile, __LINE__); }
 
-XMLElement* ReginfoDataBinder::CreateRootElement() {
-    return IX_NEW(ix_reginfo);
-}
+XMLElement* ReginfoDataBinder::CreateRootElement() { return IX_NEW(ix_reginfo); }
 
-ix_registration* ReginfoDataBinder::CreateRegistrationElement() {
-    return IX_NEW(ix_registration);
-}
+ix_registration* ReginfoDataBinder::CreateRegistrationElement() { return IX_NEW(ix_registration); }
 
-ix_ns_reginfo_contact* ReginfoDataBinder::CreateContactElement() {
-    return IX_NEW(ix_ns_reginfo_contact);
-}
+ix_ns_reginfo_contact* ReginfoDataBinder::CreateContactElement() { return IX_NEW(ix_ns_reginfo_contact); }
 
-ix_unknown_param* ReginfoDataBinder::CreateUnknownParamElement() {
-    return IX_NEW(ix_unknown_param);
-}
+ix_unknown_param* ReginfoDataBinder::CreateUnknownParamElement() { return IX_NEW(ix_unknown_param); }
 
-ix_pub_gruu* ReginfoDataBinder::CreatePubGruuElement() {
-    return IX_NEW(ix_pub_gruu);
-}
+ix_pub_gruu* ReginfoDataBinder::CreatePubGruuElement() { return IX_NEW(ix_pub_gruu); }
 
-ix_temp_gruu* ReginfoDataBinder::CreateTempGruuElement() {
-    return IX_NEW(ix_temp_gruu);
-}
+ix_temp_gruu* ReginfoDataBinder::CreateTempGruuElement() { return IX_NEW(ix_temp_gruu); }
 
 ReginfoMarshaller::ReginfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

@@ -105,52 +105,36 @@ int ix_listMemberType::addAnyAttribute(ix_AttributeValuePair* pair) {
     return pair != nullptr ? ixAppend(mAnyAttribute, pair, kSourceFile, __LINE__) : 0;
 }
 
-ix_entryType::~ix_entryType() {
-    XmlFields::Release(this, kEntryTable);
-}
+ix_entryType::~ix_entryType() { XmlFields::Release(this, kEntryTable); }
 
-const XmlFieldTable* ix_entryType::FieldTable() const {
-    return &kEntryTable;
-}
+const XmlFieldTable* ix_entryType::FieldTable() const { return &kEntryTable; }
 
 int ix_entryType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair == nullptr && ixNameIs(attribute, IX_STR_URI)) return setUriValue(value);
     return ix_listMemberType::ProcessUnMarshallAttribute(attribute, value, pair);
 }
 
-ix_entry_refType::~ix_entry_refType() {
-    XmlFields::Release(this, kEntryRefTable);
-}
+ix_entry_refType::~ix_entry_refType() { XmlFields::Release(this, kEntryRefTable); }
 
-const XmlFieldTable* ix_entry_refType::FieldTable() const {
-    return &kEntryRefTable;
-}
+const XmlFieldTable* ix_entry_refType::FieldTable() const { return &kEntryRefTable; }
 
 int ix_entry_refType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair == nullptr && ixNameIs(attribute, IX_STR_REF)) return setRefValue(value);
     return ix_listMemberType::ProcessUnMarshallAttribute(attribute, value, pair);
 }
 
-ix_externalType::~ix_externalType() {
-    XmlFields::Release(this, kExternalTable);
-}
+ix_externalType::~ix_externalType() { XmlFields::Release(this, kExternalTable); }
 
-const XmlFieldTable* ix_externalType::FieldTable() const {
-    return &kExternalTable;
-}
+const XmlFieldTable* ix_externalType::FieldTable() const { return &kExternalTable; }
 
 int ix_externalType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair == nullptr && ixNameIs(attribute, IX_STR_ANCHOR)) return setAnchorValue(value);
     return ix_listMemberType::ProcessUnMarshallAttribute(attribute, value, pair);
 }
 
-ix_listType::~ix_listType() {
-    XmlFields::Release(this, kListTable);
-}
+ix_listType::~ix_listType() { XmlFields::Release(this, kListTable); }
 
-const XmlFieldTable* ix_listType::FieldTable() const {
-    return &kListTable;
-}
+const XmlFieldTable* ix_listType::FieldTable() const { return &kListTable; }
 
 int ix_listType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (child == nullptr || ixNameIs(name, IX_STR_DISPLAY_NAME)) {
@@ -179,13 +163,9 @@ int ix_listType::addAnyElement(XMLElement* element) {
     return element != nullptr ? ixAppend(mAnyElementList, element, kSourceFile, __LINE__) : 0;
 }
 
-ix_resource_lists::~ix_resource_lists() {
-    XmlFields::Release(this, kResourceListsTable);
-}
+ix_resource_lists::~ix_resource_lists() { XmlFields::Release(this, kResourceListsTable); }
 
-const XmlFieldTable* ix_resource_lists::FieldTable() const {
-    return &kResourceListsTable;
-}
+const XmlFieldTable* ix_resource_lists::FieldTable() const { return &kResourceListsTable; }
 
 int ix_resource_lists::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
@@ -196,29 +176,17 @@ int ix_resource_lists::addList(ix_listType* list) {
     return list != nullptr ? ixAppend(mListList, list, kSourceFile, __LINE__) : 0;
 }
 
-XMLElement* ResourceListsDataBinder::CreateRootElement() {
-    return IX_NEW(ix_resource_lists);
-}
+XMLElement* ResourceListsDataBinder::CreateRootElement() { return IX_NEW(ix_resource_lists); }
 
-ix_listType* ResourceListsDataBinder::CreateListType() {
-    return IX_NEW(ix_listType);
-}
+ix_listType* ResourceListsDataBinder::CreateListType() { return IX_NEW(ix_listType); }
 
-ix_entryType* ResourceListsDataBinder::CreateEntryType() {
-    return IX_NEW(ix_entryType);
-}
+ix_entryType* ResourceListsDataBinder::CreateEntryType() { return IX_NEW(ix_entryType); }
 
-ix_entry_refType* ResourceListsDataBinder::CreateEntryRefType() {
-    return IX_NEW(ix_entry_refType);
-}
+ix_entry_refType* ResourceListsDataBinder::CreateEntryRefType() { return IX_NEW(ix_entry_refType); }
 
-ix_externalType* ResourceListsDataBinder::CreateExternalType() {
-    return IX_NEW(ix_externalType);
-}
+ix_externalType* ResourceListsDataBinder::CreateExternalType() { return IX_NEW(ix_externalType); }
 
-ix_display_nameType* ResourceListsDataBinder::CreateDisplayNameType() {
-    return IX_NEW(ix_display_nameType);
-}
+ix_display_nameType* ResourceListsDataBinder::CreateDisplayNameType() { return IX_NEW(ix_display_nameType); }
 
 Resource_listsMarshall::Resource_listsMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

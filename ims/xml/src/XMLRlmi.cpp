@@ -74,13 +74,9 @@ int ix_name::ProcessUnMarshall(char* name, char* text, XMLElement* /*child*/) {
     return ixEndNameIs(name, IX_STR_NAME) ? setValueValue(text) : 1;
 }
 
-ix_instance::~ix_instance() {
-    XmlFields::Release(this, kInstanceTable);
-}
+ix_instance::~ix_instance() { XmlFields::Release(this, kInstanceTable); }
 
-const XmlFieldTable* ix_instance::FieldTable() const {
-    return &kInstanceTable;
-}
+const XmlFieldTable* ix_instance::FieldTable() const { return &kInstanceTable; }
 
 int ix_instance::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (pair != nullptr) return addAnyAttribute(ixAsPair(pair));
@@ -95,13 +91,9 @@ int ix_instance::addAnyAttribute(ix_AttributeValuePair* pair) {
     return pair != nullptr ? ixAppend(mAnyAttribute, pair, kSourceFile, __LINE__) : 0;
 }
 
-ix_resource::~ix_resource() {
-    XmlFields::Release(this, kResourceTable);
-}
+ix_resource::~ix_resource() { XmlFields::Release(this, kResourceTable); }
 
-const XmlFieldTable* ix_resource::FieldTable() const {
-    return &kResourceTable;
-}
+const XmlFieldTable* ix_resource::FieldTable() const { return &kResourceTable; }
 
 int ix_resource::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
@@ -126,13 +118,9 @@ int ix_resource::addInstance(ix_instance* instance) {
     return instance != nullptr ? ixAppend(mInstanceList, instance, kSourceFile, __LINE__) : 0;
 }
 
-ix_list::~ix_list() {
-    XmlFields::Release(this, kListTable);
-}
+ix_list::~ix_list() { XmlFields::Release(this, kListTable); }
 
-const XmlFieldTable* ix_list::FieldTable() const {
-    return &kListTable;
-}
+const XmlFieldTable* ix_list::FieldTable() const { return &kListTable; }
 
 int ix_list::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
@@ -149,9 +137,7 @@ int ix_list::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribu
     return 0;
 }
 
-int ix_list::addName(ix_name* name) {
-    return name != nullptr ? ixAppend(mNameList, name, kSourceFile, __LINE__) : 0;
-}
+int ix_list::addName(ix_name* name) { return name != nullptr ? ixAppend(mNameList, name, kSourceFile, __LINE__) : 0; }
 
 int ix_list::addResource(ix_resource* resource) {
     return resource != nullptr ? ixAppend(mResourceList, resource, kSourceFile, __LINE__) : 0;
@@ -161,21 +147,13 @@ int ix_list::addAnyAttribute(ix_AttributeValuePair* pair) {
     return pair != nullptr ? ixAppend(mAnyAttribute, pair, kSourceFile, __LINE__) : 0;
 }
 
-XMLElement* ListDataBinder::CreateRootElement() {
-    return IX_NEW(ix_list);
-}
+XMLElement* ListDataBinder::CreateRootElement() { return IX_NEW(ix_list); }
 
-ix_resource* ListDataBinder::CreateResourceElement() {
-    return IX_NEW(ix_resource);
-}
+ix_resource* ListDataBinder::CreateResourceElement() { return IX_NEW(ix_resource); }
 
-ix_instance* ListDataBinder::CreateInstanceElement() {
-    return IX_NEW(ix_instance);
-}
+ix_instance* ListDataBinder::CreateInstanceElement() { return IX_NEW(ix_instance); }
 
-ix_name* ListDataBinder::CreateNameElement() {
-    return IX_NEW(ix_name);
-}
+ix_name* ListDataBinder::CreateNameElement() { return IX_NEW(ix_name); }
 
 ListMarshaller::ListMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

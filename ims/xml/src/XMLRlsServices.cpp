@@ -60,13 +60,9 @@ int ix_ns_rls_services_packageType::ProcessUnMarshall(char* name, char* text, XM
     return ixEndNameIs(name, IX_STR_PACKAGE) ? setValueValue(text) : 1;
 }
 
-ix_ns_rls_services_packagesType::~ix_ns_rls_services_packagesType() {
-    XmlFields::Release(this, kPackagesTable);
-}
+ix_ns_rls_services_packagesType::~ix_ns_rls_services_packagesType() { XmlFields::Release(this, kPackagesTable); }
 
-const XmlFieldTable* ix_ns_rls_services_packagesType::FieldTable() const {
-    return &kPackagesTable;
-}
+const XmlFieldTable* ix_ns_rls_services_packagesType::FieldTable() const { return &kPackagesTable; }
 
 int ix_ns_rls_services_packagesType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
@@ -79,13 +75,9 @@ int ix_ns_rls_services_packagesType::addPackage(ix_ns_rls_services_packageType* 
     return package != nullptr ? ixAppend(mPackageList, package, kSourceFile, __LINE__) : 0;
 }
 
-ix_ns_rls_services_serviceType::~ix_ns_rls_services_serviceType() {
-    XmlFields::Release(this, kServiceTable);
-}
+ix_ns_rls_services_serviceType::~ix_ns_rls_services_serviceType() { XmlFields::Release(this, kServiceTable); }
 
-const XmlFieldTable* ix_ns_rls_services_serviceType::FieldTable() const {
-    return &kServiceTable;
-}
+const XmlFieldTable* ix_ns_rls_services_serviceType::FieldTable() const { return &kServiceTable; }
 
 int ix_ns_rls_services_serviceType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (child == nullptr && ixEndNameIs(name, IX_STR_RESOURCE_LIST)) return setResourceListValue(text);
@@ -104,13 +96,9 @@ int ix_ns_rls_services_serviceType::addAnyAttribute(ix_AttributeValuePair* pair)
     return pair != nullptr ? ixAppend(mAnyAttribute, pair, kSourceFile, __LINE__) : 0;
 }
 
-ix_rls_services::~ix_rls_services() {
-    XmlFields::Release(this, kRlsServicesTable);
-}
+ix_rls_services::~ix_rls_services() { XmlFields::Release(this, kRlsServicesTable); }
 
-const XmlFieldTable* ix_rls_services::FieldTable() const {
-    return &kRlsServicesTable;
-}
+const XmlFieldTable* ix_rls_services::FieldTable() const { return &kRlsServicesTable; }
 
 int ix_rls_services::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (child == nullptr) return 1;
@@ -123,9 +111,7 @@ int ix_rls_services::addService(ix_ns_rls_services_serviceType* service) {
     return service != nullptr ? ixAppend(mServiceList, service, kSourceFile, __LINE__) : 0;
 }
 
-XMLElement* RlsServicesDataBinder::CreateRootElement() {
-    return IX_NEW(ix_rls_services);
-}
+XMLElement* RlsServicesDataBinder::CreateRootElement() { return IX_NEW(ix_rls_services); }
 
 ix_ns_rls_services_serviceType* RlsServicesDataBinder::CreateServiceElement() {
     return IX_NEW(ix_ns_rls_services_serviceType);

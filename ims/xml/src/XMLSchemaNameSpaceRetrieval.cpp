@@ -26,13 +26,9 @@ constexpr XmlFieldTable kTable = {nullptr, kFields, 1};
 
 }  // namespace
 
-ix_schema_namespace_retrieval::~ix_schema_namespace_retrieval() {
-    XmlFields::Release(this, kTable);
-}
+ix_schema_namespace_retrieval::~ix_schema_namespace_retrieval() { XmlFields::Release(this, kTable); }
 
-const XmlFieldTable* ix_schema_namespace_retrieval::FieldTable() const {
-    return &kTable;
-}
+const XmlFieldTable* ix_schema_namespace_retrieval::FieldTable() const { return &kTable; }
 
 int ix_schema_namespace_retrieval::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* /*pair*/) {
     if (!XMLSchemaNamespaceRetrievalDecoder::IsDeclaration(attribute)) return 1;
@@ -59,9 +55,7 @@ IxSingleElementList* ix_schema_namespace_retrieval::getNameSpaceInfo() const {
     return mNameSpaceInfo;
 }
 
-XMLElement* SchemaNamespaceRetrievalDataBinder::CreateRootElement() {
-    return IX_NEW(ix_schema_namespace_retrieval);
-}
+XMLElement* SchemaNamespaceRetrievalDataBinder::CreateRootElement() { return IX_NEW(ix_schema_namespace_retrieval); }
 
 IX_READING_FAMILY(SchemaNamespaceRetrievalContext, SchemaNamespaceRetrievalUnMarshaller,
                   SchemaNamespaceRetrievalDataBinder);

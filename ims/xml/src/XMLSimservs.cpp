@@ -262,29 +262,17 @@ class SimservsUnMarshaller::Search {
     bool m_skipped[kServiceCount] = {};
 };
 
-ix_Simservs::~ix_Simservs() {
-    XmlFields::Release(this, kSimservsTable);
-}
+ix_Simservs::~ix_Simservs() { XmlFields::Release(this, kSimservsTable); }
 
-const XmlFieldTable* ix_Simservs::FieldTable() const {
-    return &kSimservsTable;
-}
+const XmlFieldTable* ix_Simservs::FieldTable() const { return &kSimservsTable; }
 
-int ix_Simservs::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) {
-    return 1;
-}
+int ix_Simservs::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) { return 1; }
 
-int ix_Simservs::addService(XMLElement* service) {
-    return ixAppend(mServiceList, service, kSourceFile, __LINE__);
-}
+int ix_Simservs::addService(XMLElement* service) { return ixAppend(mServiceList, service, kSourceFile, __LINE__); }
 
-int ix_Simservs::setServiceValue(IxSingleElementList* list) {
-    return ixSetElementList(mServiceList, list);
-}
+int ix_Simservs::setServiceValue(IxSingleElementList* list) { return ixSetElementList(mServiceList, list); }
 
-XMLElement* SimservsDataBinder::CreateRootElement() {
-    return IX_NEW(ix_Simservs);
-}
+XMLElement* SimservsDataBinder::CreateRootElement() { return IX_NEW(ix_Simservs); }
 
 XMLElement* SimservsUnMarshaller::UnMarshall(XMLFile* file) {
     return UnMarshall(file != nullptr ? file->Read() : nullptr);
@@ -433,9 +421,7 @@ char* SimservsMarshaller::WriteServices(const IxSingleElementList& services) {
     return nullptr;
 }
 
-int SimservsMarshaller::IsTruncated() const {
-    return m_bServiceTruncated ? 1 : XmlFamilyMarshaller::IsTruncated();
-}
+int SimservsMarshaller::IsTruncated() const { return m_bServiceTruncated ? 1 : XmlFamilyMarshaller::IsTruncated(); }
 
 int SimservsMarshaller::AddSimservsElementToXml(ix_Simservs* /*element*/) {
     StartElementOpen(IX_STR_SIMSERVS);

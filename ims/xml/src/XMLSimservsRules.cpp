@@ -70,9 +70,7 @@ constexpr XmlField kRuleServiceFields[] = {
 };
 constexpr XmlFieldTable kRuleServiceTable = {&kSimservTable, kRuleServiceFields, std::size(kRuleServiceFields)};
 
-int CountOf(const IxSingleElementList* list) {
-    return list != nullptr ? list->GetCount() : 0;
-}
+int CountOf(const IxSingleElementList* list) { return list != nullptr ? list->GetCount() : 0; }
 
 /// Takes the text of the element's own end tag. @return 1, or 0 for an object or without memory.
 int TakeOwnText(char*& field, e_XmlStrRef own, const char* name, const char* text, const XMLElement* child) {
@@ -82,13 +80,9 @@ int TakeOwnText(char*& field, e_XmlStrRef own, const char* name, const char* tex
 
 }  // namespace
 
-ix_ns_xcap_media_type::~ix_ns_xcap_media_type() {
-    XmlFields::Release(this, kMediaTable);
-}
+ix_ns_xcap_media_type::~ix_ns_xcap_media_type() { XmlFields::Release(this, kMediaTable); }
 
-const XmlFieldTable* ix_ns_xcap_media_type::FieldTable() const {
-    return &kMediaTable;
-}
+const XmlFieldTable* ix_ns_xcap_media_type::FieldTable() const { return &kMediaTable; }
 
 int ix_ns_xcap_media_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return TakeOwnText(mMedia, IX_STR_MEDIA, name, text, child);
@@ -98,33 +92,21 @@ ix_presence_status_activity_type::~ix_presence_status_activity_type() {
     XmlFields::Release(this, kPresenceStatusTable);
 }
 
-const XmlFieldTable* ix_presence_status_activity_type::FieldTable() const {
-    return &kPresenceStatusTable;
-}
+const XmlFieldTable* ix_presence_status_activity_type::FieldTable() const { return &kPresenceStatusTable; }
 
 int ix_presence_status_activity_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return TakeOwnText(mPresenceStatus, IX_STR_PRESENCE_STATUS, name, text, child);
 }
 
-ix_external_list::~ix_external_list() {
-    XmlFields::Release(this, kExternalListTable);
-}
+ix_external_list::~ix_external_list() { XmlFields::Release(this, kExternalListTable); }
 
-const XmlFieldTable* ix_external_list::FieldTable() const {
-    return &kExternalListTable;
-}
+const XmlFieldTable* ix_external_list::FieldTable() const { return &kExternalListTable; }
 
-const char* ix_ns_xcap_forward_to_type::RevealText(int value) {
-    return kReveal.TextOf(value);
-}
+const char* ix_ns_xcap_forward_to_type::RevealText(int value) { return kReveal.TextOf(value); }
 
-ix_ns_xcap_forward_to_type::~ix_ns_xcap_forward_to_type() {
-    XmlFields::Release(this, kForwardToTable);
-}
+ix_ns_xcap_forward_to_type::~ix_ns_xcap_forward_to_type() { XmlFields::Release(this, kForwardToTable); }
 
-const XmlFieldTable* ix_ns_xcap_forward_to_type::FieldTable() const {
-    return &kForwardToTable;
-}
+const XmlFieldTable* ix_ns_xcap_forward_to_type::FieldTable() const { return &kForwardToTable; }
 
 int ix_ns_xcap_forward_to_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr || child != nullptr) return 0;
@@ -147,13 +129,9 @@ int ix_ns_xcap_forward_to_type::ProcessUnMarshall(char* name, char* text, XMLEle
     return 0;
 }
 
-ix_ns_xcap_ruleServiceType::~ix_ns_xcap_ruleServiceType() {
-    XmlFields::Release(this, kRuleServiceTable);
-}
+ix_ns_xcap_ruleServiceType::~ix_ns_xcap_ruleServiceType() { XmlFields::Release(this, kRuleServiceTable); }
 
-const XmlFieldTable* ix_ns_xcap_ruleServiceType::FieldTable() const {
-    return &kRuleServiceTable;
-}
+const XmlFieldTable* ix_ns_xcap_ruleServiceType::FieldTable() const { return &kRuleServiceTable; }
 
 int ix_ns_xcap_ruleServiceType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     return ixNameIs(name, IX_STR_RULESET) ? ixTakeChild(mRuleset, child) : 1;
@@ -171,9 +149,7 @@ int ix_ns_xcap_ruleServiceType::setRulesetValue(ix_ns_common_policy_ruleset* rul
     return ruleset != nullptr ? ixSetChild(mRuleset, ruleset) : 1;
 }
 
-int ix_ns_xcap_ruleServiceType::ExtensionListLine() const {
-    return __LINE__;
-}
+int ix_ns_xcap_ruleServiceType::ExtensionListLine() const { return __LINE__; }
 
 /// A new element, registered under the service's own source file.
 #define IX_NEW_RULE_ELEMENT(type) IX_TRACKED_NEW(kSchemaModule, SourceFile(), __LINE__, type, ())
@@ -230,9 +206,7 @@ ix_ns_xcap_media_type* XmlRuleDataBinder::CreateMediaTypeElement() {
     return IX_NEW_RULE_ELEMENT(ix_ns_xcap_media_type);
 }
 
-ix_string* XmlRuleDataBinder::CreateStringElement() {
-    return IX_NEW_RULE_ELEMENT(ix_string);
-}
+ix_string* XmlRuleDataBinder::CreateStringElement() { return IX_NEW_RULE_ELEMENT(ix_string); }
 
 XmlRuleMarshaller::XmlRuleMarshaller(const XmlMarshallerInfo& info, const XmlRuleWriterTexts& texts)
     : XmlServiceMarshaller(info), m_texts(texts) {}

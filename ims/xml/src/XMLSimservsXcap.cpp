@@ -27,13 +27,9 @@ const XmlNamespaceRow kSimservsNamespaces[kSimservsNamespaceCount] = {
     {IX_STR_OCP, IX_STR_OCP, IX_STR_URN_OMA_XML_XDM_COMMON_POLICY},
 };
 
-ix_ns_xcap_simservType::~ix_ns_xcap_simservType() {
-    XmlFields::Release(this, kSimservTable);
-}
+ix_ns_xcap_simservType::~ix_ns_xcap_simservType() { XmlFields::Release(this, kSimservTable); }
 
-const XmlFieldTable* ix_ns_xcap_simservType::FieldTable() const {
-    return &kSimservTable;
-}
+const XmlFieldTable* ix_ns_xcap_simservType::FieldTable() const { return &kSimservTable; }
 
 int ix_ns_xcap_simservType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (name == nullptr) return 1;

@@ -19,13 +19,9 @@ constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__,
 
 }  // namespace
 
-const char* ix_terminating_identity_presentation::SourceFile() const {
-    return kSourceFile;
-}
+const char* ix_terminating_identity_presentation::SourceFile() const { return kSourceFile; }
 
-XMLElement* TIPDataBinder::CreateRootElement() {
-    return IX_NEW(ix_terminating_identity_presentation);
-}
+XMLElement* TIPDataBinder::CreateRootElement() { return IX_NEW(ix_terminating_identity_presentation); }
 
 TIPMarshaller::TIPMarshaller() : XmlIdentityPresentationMarshaller(kMarshallerInfo) {}
 

@@ -11,8 +11,6 @@ constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
 
 }  // namespace
 
-XMLElement* VolteConfigInfoDataBinder::CreateRootElement() {
-    return IX_NEW(ix_volte_config_info);
-}
+XMLElement* VolteConfigInfoDataBinder::CreateRootElement() { return IX_NEW(ix_volte_config_info); }
 
 IX_READING_FAMILY(VolteConfigInfoContext, VolteConfigInfoUnMarshaller, VolteConfigInfoDataBinder);

@@ -11,8 +11,6 @@ constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
 
 }  // namespace
 
-XMLElement* WapProvisioningDocDataBinder::CreateRootElement() {
-    return IX_NEW(ix_wap_provisioning_doc);
-}
+XMLElement* WapProvisioningDocDataBinder::CreateRootElement() { return IX_NEW(ix_wap_provisioning_doc); }
 
 IX_READING_FAMILY(WapProvisioningDocContext, WapProvisioningDocUnMarshaller, WapProvisioningDocDataBinder);

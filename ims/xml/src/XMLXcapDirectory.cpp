@@ -60,30 +60,20 @@ constexpr XmlFieldTable kEntryTable = {nullptr, kEntryFields, std::size(kEntryFi
 
 }  // namespace
 
-ix_xcap_directory::~ix_xcap_directory() {
-    XmlFields::Release(this, kDirectoryTable);
-}
+ix_xcap_directory::~ix_xcap_directory() { XmlFields::Release(this, kDirectoryTable); }
 
-const XmlFieldTable* ix_xcap_directory::FieldTable() const {
-    return &kDirectoryTable;
-}
+const XmlFieldTable* ix_xcap_directory::FieldTable() const { return &kDirectoryTable; }
 
 int ix_xcap_directory::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (!ixNameIs(name, IX_STR_FOLDER)) return 1;
     return ixTakeInto<ix_folder>(mFolderList, child, kSourceFile, __LINE__);
 }
 
-int ix_xcap_directory::addFolder(ix_folder* folder) {
-    return ixAppend(mFolderList, folder, kSourceFile, __LINE__);
-}
+int ix_xcap_directory::addFolder(ix_folder* folder) { return ixAppend(mFolderList, folder, kSourceFile, __LINE__); }
 
-ix_folder::~ix_folder() {
-    XmlFields::Release(this, kFolderTable);
-}
+ix_folder::~ix_folder() { XmlFields::Release(this, kFolderTable); }
 
-const XmlFieldTable* ix_folder::FieldTable() const {
-    return &kFolderTable;
-}
+const XmlFieldTable* ix_folder::FieldTable() const { return &kFolderTable; }
 
 int ix_folder::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (ixNameIs(name, IX_STR_ENTRY)) {
@@ -98,17 +88,11 @@ int ix_folder::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttri
     return 1;
 }
 
-int ix_folder::addEntry(ix_entry* entry) {
-    return ixAppend(mEntryList, entry, kSourceFile, __LINE__);
-}
+int ix_folder::addEntry(ix_entry* entry) { return ixAppend(mEntryList, entry, kSourceFile, __LINE__); }
 
-ix_entry::~ix_entry() {
-    XmlFields::Release(this, kEntryTable);
-}
+ix_entry::~ix_entry() { XmlFields::Release(this, kEntryTable); }
 
-const XmlFieldTable* ix_entry::FieldTable() const {
-    return &kEntryTable;
-}
+const XmlFieldTable* ix_entry::FieldTable() const { return &kEntryTable; }
 
 int ix_entry::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     if (ixNameIs(attribute, IX_STR_URI)) return ixTakeText(mUri, value, pair);
@@ -128,17 +112,11 @@ int ix_entry::addExtension(ix_AttributeValuePair* pair) {
     return ixAppend(mExtensionList, pair, kSourceFile, __LINE__);
 }
 
-XMLElement* XcapDirectoryDataBinder::CreateRootElement() {
-    return IX_NEW(ix_xcap_directory);
-}
+XMLElement* XcapDirectoryDataBinder::CreateRootElement() { return IX_NEW(ix_xcap_directory); }
 
-ix_folder* XcapDirectoryDataBinder::CreateFolderElement() {
-    return IX_NEW(ix_folder);
-}
+ix_folder* XcapDirectoryDataBinder::CreateFolderElement() { return IX_NEW(ix_folder); }
 
-ix_entry* XcapDirectoryDataBinder::CreateEntryElement() {
-    return IX_NEW(ix_entry);
-}
+ix_entry* XcapDirectoryDataBinder::CreateEntryElement() { return IX_NEW(ix_entry); }
 
 XcapDirectoryMarshaller::XcapDirectoryMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

@@ -87,25 +87,17 @@ constexpr ErrorRow kErrors[] = {
 
 }  // namespace
 
-ix_phraseType::~ix_phraseType() {
-    XmlFields::Release(this, kPhraseTable);
-}
+ix_phraseType::~ix_phraseType() { XmlFields::Release(this, kPhraseTable); }
 
-const XmlFieldTable* ix_phraseType::FieldTable() const {
-    return &kPhraseTable;
-}
+const XmlFieldTable* ix_phraseType::FieldTable() const { return &kPhraseTable; }
 
 int ix_phraseType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
     return ixNameIs(attribute, IX_STR_PHRASE) ? ixTakeText(mPhrase, value, pair) : 1;
 }
 
-ix_xcap_error::~ix_xcap_error() {
-    XmlFields::Release(this, kXcapErrorTable);
-}
+ix_xcap_error::~ix_xcap_error() { XmlFields::Release(this, kXcapErrorTable); }
 
-const XmlFieldTable* ix_xcap_error::FieldTable() const {
-    return &kXcapErrorTable;
-}
+const XmlFieldTable* ix_xcap_error::FieldTable() const { return &kXcapErrorTable; }
 
 int ix_xcap_error::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     for (const ErrorRow& error : kErrors) {
@@ -115,46 +107,30 @@ int ix_xcap_error::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* chi
     return 1;
 }
 
-const XmlFieldTable* ix_extension::FieldTable() const {
-    return &kExtensionTable;
-}
+const XmlFieldTable* ix_extension::FieldTable() const { return &kExtensionTable; }
 
-ix_no_parent::~ix_no_parent() {
-    XmlFields::Release(this, kNoParentTable);
-}
+ix_no_parent::~ix_no_parent() { XmlFields::Release(this, kNoParentTable); }
 
-const XmlFieldTable* ix_no_parent::FieldTable() const {
-    return &kNoParentTable;
-}
+const XmlFieldTable* ix_no_parent::FieldTable() const { return &kNoParentTable; }
 
 int ix_no_parent::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     return ixEndNameIs(name, IX_STR_ANCESTOR) ? ixTakeText(mAncestor, text, child) : 1;
 }
 
-ix_uniqueness_failure::~ix_uniqueness_failure() {
-    XmlFields::Release(this, kUniquenessFailureTable);
-}
+ix_uniqueness_failure::~ix_uniqueness_failure() { XmlFields::Release(this, kUniquenessFailureTable); }
 
-const XmlFieldTable* ix_uniqueness_failure::FieldTable() const {
-    return &kUniquenessFailureTable;
-}
+const XmlFieldTable* ix_uniqueness_failure::FieldTable() const { return &kUniquenessFailureTable; }
 
 int ix_uniqueness_failure::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
     if (!ixNameIs(name, IX_STR_EXISTS)) return 1;
     return ixTakeInto<ix_exists>(mExistsList, child, kSourceFile, __LINE__);
 }
 
-int ix_uniqueness_failure::addExists(ix_exists* exists) {
-    return ixAppend(mExistsList, exists, kSourceFile, __LINE__);
-}
+int ix_uniqueness_failure::addExists(ix_exists* exists) { return ixAppend(mExistsList, exists, kSourceFile, __LINE__); }
 
-ix_exists::~ix_exists() {
-    XmlFields::Release(this, kExistsTable);
-}
+ix_exists::~ix_exists() { XmlFields::Release(this, kExistsTable); }
 
-const XmlFieldTable* ix_exists::FieldTable() const {
-    return &kExistsTable;
-}
+const XmlFieldTable* ix_exists::FieldTable() const { return &kExistsTable; }
 
 int ix_exists::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     if (!ixEndNameIs(name, IX_STR_ALT_VALUE)) return 1;
@@ -170,61 +146,35 @@ int ix_exists::addAltValue(const char* value) {
     return ixAppendText(mAltValueList, value, value != nullptr ? __strlen(value) : 0, kSourceFile, __LINE__);
 }
 
-XMLElement* XcapErrorDataBinder::CreateRootElement() {
-    return IX_NEW(ix_xcap_error);
-}
+XMLElement* XcapErrorDataBinder::CreateRootElement() { return IX_NEW(ix_xcap_error); }
 
-ix_extension* XcapErrorDataBinder::CreateExtensionElement() {
-    return IX_NEW(ix_extension);
-}
+ix_extension* XcapErrorDataBinder::CreateExtensionElement() { return IX_NEW(ix_extension); }
 
-ix_not_utf_8* XcapErrorDataBinder::CreateNot_utf_8Element() {
-    return IX_NEW(ix_not_utf_8);
-}
+ix_not_utf_8* XcapErrorDataBinder::CreateNot_utf_8Element() { return IX_NEW(ix_not_utf_8); }
 
-ix_cannot_delete* XcapErrorDataBinder::CreateCannot_deleteElement() {
-    return IX_NEW(ix_cannot_delete);
-}
+ix_cannot_delete* XcapErrorDataBinder::CreateCannot_deleteElement() { return IX_NEW(ix_cannot_delete); }
 
-ix_constraint_failure* XcapErrorDataBinder::CreateConstraint_failureElement() {
-    return IX_NEW(ix_constraint_failure);
-}
+ix_constraint_failure* XcapErrorDataBinder::CreateConstraint_failureElement() { return IX_NEW(ix_constraint_failure); }
 
-ix_not_well_formed* XcapErrorDataBinder::CreateNot_well_formedElement() {
-    return IX_NEW(ix_not_well_formed);
-}
+ix_not_well_formed* XcapErrorDataBinder::CreateNot_well_formedElement() { return IX_NEW(ix_not_well_formed); }
 
-ix_exists* XcapErrorDataBinder::CreateExistsElement() {
-    return IX_NEW(ix_exists);
-}
+ix_exists* XcapErrorDataBinder::CreateExistsElement() { return IX_NEW(ix_exists); }
 
-ix_uniqueness_failure* XcapErrorDataBinder::CreateUniqueness_failureElement() {
-    return IX_NEW(ix_uniqueness_failure);
-}
+ix_uniqueness_failure* XcapErrorDataBinder::CreateUniqueness_failureElement() { return IX_NEW(ix_uniqueness_failure); }
 
-ix_not_xml_att_value* XcapErrorDataBinder::CreateNot_xml_att_valueElement() {
-    return IX_NEW(ix_not_xml_att_value);
-}
+ix_not_xml_att_value* XcapErrorDataBinder::CreateNot_xml_att_valueElement() { return IX_NEW(ix_not_xml_att_value); }
 
-ix_cannot_insert* XcapErrorDataBinder::CreateCannot_insertElement() {
-    return IX_NEW(ix_cannot_insert);
-}
+ix_cannot_insert* XcapErrorDataBinder::CreateCannot_insertElement() { return IX_NEW(ix_cannot_insert); }
 
-ix_no_parent* XcapErrorDataBinder::CreateNo_parentElement() {
-    return IX_NEW(ix_no_parent);
-}
+ix_no_parent* XcapErrorDataBinder::CreateNo_parentElement() { return IX_NEW(ix_no_parent); }
 
-ix_not_xml_frag* XcapErrorDataBinder::CreateNot_xml_fragElement() {
-    return IX_NEW(ix_not_xml_frag);
-}
+ix_not_xml_frag* XcapErrorDataBinder::CreateNot_xml_fragElement() { return IX_NEW(ix_not_xml_frag); }
 
 ix_schema_validation_error* XcapErrorDataBinder::CreateSchema_validation_errorElement() {
     return IX_NEW(ix_schema_validation_error);
 }
 
-IxSingleElementList* XcapErrorDataBinder::CreateList() {
-    return IX_NEW(IxSingleElementList);
-}
+IxSingleElementList* XcapErrorDataBinder::CreateList() { return IX_NEW(IxSingleElementList); }
 
 Xcap_ErrorMarshall::Xcap_ErrorMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
 

@@ -24,13 +24,9 @@ int XmlCommon::IsEmailFormat(const char* text) {
     return __strchr(text, '@') != nullptr ? 1 : 0;
 }
 
-char* XmlCommon::LocateBeginElement(char* text) {
-    return text != nullptr ? __strchr(text, '<') : nullptr;
-}
+char* XmlCommon::LocateBeginElement(char* text) { return text != nullptr ? __strchr(text, '<') : nullptr; }
 
-char* XmlCommon::LocateEndElement(char* text) {
-    return text != nullptr ? __strchr(text, '>') : nullptr;
-}
+char* XmlCommon::LocateEndElement(char* text) { return text != nullptr ? __strchr(text, '>') : nullptr; }
 
 XmlWorkText::~XmlWorkText() {
     if (m_pText != m_short) __free(m_pText);

@@ -146,17 +146,11 @@ char* CutAt(char* text, char delimiter, char* end, char** rest) {
 
 }  // namespace
 
-int XmlDecoderSchema::ReservedLast() {
-    return 0;
-}
+int XmlDecoderSchema::ReservedLast() { return 0; }
 
-XmlDecoder::XmlDecoder() {
-    InitXmlDecoder();
-}
+XmlDecoder::XmlDecoder() { InitXmlDecoder(); }
 
-XmlDecoder::~XmlDecoder() {
-    ResetXmlDecoder();
-}
+XmlDecoder::~XmlDecoder() { ResetXmlDecoder(); }
 
 void XmlDecoder::InitXmlDecoder() {
     if (m_pElementStack == nullptr) {
@@ -465,9 +459,7 @@ int XmlDecoder::ValidateList(char* text, const char* end) {
     return 0;
 }
 
-unsigned int XmlDecoder::PushElement(const char* name) {
-    return PushName(name, __strlen(name)) ? 1 : 0;
-}
+unsigned int XmlDecoder::PushElement(const char* name) { return PushName(name, __strlen(name)) ? 1 : 0; }
 
 bool XmlDecoder::PushName(const char* name, std::size_t length) {
     if (m_pElementStack == nullptr) return false;

@@ -209,9 +209,7 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     return OtherAttribute(*receiver, attribute, value);
 }
 
-int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) {
-    return 0;
-}
+int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) { return 0; }
 
 /// The row of a start tag. @param local out: the local part of its name.
 const XmlContainerRow* XmlFamilyDecoder::FindContainer(char* name, char** local) const {
@@ -396,9 +394,7 @@ XmlFamilyMarshaller::XmlFamilyMarshaller(const XmlMarshallerInfo& info) : m_info
                     info.noNamespace);
 }
 
-XmlFamilyMarshaller::~XmlFamilyMarshaller() {
-    __free(m_pXml);
-}
+XmlFamilyMarshaller::~XmlFamilyMarshaller() { __free(m_pXml); }
 
 int XmlFamilyMarshaller::SetNameSpaceBinderInfo(XMLObject* binder) {
     return m_namespaces.Bind(NamespacesOf(binder)) ? 1 : 0;

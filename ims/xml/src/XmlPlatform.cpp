@@ -1,17 +1,9 @@
 #include "XmlPlatform.h"
 
-void* XmlHeapObject::operator new(std::size_t size) noexcept {
-    return __malloc(size);
-}
+void* XmlHeapObject::operator new(std::size_t size) noexcept { return __malloc(size); }
 
-void* XmlHeapObject::operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    return __malloc(size);
-}
+void* XmlHeapObject::operator new(std::size_t size, const std::nothrow_t&) noexcept { return __malloc(size); }
 
-void XmlHeapObject::operator delete(void* object) noexcept {
-    __free(object);
-}
+void XmlHeapObject::operator delete(void* object) noexcept { __free(object); }
 
-void XmlHeapObject::operator delete(void* object, const std::nothrow_t&) noexcept {
-    __free(object);
-}
+void XmlHeapObject::operator delete(void* object, const std::nothrow_t&) noexcept { __free(object); }

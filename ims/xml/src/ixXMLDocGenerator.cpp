@@ -27,13 +27,9 @@ inline void IxXMLDocGenerator::Append(const char* text, std::size_t length) {
     m_pBuffer[m_length] = '\0';
 }
 
-inline void IxXMLDocGenerator::Append(const char* text) {
-    Append(text, std::strlen(text));
-}
+inline void IxXMLDocGenerator::Append(const char* text) { Append(text, std::strlen(text)); }
 
-IxXMLDocGenerator::~IxXMLDocGenerator() {
-    ixDeInitXmlDoc();
-}
+IxXMLDocGenerator::~IxXMLDocGenerator() { ixDeInitXmlDoc(); }
 
 void IxXMLDocGenerator::ClearFields() {
     m_iHeaderWritten = 0;
