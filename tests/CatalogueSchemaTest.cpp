@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 #include "XmlTest.h"
 
@@ -94,30 +94,30 @@ int ix_catalogue::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAt
     return 1;
 }
 
-constexpr XmlKnownName kFolder = {IX_STR_FOLDER};
-constexpr XmlContainerRow kContainers[] = {
-    {kFolder, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_catalogue)},
-    {{IX_STR_TERM, XmlKnownName::Required, IX_STR_OP}, XmlContainerRow::Child, IX_OBJECT(ix_term)},
-    {{IX_STR_NOTE}, XmlContainerRow::Child, IX_OBJECT(ix_term)},
-    {{IX_STR_BUSY}, XmlContainerRow::Leaf, nullptr, IX_CREATOR(ix_empty_element_type)},
+constexpr XmlOldKnownName kFolder = {IX_STR_FOLDER};
+constexpr XmlOldContainerRow kContainers[] = {
+    {kFolder, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_catalogue)},
+    {{IX_STR_TERM, XmlOldKnownName::Required, IX_STR_OP}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_term)},
+    {{IX_STR_NOTE}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_term)},
+    {{IX_STR_BUSY}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_empty_element_type)},
 };
-constexpr XmlAttributeRow kAttributes[] = {{kFolder, IX_STR_AUID}, {kFolder, IX_STR_SIZE}};
+constexpr XmlOldAttributeRow kAttributes[] = {{kFolder, IX_STR_AUID}, {kFolder, IX_STR_SIZE}};
 
-constexpr XmlDecoderInfo kDecoderInfo = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
+constexpr XmlOldDecoderInfo kDecoderInfo = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
 
-class XMLCatalogueDecoder : public XmlFamilyDecoder {
+class XMLCatalogueDecoder : public XmlOldFamilyDecoder {
   public:
-    XMLCatalogueDecoder() : XmlFamilyDecoder(kDecoderInfo) {}
+    XMLCatalogueDecoder() : XmlOldFamilyDecoder(kDecoderInfo) {}
 };
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLCatalogueDecoder, "CatalogueUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_OLD_UNMARSHALLER_INFO(XMLCatalogueDecoder, "CatalogueUnMarshaller");
 
-class CatalogueUnMarshaller : public XmlFamilyUnMarshaller {
+class CatalogueUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override { return kUnMarshallerInfo; }
+    const XmlOldUnMarshallerInfo& Info() const override { return kUnMarshallerInfo; }
 };
 
-class CatalogueMarshaller : public XmlFamilyMarshaller {
+class CatalogueMarshaller : public XmlOldFamilyMarshaller {
   public:
     CatalogueMarshaller();
 
@@ -125,27 +125,27 @@ class CatalogueMarshaller : public XmlFamilyMarshaller {
     int AddTermElementToXml(ix_term* term);
 };
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(CatalogueMarshaller, AddCatalogueElementToXml, ix_catalogue)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(CatalogueMarshaller, AddCatalogueElementToXml, ix_catalogue)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    IX_MARSHALL_TEXTS(info, "CatalogueMarshaller", "mCatalogueXml");
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
+    IX_OLD_MARSHALL_TEXTS(info, "CatalogueMarshaller", "mCatalogueXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kTermFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddTermElementToXml: term %d failed"};
 
-CatalogueMarshaller::CatalogueMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+CatalogueMarshaller::CatalogueMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int CatalogueMarshaller::AddCatalogueElementToXml(ix_catalogue* catalogue) {
     StartElementOpen(IX_STR_FOLDER);
     AddAttribute(IX_STR_AUID, catalogue->mAuid, Attribute::Open);
     AddDecimalAttribute(IX_STR_SIZE, catalogue->mSize, Attribute::Closing);
     AddDecimalElement(IX_STR_VERSION, -9223372036854775807 - 1);
-    const XmlWriter addTerm = IX_WRITER(CatalogueMarshaller, AddTermElementToXml, ix_term);
+    const XmlOldWriter addTerm = IX_OLD_WRITER(CatalogueMarshaller, AddTermElementToXml, ix_term);
     if (AddChildList(catalogue->mTermList, addTerm, kTermFailed) == 0) return 0;
     EndElement(IX_STR_FOLDER);
     return 1;
@@ -154,7 +154,7 @@ int CatalogueMarshaller::AddCatalogueElementToXml(ix_catalogue* catalogue) {
 int CatalogueMarshaller::AddTermElementToXml(ix_term* term) {
     if (term->mTitle == nullptr) return 0;
     AddTextElement(IX_STR_TITLE, term->mTitle);
-    return AddChildList(term->mTermList, IX_WRITER(CatalogueMarshaller, AddTermElementToXml, ix_term), kTermFailed);
+    return AddChildList(term->mTermList, IX_OLD_WRITER(CatalogueMarshaller, AddTermElementToXml, ix_term), kTermFailed);
 }
 // [schema]
 
@@ -185,20 +185,20 @@ TEST_F(CatalogueTest, ContainersAreFiledPushedAndPopped) {
 
 // The index of a table has room for 64 rows.
 TEST_F(CatalogueTest, AllRowsOfALongTableCount) {
-    std::vector<XmlContainerRow> rows(70, kContainers[2]);
-    for (XmlContainerRow& row : rows) row.parentClass = "nobody";
+    std::vector<XmlOldContainerRow> rows(70, kContainers[2]);
+    for (XmlOldContainerRow& row : rows) row.parentClass = "nobody";
     rows[63] = kContainers[0];
     rows[69] = kContainers[2];
-    std::vector<XmlAttributeRow> attributes(70, kAttributes[1]);
-    for (XmlAttributeRow& row : attributes) row.className = "nobody";
+    std::vector<XmlOldAttributeRow> attributes(70, kAttributes[1]);
+    for (XmlOldAttributeRow& row : attributes) row.className = "nobody";
     attributes[69] = kAttributes[0];
-    XmlDecoderInfo info = kDecoderInfo;
+    XmlOldDecoderInfo info = kDecoderInfo;
     info.containers = rows.data();
     info.containerCount = rows.size();
     info.attributes = attributes.data();
     info.attributeCount = attributes.size();
-    struct LongDecoder : XmlFamilyDecoder {
-        explicit LongDecoder(const XmlDecoderInfo& table) : XmlFamilyDecoder(table) {}
+    struct LongDecoder : XmlOldFamilyDecoder {
+        explicit LongDecoder(const XmlOldDecoderInfo& table) : XmlOldFamilyDecoder(table) {}
     } decoder(info);
     std::string text = "<folder auid=\"a\"><note/></folder>";
     XmlDecoder tokenizer;

@@ -14,7 +14,7 @@ namespace {
 const std::string kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 
 /// Decoders answer events without names with -1, and attributes outside of the root with 0.
-void ExpectNamelessEventsRefused(XmlFamilyDecoder& decoder, int refusedAttribute) {
+void ExpectNamelessEventsRefused(XmlDecoderSchema& decoder, int refusedAttribute) {
     char name[] = "name";
     EXPECT_EQ(decoder.ProcessElement(nullptr, nullptr), -1);
     EXPECT_EQ(decoder.ProcessAttribute(nullptr, name, name), refusedAttribute);

@@ -68,7 +68,7 @@ TEST_F(ListsTest, WhatIsFiledWhere) {
          "(absent)"},
         {rlmi, "<list fullState=\"true \"/>", "/fullState", "false"},
         {rlmi, "<list version=\" 12th\"/>", "/version", "12"},
-        {rlmi, "<list version=\"4294967296\"/>", "/version", "4294967295"},
+        {rlmi, "<list version=\"4294967296\"/>", "/version", "0"},
         {rlmi, "<list version=\"none\"/>", "/version", "0"},
     });
 }
@@ -99,7 +99,7 @@ TEST_F(ListsTest, EventsWithoutNamesAreRejected) {
     XMLRlsServicesDecoder services;
     XMLListDecoder rlmi;
     const struct {
-        XmlFamilyDecoder* decoder;
+        XmlDecoderSchema* decoder;
         const char* file;
         std::string family;
     } cases[] = {

@@ -460,7 +460,7 @@ TEST_F(RulesTest, DecodersRefuseEventsWithoutNames) {
     } diversion;
     XMLCommunicationBarringDecoder barring;
     const struct {
-        XmlFamilyDecoder& decoder;
+        XmlDecoderSchema& decoder;
         std::string name;
     } cases[] = {{diversion, "XMLCommunicationDiversionDecoder"}, {barring, "XMLCommunicationBarringDecoder"}};
     for (const auto& c : cases) {

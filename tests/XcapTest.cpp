@@ -341,7 +341,7 @@ TEST_F(XcapTest, DecodersRefuseEventsWithoutNames) {
     XMLXcapErrorDecoder error;
     XMLXcapDirectoryDecoder directory;
     const struct {
-        XmlFamilyDecoder& decoder;
+        XmlDecoderSchema& decoder;
         std::string name;
     } cases[] = {{error, "XMLXcapErrorDecoder"}, {directory, "XMLXcapDirectoryDecoder"}};
     for (const auto& c : cases) {

@@ -62,7 +62,7 @@ void FamilyTest::ExpectTakesText(XMLElement& element, const std::string& name, c
     EXPECT_STREQ(field, "kept");
 }
 
-Strings FamilyTest::RefusedEvents(XmlFamilyDecoder& decoder) {
+Strings FamilyTest::RefusedEvents(XmlDecoderSchema& decoder) {
     // Longer than the room that a decoder begins with.
     std::string name(100, 'x');
     ClearLog();

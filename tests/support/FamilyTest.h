@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "XMLList.h"
-#include "XmlFamily.h"
+#include "XmlDecoder.h"
+#include "XmlElementSupport.h"
+#include "XmlFields.h"
 #include "XmlTest.h"
 
 using Strings = std::vector<std::string>;
@@ -55,7 +57,7 @@ class FamilyTest : public XmlTest {
 
     /// Gives `decoder` events without a name, and events with names that there is no memory for: an element and an
     /// attribute each. Checks that it refuses them. @return what it logged.
-    Strings RefusedEvents(XmlFamilyDecoder& decoder);
+    Strings RefusedEvents(XmlDecoderSchema& decoder);
 
     /// Decodes with a fresh context, and with a namespace binder when there is one.
     static XMLElement* Decode(eXMLSchemaID id, const std::string& text, XMLObject* binder = nullptr);

@@ -3,9 +3,9 @@
 #ifndef IX_BOOTSTRAPPING_INFO_H
 #define IX_BOOTSTRAPPING_INFO_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLBootstrappingInfoDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLBootstrappingInfoDecoder : public XmlOldFamilyDecoder {
   public:
     XMLBootstrappingInfoDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_CW_INDICATION_H
 #define IX_CW_INDICATION_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLCWIndicationDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLCWIndicationDecoder : public XmlOldFamilyDecoder {
   public:
     XMLCWIndicationDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_CALL_WAITING_INDICATION_H
 #define IX_CALL_WAITING_INDICATION_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLCallWaitingIndicationDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLCallWaitingIndicationDecoder : public XmlOldFamilyDecoder {
   public:
     XMLCallWaitingIndicationDecoder();
 

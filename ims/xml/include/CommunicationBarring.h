@@ -3,9 +3,9 @@
 #ifndef IX_COMMUNICATION_BARRING_H
 #define IX_COMMUNICATION_BARRING_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLCommunicationBarringDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLCommunicationBarringDecoder : public XmlOldFamilyDecoder {
   public:
     XMLCommunicationBarringDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_COMMUNICATION_DIVERSION_H
 #define IX_COMMUNICATION_DIVERSION_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLCommunicationDiversionDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLCommunicationDiversionDecoder : public XmlOldFamilyDecoder {
   public:
     XMLCommunicationDiversionDecoder();
 

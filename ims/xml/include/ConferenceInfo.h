@@ -3,9 +3,9 @@
 #ifndef IX_CONFERENCE_INFO_H
 #define IX_CONFERENCE_INFO_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLConferenceInfoDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLConferenceInfoDecoder : public XmlOldFamilyDecoder {
   public:
     XMLConferenceInfoDecoder();
 

@@ -3,9 +3,9 @@
 #ifndef IX_FT_H
 #define IX_FT_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLFileDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLFileDecoder : public XmlOldFamilyDecoder {
   public:
     XMLFileDecoder();
 };

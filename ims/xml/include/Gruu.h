@@ -3,9 +3,9 @@
 #ifndef IX_GRUU_H
 #define IX_GRUU_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLGruuDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLGruuDecoder : public XmlOldFamilyDecoder {
   public:
     XMLGruuDecoder();
 

@@ -3,9 +3,9 @@
 #ifndef IX_IMDN_H
 #define IX_IMDN_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLImdnDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLImdnDecoder : public XmlOldFamilyDecoder {
   public:
     XMLImdnDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_IS_COMPOSING_H
 #define IX_IS_COMPOSING_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLIsComposingDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLIsComposingDecoder : public XmlOldFamilyDecoder {
   public:
     XMLIsComposingDecoder();
 };

@@ -3,11 +3,11 @@
 #ifndef IX_MEDIA_CONTROL_H
 #define IX_MEDIA_CONTROL_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
 /// `picture_fast_update` keeps the name that it has in the document, prefix included. Elements take names without
 /// prefix, so its tags are handled apart.
-class IX_XML_EXPORT XMLMediaControlDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLMediaControlDecoder : public XmlOldFamilyDecoder {
   public:
     XMLMediaControlDecoder();
 

@@ -3,9 +3,9 @@
 #ifndef IX_ORIGINATING_IDENTITY_PRESENTATION_H
 #define IX_ORIGINATING_IDENTITY_PRESENTATION_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLOIPDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLOIPDecoder : public XmlOldFamilyDecoder {
   public:
     XMLOIPDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_PRESENCE_H
 #define IX_PRESENCE_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLPresenceDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLPresenceDecoder : public XmlOldFamilyDecoder {
   public:
     XMLPresenceDecoder();
 
@@ -27,7 +27,7 @@ class IX_XML_EXPORT XMLPresenceDecoder : public XmlFamilyDecoder {
     Origin OriginOf(const char* name) const;
     void LogOutside(const char* name) const;
 
-    XmlRowIndex m_names;
+    XmlOldRowIndex m_names;
 };
 
 #endif

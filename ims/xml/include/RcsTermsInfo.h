@@ -3,9 +3,9 @@
 #ifndef IX_RCS_TERMS_INFO_H
 #define IX_RCS_TERMS_INFO_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLRcsTermsInfoDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLRcsTermsInfoDecoder : public XmlOldFamilyDecoder {
   public:
     XMLRcsTermsInfoDecoder();
 };

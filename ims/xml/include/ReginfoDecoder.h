@@ -3,9 +3,9 @@
 #ifndef IX_REGINFO_DECODER_H
 #define IX_REGINFO_DECODER_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLReginfoDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLReginfoDecoder : public XmlOldFamilyDecoder {
   public:
     XMLReginfoDecoder();
 

@@ -3,9 +3,9 @@
 #ifndef IX_RESOURCE_LISTS_H
 #define IX_RESOURCE_LISTS_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLResourceListsDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLResourceListsDecoder : public XmlOldFamilyDecoder {
   public:
     XMLResourceListsDecoder();
 };

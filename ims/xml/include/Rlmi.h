@@ -3,7 +3,7 @@
 #ifndef IX_RLMI_H
 #define IX_RLMI_H
 
-#include "XmlFamily.h"
+#include "XmlFamilyDecoder.h"
 
 class IX_XML_EXPORT XMLListDecoder : public XmlFamilyDecoder {
   public:

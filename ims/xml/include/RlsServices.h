@@ -3,9 +3,9 @@
 #ifndef IX_RLS_SERVICES_H
 #define IX_RLS_SERVICES_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLRlsServicesDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLRlsServicesDecoder : public XmlOldFamilyDecoder {
   public:
     XMLRlsServicesDecoder();
 };

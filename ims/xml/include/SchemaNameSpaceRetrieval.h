@@ -3,7 +3,7 @@
 #ifndef IX_SCHEMA_NAME_SPACE_RETRIEVAL_H
 #define IX_SCHEMA_NAME_SPACE_RETRIEVAL_H
 
-#include "XmlFamily.h"
+#include "XmlFamilyDecoder.h"
 
 /// Collects declarations and looks at nothing else. Its result is there from the start, even for a text without
 /// elements.

@@ -3,9 +3,9 @@
 #ifndef IX_SIMSERVS_H
 #define IX_SIMSERVS_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLSimservsDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLSimservsDecoder : public XmlOldFamilyDecoder {
   public:
     XMLSimservsDecoder();
 

@@ -5,24 +5,24 @@
 
 #include "XMLSimservsXcap.h"
 
-/// Containers and attributes of rules, their conditions and actions, to be shared by `XmlDecoderInfo::shared`.
+/// Containers and attributes of rules, their conditions and actions, to be shared by `XmlOldDecoderInfo::shared`.
 ///
 /// Elements of common-policy must have the canonical prefix `cp`, those of the services may have `ss`. What is none of
 /// them goes to the object on top of the stack, under its local name.
-extern IX_XML_EXPORT const XmlDecoderInfo kRuleDecoderInfo;
+extern IX_XML_EXPORT const XmlOldDecoderInfo kRuleDecoderInfo;
 
 /// What the decoders of these services share; the log lines are their own.
 /// @param pairLine source line under which attribute pairs are registered.
 /// @param containers the roots, and what the service has in its rules besides the shared elements.
 /// @param attributes those of the roots.
 template <std::size_t containerCount, std::size_t attributeCount>
-constexpr XmlDecoderInfo ixRuleServiceDecoderInfo(const char* source, int pairLine,
-                                                  const XmlContainerRow (&containers)[containerCount],
-                                                  const XmlAttributeRow (&attributes)[attributeCount]) {
-    XmlDecoderInfo info = ixServiceDecoderInfo(source, pairLine, containers, attributes);
+constexpr XmlOldDecoderInfo ixRuleServiceDecoderInfo(const char* source, int pairLine,
+                                                  const XmlOldContainerRow (&containers)[containerCount],
+                                                  const XmlOldAttributeRow (&attributes)[attributeCount]) {
+    XmlOldDecoderInfo info = ixServiceDecoderInfo(source, pairLine, containers, attributes);
     info.handsOnLocalNames = true;
     info.takesFragments = true;
-    info.attributePolicy = XmlAttributePolicy::RootPairs;
+    info.attributePolicy = XmlOldAttributePolicy::RootPairs;
     info.shared = &kRuleDecoderInfo;
     return info;
 }

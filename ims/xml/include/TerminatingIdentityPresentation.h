@@ -3,9 +3,9 @@
 #ifndef IX_TERMINATING_IDENTITY_PRESENTATION_H
 #define IX_TERMINATING_IDENTITY_PRESENTATION_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLTIPDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLTIPDecoder : public XmlOldFamilyDecoder {
   public:
     XMLTIPDecoder();
 };

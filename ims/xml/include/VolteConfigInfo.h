@@ -3,9 +3,9 @@
 #ifndef IX_VOLTE_CONFIG_INFO_H
 #define IX_VOLTE_CONFIG_INFO_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLVolteConfigInfoDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLVolteConfigInfoDecoder : public XmlOldFamilyDecoder {
   public:
     XMLVolteConfigInfoDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_WAP_PROVISIONING_DOC_H
 #define IX_WAP_PROVISIONING_DOC_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLWapProvisioningDocDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLWapProvisioningDocDecoder : public XmlOldFamilyDecoder {
   public:
     XMLWapProvisioningDocDecoder();
 };

@@ -10,7 +10,7 @@
 #define IX_XML_BOOTSTRAPPING_INFO_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element `BootstrappingInfo`.
@@ -48,13 +48,13 @@ class IX_XML_EXPORT BootstrappingInfoDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT BootstrappingInfoUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT BootstrappingInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document. A text that is not set is logged and left out.
-class IX_XML_EXPORT BootstrappingInfoMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT BootstrappingInfoMarshaller : public XmlOldFamilyMarshaller {
   public:
     BootstrappingInfoMarshaller();
 
@@ -66,10 +66,10 @@ class IX_XML_EXPORT BootstrappingInfoMarshaller : public XmlFamilyMarshaller {
     int AddLifetimeElementToXml(const char* lifetime);
 };
 
-class IX_XML_EXPORT BootstrappingInfoContext : public XmlFamilyContext {
+class IX_XML_EXPORT BootstrappingInfoContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

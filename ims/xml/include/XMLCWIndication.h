@@ -71,9 +71,9 @@ class IX_XML_EXPORT CWIndicationDataBinder : public XMLObjectFactory {
     ix_alternative_service* CreateAlternativeServiceElement();
 };
 
-class IX_XML_EXPORT CWIndicationUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT CWIndicationUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the document without XML declaration.
@@ -88,10 +88,10 @@ class IX_XML_EXPORT CWIndicationMarshaller : public XmlImsBodyMarshaller {
     /// @}
 };
 
-class IX_XML_EXPORT CWIndicationContext : public XmlFamilyContext {
+class IX_XML_EXPORT CWIndicationContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

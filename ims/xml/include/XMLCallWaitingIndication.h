@@ -88,9 +88,9 @@ class IX_XML_EXPORT CallWaitingIndicationDataBinder : public XMLObjectFactory {
     ix_empty_element_type* CreateCallWaitingIndicationElement();
 };
 
-class IX_XML_EXPORT CallWaitingIndicationUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT CallWaitingIndicationUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the document without XML declaration. An element without its child is written empty; an indication that is
@@ -109,10 +109,10 @@ class IX_XML_EXPORT CallWaitingIndicationMarshaller : public XmlImsBodyMarshalle
     /// @}
 };
 
-class IX_XML_EXPORT CallWaitingIndicationContext : public XmlFamilyContext {
+class IX_XML_EXPORT CallWaitingIndicationContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

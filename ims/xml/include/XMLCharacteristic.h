@@ -15,7 +15,7 @@
 #ifndef IX_XML_CHARACTERISTIC_H
 #define IX_XML_CHARACTERISTIC_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The names of the two elements.
@@ -126,25 +126,25 @@ class IX_XML_EXPORT XmlCharacteristicMarshaller : public XMLMarshaller {
 };
 
 /// Its `createMarshaller` answers NULL.
-class IX_XML_EXPORT XmlCharacteristicContext : public XmlFamilyContext {
+class IX_XML_EXPORT XmlCharacteristicContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override { return nullptr; }
+    XmlOldFamilyMarshaller* NewMarshaller() override { return nullptr; }
 };
 
 /// @name Decoder and unmarshaller, as far as they do not depend on the root
 /// @{
 
-constexpr XmlContainerRow kCharacteristicRow = {XmlKnownName::Of(kCharacteristicName), XmlContainerRow::Child,
-                                                IX_OBJECT(ix_characteristic)};
-constexpr XmlContainerRow kParmRow = {XmlKnownName::Of(kParmName), XmlContainerRow::Child, IX_OBJECT(ix_parm)};
+constexpr XmlOldContainerRow kCharacteristicRow = {XmlOldKnownName::Of(kCharacteristicName), XmlOldContainerRow::Child,
+                                                IX_OLD_OBJECT(ix_characteristic)};
+constexpr XmlOldContainerRow kParmRow = {XmlOldKnownName::Of(kParmName), XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_parm)};
 
 /// @param containers the row of the root and the two rows above.
 template <std::size_t count>
-constexpr XmlDecoderInfo ixCharacteristicDecoderInfo(const char* source, const XmlContainerRow (&containers)[count]) {
-    XmlDecoderInfo info;
+constexpr XmlOldDecoderInfo ixCharacteristicDecoderInfo(const char* source, const XmlOldContainerRow (&containers)[count]) {
+    XmlOldDecoderInfo info;
     info.source = source;
     // Required: an attribute is offered as if it were an element, and to whatever object is on top of the stack.
-    info.attributePolicy = XmlAttributePolicy::AsElements;
+    info.attributePolicy = XmlOldAttributePolicy::AsElements;
     info.containers = containers;
     info.containerCount = count;
     return info;

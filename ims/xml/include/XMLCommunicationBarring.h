@@ -78,9 +78,9 @@ class IX_XML_EXPORT CommunicationBarringDataBinder : public XmlRuleDataBinder {
     XML_COMMUNICATION_BARRING_TYPE m_type = XML_CB_NONE;
 };
 
-class IX_XML_EXPORT CommunicationBarringUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT CommunicationBarringUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes a document, or one of its parts: ruleset, rule, conditions, actions, flag, exception. No XML declaration, and
@@ -101,10 +101,10 @@ class IX_XML_EXPORT Communication_barringMarshaller : public XmlRuleMarshaller {
     void AddAction(XMLElement* action) override;
 };
 
-class IX_XML_EXPORT CommunicationBarringContext : public XmlBinderContext {
+class IX_XML_EXPORT CommunicationBarringContext : public XmlOldBinderContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

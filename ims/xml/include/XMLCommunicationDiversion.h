@@ -67,9 +67,9 @@ class IX_XML_EXPORT CommunicationDiversionDataBinder : public XmlRuleDataBinder 
     const char* SourceFile() const override;
 };
 
-class IX_XML_EXPORT CommunicationDiversionUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT CommunicationDiversionUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the document, or one of its parts: timer, ruleset, rule, conditions, actions, target, flag. No XML
@@ -95,10 +95,10 @@ class IX_XML_EXPORT Communication_diversionMarshaller : public XmlRuleMarshaller
     void AddNotification(e_XmlStrRef name, int value);
 };
 
-class IX_XML_EXPORT CommunicationDiversionContext : public XmlBinderContext {
+class IX_XML_EXPORT CommunicationDiversionContext : public XmlOldBinderContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

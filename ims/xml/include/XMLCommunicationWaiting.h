@@ -10,7 +10,7 @@
 #define IX_XML_COMMUNICATION_WAITING_H
 
 #include "XMLSimservsXcap.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
 /// The element `communication-waiting`.
 class IX_XML_EXPORT ix_communication_waiting : public ix_ns_xcap_simservType {
@@ -37,9 +37,9 @@ class IX_XML_EXPORT CommunicationWaitingDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT CommunicationWaitingUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT CommunicationWaitingUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes `<communication-waiting  active="true"/>`, with the attributes kept from the document it was decoded from
@@ -52,10 +52,10 @@ class IX_XML_EXPORT Communication_waitingMarshaller : public XmlServiceMarshalle
     int AddCommunication_waitingElementToXml(ix_communication_waiting* element);
 };
 
-class IX_XML_EXPORT CommunicationWaitingContext : public XmlBinderContext {
+class IX_XML_EXPORT CommunicationWaitingContext : public XmlOldBinderContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -11,7 +11,7 @@
 #define IX_XML_CONFERENCE_INFO_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// @name Enumerations
@@ -520,16 +520,16 @@ class IX_XML_EXPORT ConferenceInfoDataBinder : public XMLObjectFactory {
     ix_sidebars_by_val_type* CreateSideBarsByValueType();
 };
 
-class IX_XML_EXPORT ConferenceInfoUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT ConferenceInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the conference, without prefixes. A sidebar that cannot be written is left out; any
 /// other element that lacks a mandatory attribute fails the document.
 ///
 /// The writers answer 1, or 0 for NULL and for an element that cannot be written.
-class IX_XML_EXPORT Conference_infoMarshall : public XmlFamilyMarshaller {
+class IX_XML_EXPORT Conference_infoMarshall : public XmlOldFamilyMarshaller {
   public:
     Conference_infoMarshall();
 
@@ -566,10 +566,10 @@ class IX_XML_EXPORT Conference_infoMarshall : public XmlFamilyMarshaller {
     void AddWords(e_XmlStrRef name, const IxSingleElementList* words);
 };
 
-class IX_XML_EXPORT ConferenceInfoContext : public XmlFamilyContext {
+class IX_XML_EXPORT ConferenceInfoContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

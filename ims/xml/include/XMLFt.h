@@ -10,7 +10,7 @@
 #define IX_XML_FT_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element `data`: where a file is, and how long.
@@ -97,13 +97,13 @@ class IX_XML_EXPORT FileDataBinder : public XMLObjectFactory {
     ix_ns_ft_data* CreateDataElement();
 };
 
-class IX_XML_EXPORT FileUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT FileUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document. One `data` without a URL fails the whole document.
-class IX_XML_EXPORT FileMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT FileMarshaller : public XmlOldFamilyMarshaller {
   public:
     FileMarshaller();
 
@@ -115,10 +115,10 @@ class IX_XML_EXPORT FileMarshaller : public XmlFamilyMarshaller {
     /// @}
 };
 
-class IX_XML_EXPORT FileContext : public XmlFamilyContext {
+class IX_XML_EXPORT FileContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

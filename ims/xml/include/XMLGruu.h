@@ -8,7 +8,7 @@
 #ifndef IX_XML_GRUU_H
 #define IX_XML_GRUU_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// What both kinds of GRUU share. Attributes that a kind does not know are refused with a log line.
@@ -103,14 +103,14 @@ class IX_XML_EXPORT GruuDataBinder : public XMLObjectFactory {
     char* m_pGruutype = nullptr;
 };
 
-class IX_XML_EXPORT GruuUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT GruuUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and one empty element, as in `<temp-gruu  first-cseq="7"  uri="sip:..."/>`. An element of
 /// any other class is no error: the text is the declaration alone.
-class IX_XML_EXPORT GruuMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT GruuMarshaller : public XmlOldFamilyMarshaller {
   public:
     GruuMarshaller();
 
@@ -126,10 +126,10 @@ class IX_XML_EXPORT GruuMarshaller : public XmlFamilyMarshaller {
     int AddUri(const ix_gruuType* element, const XmlLogText& missing);
 };
 
-class IX_XML_EXPORT GruuContext : public XmlFamilyContext {
+class IX_XML_EXPORT GruuContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -36,7 +36,7 @@ class IX_XML_EXPORT XmlIdentityPresentationMarshaller : public XmlServiceMarshal
 /// @{
 #define IX_IDENTITY_UNMARSHALLER_INFO(service, decoder)                                                          \
     [] {                                                                                                         \
-        XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(decoder, service "UnMarshaller");                        \
+        XmlOldUnMarshallerInfo info = IX_OLD_UNMARSHALLER_INFO(decoder, service "UnMarshaller");                        \
         info.textCopied = {2, kSchemaCode, __LINE__,                                                             \
                            "<XML Module>: " service "UnMarshaller::UnMarshall: pstring is %s"};                  \
         info.fileEntered = {2, kSchemaCode, __LINE__,                                                            \
@@ -48,16 +48,16 @@ class IX_XML_EXPORT XmlIdentityPresentationMarshaller : public XmlServiceMarshal
 
 #define IX_IDENTITY_MARSHALLER_INFO(service, writers)                             \
     [] {                                                                          \
-        XmlMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, writers);   \
+        XmlOldMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, writers);   \
         IX_SERVICE_MARSHALL_TEXTS(info, service "Marshaller", "m" service "Xml"); \
         return info;                                                              \
     }()
 
 #define IX_IDENTITY_DECODER_INFO(service, word, containers, attributes)                                       \
     [] {                                                                                                      \
-        XmlDecoderInfo info = ixServiceDecoderInfo(kSourceFile, __LINE__, containers, attributes);            \
-        info.names = XmlNamePolicy::Stripped;                                                                 \
-        info.attributePolicy = XmlAttributePolicy::Top;                                                       \
+        XmlOldDecoderInfo info = ixServiceDecoderInfo(kSourceFile, __LINE__, containers, attributes);            \
+        info.names = XmlOldNamePolicy::Stripped;                                                                 \
+        info.attributePolicy = XmlOldAttributePolicy::Top;                                                       \
         IX_SERVICE_DECODER_TEXTS(info.texts, "XML" service "Decoder", "m_PassName", "XML" service "Decoder"); \
         info.texts.noFirstNamespace = {2, kSchemaCode, __LINE__,                                              \
                                        "XML" service "Decoder :: XML" word                                    \

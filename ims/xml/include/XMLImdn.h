@@ -14,7 +14,7 @@
 #define IX_XML_IMDN_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element of a processing notification as it is read. Required: it is written by the fixed string, which lacks a
@@ -28,7 +28,7 @@ class IX_XML_EXPORT ix_statusValueType : public ix_empty_element_type {
 
   private:
     // It is no class of objects: each of the seven has a name of its own.
-    using ix_empty_element_type::kClassName;
+    static constexpr char kClassName[] = "ix_empty_element_type";
 };
 
 /// The element `delivered`: the message reached the recipient's device.
@@ -278,14 +278,14 @@ class IX_XML_EXPORT IMDNDataBinder : public XMLObjectFactory {
     ix_error* CreateErrorElement();
 };
 
-class IX_XML_EXPORT IMDNUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT IMDNUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document. Only the first notification that is set is written; one that cannot be
 /// written is left out with a log line.
-class IX_XML_EXPORT IMDNMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT IMDNMarshaller : public XmlOldFamilyMarshaller {
   public:
     IMDNMarshaller();
 
@@ -308,10 +308,10 @@ class IX_XML_EXPORT IMDNMarshaller : public XmlFamilyMarshaller {
     void EndStartTag(const IxSingleElementList* attributes);
 };
 
-class IX_XML_EXPORT IMDNContext : public XmlFamilyContext {
+class IX_XML_EXPORT IMDNContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

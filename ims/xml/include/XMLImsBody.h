@@ -11,7 +11,7 @@
 #define IX_XML_IMS_BODY_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The root of both documents.
@@ -38,9 +38,9 @@ constexpr XmlField kImsBodyVersionField = {XmlFieldKind::Unsigned, IX_STR_VERSIO
                                            XmlUnsignedMember(&ix_imsBodyType::mVersion), ix_imsBodyType::kNoVersion};
 
 /// What the marshallers of both documents share.
-class IX_XML_EXPORT XmlImsBodyMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT XmlImsBodyMarshaller : public XmlOldFamilyMarshaller {
   protected:
-    explicit XmlImsBodyMarshaller(const XmlMarshallerInfo& info) : XmlFamilyMarshaller(info) {}
+    explicit XmlImsBodyMarshaller(const XmlOldMarshallerInfo& info) : XmlOldFamilyMarshaller(info) {}
 
     /// The start tag of the root, with its version when there is one: `<3gpp-ims version="1">`.
     void StartRoot(e_XmlStrRef name, const ix_imsBodyType& root);
@@ -61,15 +61,15 @@ constexpr XmlLogText ixImsBodyAlternativeServiceFailed(int line) {
             "<XML Module>: CallWaitingIndicationMarshaller XML Failed at AddAlternativeServiceElementToXml!"};
 }
 
-constexpr XmlUnMarshallerInfo ixImsBodyUnMarshallerInfo(const char* source, int line,
-                                                        XmlFamilyDecoder* (*createDecoder)(int line)) {
-    return ixUnMarshallerInfo(source, line, createDecoder,
+constexpr XmlOldUnMarshallerInfo ixImsBodyUnMarshallerInfo(const char* source, int line,
+                                                        XmlOldFamilyDecoder* (*createDecoder)(int line)) {
+    return ixOldUnMarshallerInfo(source, line, createDecoder,
                               "<XML Module>: StrDup failed in CallWaitingIndicationUnMarshaller::UnMarshall");
 }
 
 /// @param writer the row of the root.
-constexpr XmlMarshallerInfo ixImsBodyMarshallerInfo(const char* source, int line, const XmlWriterRow& writer) {
-    XmlMarshallerInfo info;
+constexpr XmlOldMarshallerInfo ixImsBodyMarshallerInfo(const char* source, int line, const XmlOldWriterRow& writer) {
+    XmlOldMarshallerInfo info;
     info.source = source;
     info.writers = &writer;
     info.writerCount = 1;
@@ -83,11 +83,11 @@ constexpr XmlMarshallerInfo ixImsBodyMarshallerInfo(const char* source, int line
 
 /// @param attribute the one that is given to an object without a pair, before it is given with one like all others.
 template <std::size_t count>
-constexpr XmlDecoderInfo ixImsBodyDecoderInfo(const char* source, int line, const XmlContainerRow (&containers)[count],
-                                              const XmlAttributeRow& attribute) {
-    XmlDecoderInfo info = ixDecoderInfo(source, line, containers);
-    info.names = XmlNamePolicy::Stripped;
-    info.attributePolicy = XmlAttributePolicy::TopTwice;
+constexpr XmlOldDecoderInfo ixImsBodyDecoderInfo(const char* source, int line, const XmlOldContainerRow (&containers)[count],
+                                              const XmlOldAttributeRow& attribute) {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(source, line, containers);
+    info.names = XmlOldNamePolicy::Stripped;
+    info.attributePolicy = XmlOldAttributePolicy::TopTwice;
     info.attributes = &attribute;
     info.attributeCount = 1;
     return info;

@@ -10,7 +10,7 @@
 #define IX_XML_IS_COMPOSING_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element `isComposing`.
@@ -55,13 +55,13 @@ class IX_XML_EXPORT IsComposingDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT IsComposingUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT IsComposingUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document. A root without a state cannot be written.
-class IX_XML_EXPORT IsComposingMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT IsComposingMarshaller : public XmlOldFamilyMarshaller {
   public:
     IsComposingMarshaller();
 
@@ -76,10 +76,10 @@ class IX_XML_EXPORT IsComposingMarshaller : public XmlFamilyMarshaller {
     /// @}
 };
 
-class IX_XML_EXPORT IsComposingContext : public XmlFamilyContext {
+class IX_XML_EXPORT IsComposingContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -11,7 +11,7 @@
 #define IX_XML_MEDIA_CONTROL_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element `to_encoder`: what the sender's encoder is to do.
@@ -83,14 +83,14 @@ class IX_XML_EXPORT MediaControlDataBinder : public XMLObjectFactory {
     ix_empty_element_type* CreatePictureFastUpdateElement();
 };
 
-class IX_XML_EXPORT MediaControlUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT MediaControlUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document. An element without its child is written empty; a request that is not
 /// present fails the whole document.
-class IX_XML_EXPORT MediaControlMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT MediaControlMarshaller : public XmlOldFamilyMarshaller {
   public:
     MediaControlMarshaller();
 
@@ -104,10 +104,10 @@ class IX_XML_EXPORT MediaControlMarshaller : public XmlFamilyMarshaller {
     int AddEmptyElementToXml(ix_empty_element_type* element);
 };
 
-class IX_XML_EXPORT MediaControlContext : public XmlFamilyContext {
+class IX_XML_EXPORT MediaControlContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

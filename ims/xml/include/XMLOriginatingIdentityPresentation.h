@@ -29,9 +29,9 @@ class IX_XML_EXPORT OIPDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT OIPUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT OIPUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 class IX_XML_EXPORT OIPMarshaller : public XmlIdentityPresentationMarshaller {
@@ -42,10 +42,10 @@ class IX_XML_EXPORT OIPMarshaller : public XmlIdentityPresentationMarshaller {
     int AddOIPElementToXml(ix_originating_identity_presentation* element);
 };
 
-class IX_XML_EXPORT OIPContext : public XmlBinderContext {
+class IX_XML_EXPORT OIPContext : public XmlOldBinderContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -18,7 +18,7 @@
 
 #include "XMLCaps.h"
 #include "XMLOmaPres.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
 /// The element `note`: a comment for people.
 class IX_XML_EXPORT ix_note : public XMLElement {
@@ -182,14 +182,14 @@ class IX_XML_EXPORT PresenceDataBinder : public XMLObjectFactory {
     /// @}
 };
 
-class IX_XML_EXPORT PresenceUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT PresenceUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document. A tuple is written in the order status, extensions, contact, timestamp,
 /// notes. Whatever fails gives up the whole document at once.
-class IX_XML_EXPORT PresenceMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT PresenceMarshaller : public XmlOldFamilyMarshaller {
   public:
     PresenceMarshaller();
 
@@ -220,10 +220,10 @@ class IX_XML_EXPORT PresenceMarshaller : public XmlFamilyMarshaller {
     void AddKind(e_XmlStrRef name, const ix_string* kind);
 };
 
-class IX_XML_EXPORT PresenceContext : public XmlFamilyContext {
+class IX_XML_EXPORT PresenceContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

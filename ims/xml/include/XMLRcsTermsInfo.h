@@ -10,7 +10,7 @@
 #define IX_XML_RCS_TERMS_INFO_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element `term`: one document for the user to read.
@@ -76,13 +76,13 @@ class IX_XML_EXPORT RcsTermsInfoDataBinder : public XMLObjectFactory {
     ix_ns_rcs_terms_info_term* CreateTermElement();
 };
 
-class IX_XML_EXPORT RcsTermsInfoUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT RcsTermsInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document. What is not set is left out.
-class IX_XML_EXPORT RcsTermsInfoMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT RcsTermsInfoMarshaller : public XmlOldFamilyMarshaller {
   public:
     RcsTermsInfoMarshaller();
 
@@ -92,10 +92,10 @@ class IX_XML_EXPORT RcsTermsInfoMarshaller : public XmlFamilyMarshaller {
     int AddTermElementToXml(ix_ns_rcs_terms_info_term* term);
 };
 
-class IX_XML_EXPORT RcsTermsInfoContext : public XmlFamilyContext {
+class IX_XML_EXPORT RcsTermsInfoContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

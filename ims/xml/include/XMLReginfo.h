@@ -13,7 +13,7 @@
 
 #include "XMLGruu.h"
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// What a document tells.
@@ -225,13 +225,13 @@ class IX_XML_EXPORT ReginfoDataBinder : public XMLObjectFactory {
     /// @}
 };
 
-class IX_XML_EXPORT ReginfoUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT ReginfoUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document.
-class IX_XML_EXPORT ReginfoMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT ReginfoMarshaller : public XmlOldFamilyMarshaller {
   public:
     ReginfoMarshaller();
 
@@ -255,10 +255,10 @@ class IX_XML_EXPORT ReginfoMarshaller : public XmlFamilyMarshaller {
     int AddGruuUri(const ix_gruuType& gruu, const XmlLogText& missing);
 };
 
-class IX_XML_EXPORT ReginfoContext : public XmlFamilyContext {
+class IX_XML_EXPORT ReginfoContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -12,7 +12,7 @@
 #define IX_XML_RESOURCE_LIST_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element `display-name`: a name for people, its text. It takes no attributes.
@@ -168,9 +168,9 @@ class IX_XML_EXPORT ResourceListsDataBinder : public XMLObjectFactory {
     ix_display_nameType* CreateDisplayNameType();
 };
 
-class IX_XML_EXPORT ResourceListsUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT ResourceListsUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document, always with the namespaces `xsi` and `cp` declared. An entry or
@@ -178,7 +178,7 @@ class IX_XML_EXPORT ResourceListsUnMarshaller : public XmlFamilyUnMarshaller {
 ///
 /// Lists are written by a call for each level, but only as long as the text has room: each level takes at least the
 /// seven characters of its start tag, so there are never more than 4,681 calls, however deep a tree is.
-class IX_XML_EXPORT Resource_listsMarshall : public XmlFamilyMarshaller {
+class IX_XML_EXPORT Resource_listsMarshall : public XmlOldFamilyMarshaller {
   public:
     Resource_listsMarshall();
 
@@ -198,10 +198,10 @@ class IX_XML_EXPORT Resource_listsMarshall : public XmlFamilyMarshaller {
     void AddChild(XMLElement* child);
 };
 
-class IX_XML_EXPORT ResourceListsContext : public XmlFamilyContext {
+class IX_XML_EXPORT ResourceListsContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -11,18 +11,14 @@
 #ifndef IX_XML_RLMI_H
 #define IX_XML_RLMI_H
 
-#include "XmlElementSupport.h"
 #include "XmlFamily.h"
-#include "XmlFields.h"
 
 /// The element `name`: a name for people, its text. Its language is not kept.
 class IX_XML_EXPORT ix_name : public ix_string {
   public:
-    static constexpr char kClassName[] = "ix_name";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "name"; }
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_name() : ix_string(kClass) {}
 };
 
 /// State of an instance.
@@ -34,24 +30,19 @@ enum eRlmiInstanceState {
 };
 
 /// The element `instance`: one subscription to a resource. It has no content; what stands in one is ignored.
-class IX_XML_EXPORT ix_instance : public XMLElement {
+class IX_XML_EXPORT ix_instance : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_instance";
+    static const XmlClass kClass;
 
-    ~ix_instance() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "instance"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_instance() : XmlDescribedElement(kClass) {}
+    ~ix_instance() override { ixRelease(*this, kClass); }
 
     /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttribute, list); }
+    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetList(*this, mAnyAttribute, list); }
     /// Appends a pair, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addAnyAttribute(ix_AttributeValuePair* pair);
+    int addAnyAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mAnyAttribute, pair); }
     /// Copies `reason`; NULL clears it. @return 1, or 0 without memory, the earlier reason kept.
     int setReasonValue(const char* reason) { return ixSetText(mReason, reason); }
     /// Copies `cid`; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
@@ -70,37 +61,31 @@ class IX_XML_EXPORT ix_instance : public XMLElement {
 };
 
 /// The element `resource`: a member of the list. Anything but names and instances is refused.
-class IX_XML_EXPORT ix_resource : public XMLElement {
+class IX_XML_EXPORT ix_resource : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_resource";
+    static const XmlClass kClass;
 
-    ~ix_resource() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "resource"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_resource() : XmlDescribedElement(kClass) {}
+    ~ix_resource() override { ixRelease(*this, kClass); }
 
     /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttribute, list); }
+    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetList(*this, mAnyAttribute, list); }
     /// Appends a pair, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addAnyAttribute(ix_AttributeValuePair* pair);
+    int addAnyAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mAnyAttribute, pair); }
     /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
     int setUriValue(const char* uri) { return ixSetText(mUri, uri); }
     /// Takes over a list of `ix_name`s in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setNameListValue(IxSingleElementList* list) { return ixSetElementList(mNameList, list); }
+    int setNameListValue(IxSingleElementList* list) { return ixSetList(*this, mNameList, list); }
     /// Appends `name`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addName(ix_name* name);
+    int addName(ix_name* name) { return ixAdd(*this, mNameList, name); }
     /// Takes over a list of `ix_instance`s in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setInstanceListValue(IxSingleElementList* list) { return ixSetElementList(mInstanceList, list); }
+    int setInstanceListValue(IxSingleElementList* list) { return ixSetList(*this, mInstanceList, list); }
     /// Appends `instance`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addInstance(ix_instance* instance);
+    int addInstance(ix_instance* instance) { return ixAdd(*this, mInstanceList, instance); }
 
     IxSingleElementList* mAnyAttribute = nullptr;  ///< Owned `ix_AttributeValuePair`s: all other attributes. NULL:
                                                    ///< none.
@@ -110,30 +95,23 @@ class IX_XML_EXPORT ix_resource : public XMLElement {
 };
 
 /// The root element `list`. Anything but names and resources is refused.
-class IX_XML_EXPORT ix_list : public XMLObject {
+class IX_XML_EXPORT ix_list : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_list";
+    static const XmlClass kClass;
 
-    ~ix_list() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "list"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_list() : XmlDescribedObject(kClass) {}
+    ~ix_list() override { ixRelease(*this, kClass); }
 
     /// Takes over a list of `ix_name`s in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setNameListValue(IxSingleElementList* list) { return ixSetElementList(mNameList, list); }
+    int setNameListValue(IxSingleElementList* list) { return ixSetList(*this, mNameList, list); }
     /// Appends `name`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addName(ix_name* name);
+    int addName(ix_name* name) { return ixAdd(*this, mNameList, name); }
     /// Takes over a list of `ix_resource`s in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setResourceListValue(IxSingleElementList* list) { return ixSetElementList(mResourceList, list); }
+    int setResourceListValue(IxSingleElementList* list) { return ixSetList(*this, mResourceList, list); }
     /// Appends `resource`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addResource(ix_resource* resource);
+    int addResource(ix_resource* resource) { return ixAdd(*this, mResourceList, resource); }
     /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
     int setUriValue(const char* uri) { return ixSetText(mUri, uri); }
     /// @return 1.
@@ -144,10 +122,10 @@ class IX_XML_EXPORT ix_list : public XMLObject {
     int setCidValue(const char* cid) { return ixSetText(mCid, cid); }
     /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttribute, list); }
+    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetList(*this, mAnyAttribute, list); }
     /// Appends a pair, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addAnyAttribute(ix_AttributeValuePair* pair);
+    int addAnyAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mAnyAttribute, pair); }
 
     IxSingleElementList* mNameList = nullptr;      ///< Owned, as are its `ix_name`s, in document order. NULL: none.
     IxSingleElementList* mResourceList = nullptr;  ///< Owned, as are its `ix_resource`s, in document order. NULL: none.
@@ -173,8 +151,8 @@ class IX_XML_EXPORT ListDataBinder : public XMLObjectFactory {
 };
 
 class IX_XML_EXPORT ListUnMarshaller : public XmlFamilyUnMarshaller {
-  protected:
-    const XmlUnMarshallerInfo& Info() const override;
+  public:
+    ListUnMarshaller();
 };
 
 /// Writes the XML declaration and the document; not at all when a mandatory attribute is missing.
@@ -190,13 +168,14 @@ class IX_XML_EXPORT ListMarshaller : public XmlFamilyMarshaller {
     int AddInstanceElementToXml(ix_instance* instance);
     /// @return 1, or 0 for NULL.
     int AddNameElementToXml(ix_name* name);
+
+  private:
+    int AddNames(const IxSingleElementList* names);
 };
 
 class IX_XML_EXPORT ListContext : public XmlFamilyContext {
-  protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+  public:
+    ListContext();
 };
 
 #endif

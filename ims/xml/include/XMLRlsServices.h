@@ -14,7 +14,7 @@
 
 #include "XMLResourceList.h"
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The element `package`: an event package ("presence"), its text.
@@ -125,13 +125,13 @@ class IX_XML_EXPORT RlsServicesDataBinder : public XMLObjectFactory {
     ix_ns_rls_services_packageType* CreatePackageElement();
 };
 
-class IX_XML_EXPORT RlsServicesUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT RlsServicesUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and the document; not at all when a service lacks its URI.
-class IX_XML_EXPORT RlsServicesMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT RlsServicesMarshaller : public XmlOldFamilyMarshaller {
   public:
     RlsServicesMarshaller();
 
@@ -145,10 +145,10 @@ class IX_XML_EXPORT RlsServicesMarshaller : public XmlFamilyMarshaller {
     int AddPackageElementToXml(ix_ns_rls_services_packageType* package);
 };
 
-class IX_XML_EXPORT RlsServicesContext : public XmlFamilyContext {
+class IX_XML_EXPORT RlsServicesContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -12,17 +12,12 @@
 #include "XmlFamily.h"
 
 /// The declarations of a document.
-class IX_XML_EXPORT ix_schema_namespace_retrieval : public XMLObject {
+class IX_XML_EXPORT ix_schema_namespace_retrieval : public XmlNamespaceBinder {
   public:
-    static constexpr char kClassName[] = "ix_schema_namespace_retrieval";
+    static const XmlClass kClass;
 
-    ~ix_schema_namespace_retrieval() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "SchemaNamespaceRetrieval"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_schema_namespace_retrieval() : XmlNamespaceBinder(kClass) {}
+    ~ix_schema_namespace_retrieval() override { ixRelease(*this, kClass); }
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// Takes over a list of `ix_AttributeValuePair`s, in place of an earlier one, which is deleted. NULL changes
@@ -33,7 +28,7 @@ class IX_XML_EXPORT ix_schema_namespace_retrieval : public XMLObject {
     /// caller.
     int addNameSpaceInfo(ix_AttributeValuePair* declaration);
     /// The list, which stays with the element; NULL when there are no declarations.
-    IxSingleElementList* getNameSpaceInfo() const;
+    IxSingleElementList* getNameSpaceInfo() const override;
 
     /// Owned `ix_AttributeValuePair`s in the order of the text: the name is the prefix, NULL for the default namespace,
     /// the value is the URI. NULL: none.
@@ -47,16 +42,14 @@ class IX_XML_EXPORT SchemaNamespaceRetrievalDataBinder : public XMLObjectFactory
 };
 
 class IX_XML_EXPORT SchemaNamespaceRetrievalUnMarshaller : public XmlFamilyUnMarshaller {
-  protected:
-    const XmlUnMarshallerInfo& Info() const override;
+  public:
+    SchemaNamespaceRetrievalUnMarshaller();
 };
 
 /// Its `createMarshaller` answers NULL.
 class IX_XML_EXPORT SchemaNamespaceRetrievalContext : public XmlFamilyContext {
-  protected:
-    XmlFamilyMarshaller* NewMarshaller() override { return nullptr; }
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+  public:
+    SchemaNamespaceRetrievalContext();
 };
 
 #endif

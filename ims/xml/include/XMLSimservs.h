@@ -54,7 +54,7 @@ class IX_XML_EXPORT SimservsDataBinder : public XMLObjectFactory {
 /// Reads a document in two steps: the services are cut out of its text, then each part is decoded by itself.
 ///
 /// At most ten services of each kind are read (barring counts as one kind); more are left where they are, and ignored.
-class IX_XML_EXPORT SimservsUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT SimservsUnMarshaller : public XmlOldFamilyUnMarshaller {
   public:
     /// @return the root with its services; NULL when the text is NULL, not complete and balanced, or of another root,
     /// and without memory. A service that its schema cannot read is left out.
@@ -71,7 +71,7 @@ class IX_XML_EXPORT SimservsUnMarshaller : public XmlFamilyUnMarshaller {
     char* replaceSubStringWithNull(char* text, char** out, int at, int length);
 
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 
   private:
     struct Pieces;
@@ -83,7 +83,7 @@ class IX_XML_EXPORT SimservsUnMarshaller : public XmlFamilyUnMarshaller {
 
 /// Writes an XML declaration and the root with the declarations of its namespaces; between its tags, each service as
 /// its own schema writes it. A service that cannot be written is left out.
-class IX_XML_EXPORT SimservsMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT SimservsMarshaller : public XmlOldFamilyMarshaller {
   public:
     SimservsMarshaller();
 
@@ -103,13 +103,13 @@ class IX_XML_EXPORT SimservsMarshaller : public XmlFamilyMarshaller {
     bool m_bServiceTruncated = false;
 };
 
-class IX_XML_EXPORT SimservsContext : public XmlBinderContext {
+class IX_XML_EXPORT SimservsContext : public XmlOldBinderContext {
   public:
     int SetNamespaceBinder(XMLObject* binder) override;
 
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -175,11 +175,11 @@ struct XmlRuleWriterTexts {
 /// The rows of the elements that every marshaller of rules accepts.
 /// Required: a transformations element has the class of the actions, and is written as actions.
 #define IX_RULE_WRITER_ROWS                                                                               \
-    {IX_WRITER_OF(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},               \
-        {IX_WRITER_OF(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},             \
-        {IX_WRITER_OF(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)}, \
-        {IX_WRITER_OF(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)}, {  \
-        IX_WRITER_OF(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type)                      \
+    {IX_OLD_WRITER_OF(XmlRuleMarshaller, AddRuleSetElementToXml, ix_ns_common_policy_ruleset)},               \
+        {IX_OLD_WRITER_OF(XmlRuleMarshaller, AddRuleElementToXml, ix_ns_common_policy_ruleType)},             \
+        {IX_OLD_WRITER_OF(XmlRuleMarshaller, AddConditionsElementToXml, ix_ns_common_policy_conditionsType)}, \
+        {IX_OLD_WRITER_OF(XmlRuleMarshaller, AddActionsElementToXml, ix_ns_common_policy_extensibleType)}, {  \
+        "ix_empty_element_type", IX_OLD_WRITER(XmlRuleMarshaller, AddEmptyElementtoXml, ix_empty_element_type)                      \
     }
 
 /// Base of the marshallers of the services with a ruleset. Every operation writes one element, and answers 0 for NULL,
@@ -201,7 +201,7 @@ class IX_XML_EXPORT XmlRuleMarshaller : public XmlServiceMarshaller {
     int AddEmptyElementtoXml(ix_empty_element_type* element);
 
   protected:
-    XmlRuleMarshaller(const XmlMarshallerInfo& info, const XmlRuleWriterTexts& texts);
+    XmlRuleMarshaller(const XmlOldMarshallerInfo& info, const XmlRuleWriterTexts& texts);
 
     /// A start or end tag with the prefix of a namespace.
     void StartPrefixed(e_XmlStrRef prefix, e_XmlStrRef name);

@@ -5,7 +5,7 @@
 #define IX_XML_SIMSERVS_XCAP_H
 
 #include "XMLCommonDef.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 /// The namespaces of the services' documents under their canonical prefixes. Communication waiting has a table of its
@@ -20,7 +20,7 @@ extern IX_XML_EXPORT const XmlFieldTable kSimservTable;
 /// (`comparedName`), and the decoder that its namespace operations were taken from (`origin`).
 #define IX_SERVICE_DECODER_TEXTS(texts, decoder, comparedName, origin)                                               \
     do {                                                                                                             \
-        IX_DECODER_TEXTS(texts, decoder, "m_strDup or m_PassName", comparedName);                                    \
+        IX_OLD_DECODER_TEXTS(texts, decoder, "m_strDup or m_PassName", comparedName);                                    \
         (texts).noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};               \
         (texts).noPairOf = {3, kSchemaCode, __LINE__,                                                                \
                             "<XML Module>: New Failed at any attribute level with element = \"%s\""};                \
@@ -30,16 +30,16 @@ extern IX_XML_EXPORT const XmlFieldTable kSimservTable;
             2, kDecoderCode, __LINE__, origin " :: XMLChangeNamespaceTag Malloc unable to allocate memory"};         \
         (texts).mappedTagNoMemory = (texts).mappedEndTagNoMemory = {                                                 \
             2, kDecoderCode, __LINE__, "XmlDecoder:: m_strDup: Malloc unable to allocate memory"};                   \
-        (texts).removeTagNoMemory = IX_REMOVE_TAG_TEXT(origin);                                                      \
+        (texts).removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT(origin);                                                      \
     } while (false)
 
 /// What the decoders of the services share: namespaces and, with the exceptions that each makes, mapped names.
 template <std::size_t containerCount, std::size_t attributeCount>
-constexpr XmlDecoderInfo ixServiceDecoderInfo(const char* source, int line,
-                                              const XmlContainerRow (&containers)[containerCount],
-                                              const XmlAttributeRow (&attributes)[attributeCount]) {
-    XmlDecoderInfo info = ixDecoderInfo(source, line, containers, attributes);
-    info.names = XmlNamePolicy::Mapped;
+constexpr XmlOldDecoderInfo ixServiceDecoderInfo(const char* source, int line,
+                                              const XmlOldContainerRow (&containers)[containerCount],
+                                              const XmlOldAttributeRow (&attributes)[attributeCount]) {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(source, line, containers, attributes);
+    info.names = XmlOldNamePolicy::Mapped;
     info.namespaces = kSimservsNamespaces;
     info.namespaceCount = kSimservsNamespaceCount;
     return info;
@@ -47,8 +47,8 @@ constexpr XmlDecoderInfo ixServiceDecoderInfo(const char* source, int line,
 
 /// What their marshallers share: namespaces, and no XML declaration.
 template <std::size_t count>
-constexpr XmlMarshallerInfo ixServiceMarshallerInfo(const char* source, const XmlWriterRow (&writers)[count]) {
-    XmlMarshallerInfo info = ixMarshallerInfo(source, writers);
+constexpr XmlOldMarshallerInfo ixServiceMarshallerInfo(const char* source, const XmlOldWriterRow (&writers)[count]) {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(source, writers);
     info.writesDeclaration = false;
     info.namespaces = kSimservsNamespaces;
     info.namespaceCount = kSimservsNamespaceCount;
@@ -58,7 +58,7 @@ constexpr XmlMarshallerInfo ixServiceMarshallerInfo(const char* source, const Xm
 /// The log lines of a service's marshaller.
 #define IX_SERVICE_MARSHALL_TEXTS(info, marshaller, kept)                                              \
     do {                                                                                               \
-        IX_MARSHALL_TEXTS(info, marshaller, kept);                                                     \
+        IX_OLD_MARSHALL_TEXTS(info, marshaller, kept);                                                     \
         (info).noFirstNamespace = (info).noNamespace = {                                               \
             2, kSchemaCode, __LINE__, marshaller " :: " marshaller ": Malloc cannot allocate memory"}; \
     } while (false)
@@ -101,9 +101,9 @@ class IX_XML_EXPORT ix_ns_xcap_simservType : public XMLObject {
 };
 
 /// Base of the marshallers of the services.
-class IX_XML_EXPORT XmlServiceMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT XmlServiceMarshaller : public XmlOldFamilyMarshaller {
   protected:
-    using XmlFamilyMarshaller::XmlFamilyMarshaller;
+    using XmlOldFamilyMarshaller::XmlOldFamilyMarshaller;
 
     /// The start tag of a service with the prefix of the simservs namespace: the attributes kept from the document it
     /// was decoded from, then `active`, which ends the tag. The elements that follow have no prefix.

@@ -29,9 +29,9 @@ class IX_XML_EXPORT TIPDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT TIPUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT TIPUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 class IX_XML_EXPORT TIPMarshaller : public XmlIdentityPresentationMarshaller {
@@ -42,10 +42,10 @@ class IX_XML_EXPORT TIPMarshaller : public XmlIdentityPresentationMarshaller {
     int AddTIPElementToXml(ix_terminating_identity_presentation* element);
 };
 
-class IX_XML_EXPORT TIPContext : public XmlBinderContext {
+class IX_XML_EXPORT TIPContext : public XmlOldBinderContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -26,16 +26,16 @@ class IX_XML_EXPORT VolteConfigInfoDataBinder : public XmlCharacteristicDataBind
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT VolteConfigInfoUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT VolteConfigInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 class IX_XML_EXPORT VolteConfigInfoMarshall : public XmlCharacteristicMarshaller {};
 
 class IX_XML_EXPORT VolteConfigInfoContext : public XmlCharacteristicContext {
   protected:
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

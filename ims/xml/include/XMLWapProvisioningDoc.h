@@ -26,16 +26,16 @@ class IX_XML_EXPORT WapProvisioningDocDataBinder : public XmlCharacteristicDataB
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT WapProvisioningDocUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT WapProvisioningDocUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 class IX_XML_EXPORT WapProvisioningDocMarshall : public XmlCharacteristicMarshaller {};
 
 class IX_XML_EXPORT WapProvisioningDocContext : public XmlCharacteristicContext {
   protected:
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

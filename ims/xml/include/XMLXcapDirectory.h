@@ -11,7 +11,7 @@
 #define IX_XML_XCAP_DIRECTORY_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 class ix_entry;
@@ -111,14 +111,14 @@ class IX_XML_EXPORT XcapDirectoryDataBinder : public XMLObjectFactory {
     ix_entry* CreateEntryElement();
 };
 
-class IX_XML_EXPORT XcapDirectoryUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT XcapDirectoryUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes `<xcap-directory  xmlns="...">`, in it `<folder  auid="a">`, in it `<entry  uri="u"  size="12"  etag="e"/>`,
 /// each on a line of its own. An entry without URI or entity tag fails the document.
-class IX_XML_EXPORT XcapDirectoryMarshaller : public XmlFamilyMarshaller {
+class IX_XML_EXPORT XcapDirectoryMarshaller : public XmlOldFamilyMarshaller {
   public:
     XcapDirectoryMarshaller();
 
@@ -130,10 +130,10 @@ class IX_XML_EXPORT XcapDirectoryMarshaller : public XmlFamilyMarshaller {
     int AddEntryElementToXml(ix_entry* element);
 };
 
-class IX_XML_EXPORT XcapDirectoryContext : public XmlFamilyContext {
+class IX_XML_EXPORT XcapDirectoryContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

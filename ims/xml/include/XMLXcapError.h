@@ -11,7 +11,7 @@
 #define IX_XML_XCAP_ERROR_H
 
 #include "XmlElementSupport.h"
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 #include "XmlFields.h"
 
 class ix_exists;
@@ -218,16 +218,16 @@ class IX_XML_EXPORT XcapErrorDataBinder : public XMLObjectFactory {
     IxSingleElementList* CreateList();
 };
 
-class IX_XML_EXPORT XcapErrorUnMarshaller : public XmlFamilyUnMarshaller {
+class IX_XML_EXPORT XcapErrorUnMarshaller : public XmlOldFamilyUnMarshaller {
   protected:
-    const XmlUnMarshallerInfo& Info() const override;
+    const XmlOldUnMarshallerInfo& Info() const override;
 };
 
 /// Writes the XML declaration and `<xcap-error  xmlns="..."  ...>` with the error condition in it, as in
 /// `<cannot-delete  phrase="...">`, `</cannot-delete>`. A condition of any other class is left out.
 ///
 /// The writers answer 1, or 0 for NULL.
-class IX_XML_EXPORT Xcap_ErrorMarshall : public XmlFamilyMarshaller {
+class IX_XML_EXPORT Xcap_ErrorMarshall : public XmlOldFamilyMarshaller {
   public:
     Xcap_ErrorMarshall();
 
@@ -266,10 +266,10 @@ class IX_XML_EXPORT Xcap_ErrorMarshall : public XmlFamilyMarshaller {
     void StartElementWith(e_XmlStrRef name, e_XmlStrRef attribute, const char* value);
 };
 
-class IX_XML_EXPORT XcapErrorContext : public XmlFamilyContext {
+class IX_XML_EXPORT XcapErrorContext : public XmlOldFamilyContext {
   protected:
-    XmlFamilyMarshaller* NewMarshaller() override;
-    XmlFamilyUnMarshaller* NewUnMarshaller() override;
+    XmlOldFamilyMarshaller* NewMarshaller() override;
+    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
     XMLObjectFactory* NewBinderFactory() override;
 };
 

@@ -3,9 +3,9 @@
 #ifndef IX_XCAP_DIRECTORY_H
 #define IX_XCAP_DIRECTORY_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLXcapDirectoryDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLXcapDirectoryDecoder : public XmlOldFamilyDecoder {
   public:
     XMLXcapDirectoryDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_XCAP_ERROR_H
 #define IX_XCAP_ERROR_H
 
-#include "XmlFamily.h"
+#include "XmlOldFamily.h"
 
-class IX_XML_EXPORT XMLXcapErrorDecoder : public XmlFamilyDecoder {
+class IX_XML_EXPORT XMLXcapErrorDecoder : public XmlOldFamilyDecoder {
   public:
     XMLXcapErrorDecoder();
 };

@@ -46,6 +46,7 @@ class IX_XML_EXPORT XmlWorkText {
     /// buffer then keeps its old size.
     bool Reserve(std::size_t size) { return size <= m_size || Grow(size); }
     char* Text() { return m_pText; }
+    const char* Text() const { return m_pText; }
 
   private:
     bool Grow(std::size_t size);

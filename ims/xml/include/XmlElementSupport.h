@@ -1,11 +1,57 @@
 /// @file
-/// Helpers of element classes: the words in which their hooks and setters are written.
+/// What the element classes of the library are made of: the described bases, the words in which setters and hooks are
+/// written, and the generic classes that several schemas share.
 #ifndef IX_XML_ELEMENT_SUPPORT_H
 #define IX_XML_ELEMENT_SUPPORT_H
 
 #include <cstring>
 
-#include "XMLCommonDef.h"
+#include "XmlClass.h"
+
+/// @name Described classes
+/// A class passes its description on to one of the bases; names and hooks follow from it. Its destructor calls
+/// `ixRelease`.
+/// @{
+
+/// Base of the element classes.
+class IX_XML_EXPORT XmlDescribedElement : public XMLElement {
+  public:
+    explicit XmlDescribedElement(const XmlClass& description) : XMLElement(&description) {}
+
+    const char* ClassName() const override { return m_pClass->name; }
+    const char* BaseClassName() const override { return m_pClass->base; }
+    const char* TypeName() const override { return m_pClass->type; }
+    int Reserved() const override { return 0; }
+    /// As the rows say (XmlHooks.h).
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    /// As the rows say.
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    const XmlFieldTable* FieldTable() const override { return &m_pClass->table; }
+};
+
+/// Base of those that can stand at the root of a document.
+class IX_XML_EXPORT XmlDescribedObject : public XMLObject {
+  public:
+    explicit XmlDescribedObject(const XmlClass& description) : XMLObject(&description) {}
+
+    const char* ClassName() const override { return m_pClass->name; }
+    const char* BaseClassName() const override { return m_pClass->base; }
+    const char* TypeName() const override { return m_pClass->type; }
+    int Reserved() const override { return 0; }
+    /// As the rows say (XmlHooks.h).
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    /// As the rows say.
+    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    int IsRootElement() const override { return m_pClass->isRoot ? 1 : 0; }
+    const XmlFieldTable* FieldTable() const override { return &m_pClass->table; }
+};
+
+/// Frees what the fields of the class own; those of its base class are freed by that one's destructor.
+IX_XML_EXPORT void ixRelease(XMLElement& element, const XmlClass& description);
+/// @}
+
+/// @name Names
+/// @{
 
 /// True when `name` is exactly `expected`, which is not NULL.
 inline bool ixNameIs(const char* name, const char* expected) {
@@ -21,50 +67,10 @@ inline bool ixNameIs(const char* name, e_XmlStrRef entry) {
 inline bool ixEndNameIs(const char* name, e_XmlStrRef entry) {
     return name != nullptr && *name == '/' && ixNameIs(name + 1, entry);
 }
+/// @}
 
-/// True when `element` is an object of the class `className`. NULL is of no class.
-inline bool ixIsClass(const XMLElement* element, const char* className) {
-    const char* const own = element != nullptr ? element->ClassName() : nullptr;
-    // Mostly both are the same constant.
-    return own != nullptr && (own == className || std::strcmp(own, className) == 0);
-}
-
-/// True when `element` is an object of the class `Element`, by its name. NULL is of no class. `Element` has to declare
-/// a `kClassName`: one that it inherits is the name of its base.
-template <class Element>
-bool ixIs(const XMLElement* element) {
-    return ixIsClass(element, Element::kClassName);
-}
-
-/// `element` as an object of the class `Element`, which it is by its name; NULL when it is none, or NULL.
-template <class Element>
-Element* ixAs(XMLElement* element) {
-    return ixIs<Element>(element) ? static_cast<Element*>(element) : nullptr;
-}
-template <class Element>
-const Element* ixAs(const XMLElement* element) {
-    return ixIs<Element>(element) ? static_cast<const Element*>(element) : nullptr;
-}
-
-/// True for an object that has no class name, which a hook answers with 1 and does not take.
-inline bool ixIsNameless(const XMLElement* element) { return element != nullptr && element->ClassName() == nullptr; }
-
-/// `attribute` as a pair, or NULL when it is none.
-IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
-
-/// Replaces an owned text by a copy of `text`; NULL clears it.
-/// @return 1, or 0 without memory, the earlier text kept.
-IX_XML_EXPORT int ixSetText(char*& field, const char* text);
-
-/// Copies the text or value that a hook was offered into `field`; `object` is what it was offered with.
-/// @return 1, also for NULL, which changes nothing; 0 with an object, or without memory.
-inline int ixTakeText(char*& field, const char* text, const void* object) {
-    if (object != nullptr) return 0;
-    return text != nullptr ? ixSetText(field, text) : 1;
-}
-
-/// Decimal text to number as `__atoi` does it, within the limits of the type: 0 for a negative one.
-IX_XML_EXPORT unsigned int ixToUnsigned(const char* text);
+/// @name Setters
+/// @{
 
 /// Stores a flag, a number or an enumerator. @return 1.
 template <class Field, class Value>
@@ -73,16 +79,16 @@ int ixSetNumber(Field& field, Value value) {
     return 1;
 }
 
-/// Puts a copy of `text`, or NULL for NULL, in the place of an owned text.
-/// Required: an earlier text is not freed, for callers that still hold it. @return 1, or 0 without memory.
-IX_XML_EXPORT int ixOverwriteText(char*& field, const char* text);
-
-/// `ixOverwriteText`, unless `text` is NULL. @return 1, or 0 without memory.
-inline int ixOverwriteWithText(char*& field, const char* text) {
-    return text != nullptr ? ixOverwriteText(field, text) : 1;
+/// Replaces an owned child by `child`, which passes to the element; the earlier one is deleted. NULL clears the field.
+/// @return 1.
+template <class Element>
+int ixSetChild(Element*& field, Element* child) {
+    if (field != child) ixDelete(field);
+    field = child;
+    return 1;
 }
 
-/// Stores a child or list, which passes to the element; NULL changes nothing.
+/// Stores a child or a list, which passes to the element; NULL changes nothing.
 /// Required: an earlier one is not freed, for callers that still hold it. @return 1.
 template <class Child>
 int ixOverwriteChild(Child*& field, Child* child) {
@@ -90,54 +96,68 @@ int ixOverwriteChild(Child*& field, Child* child) {
     return 1;
 }
 
-/// Replaces an owned child by `child`, which passes to the element; the earlier one is deleted. NULL clears the field.
-/// @return 1.
-template <class Element>
-int ixSetChild(Element*& field, Element* child) {
-    if (field != child) IX_DELETE(field);
-    field = child;
-    return 1;
-}
+/// Replaces the list `field` of `element` by `list`, which passes to the element with its entries; the earlier one is
+/// deleted with its own. NULL clears the field. @return 1.
+IX_XML_EXPORT int ixSetList(const XMLElement& element, IxSingleElementList*& field, IxSingleElementList* list);
 
-/// Takes over `child` as `ixSetChild` does, when it is an object of the field's class.
-/// @return 1, or 0 for NULL and any other class.
-template <class Element>
-int ixTakeChild(Element*& field, XMLElement* child) {
-    return ixIs<Element>(child) ? ixSetChild(field, static_cast<Element*>(child)) : 0;
-}
+/// Appends `entry`, which passes to the element, to the list `field` of `element`, which is created on first use.
+/// @return 1, or 0 for NULL or without memory, when the entry stays with the caller and no list is created.
+IX_XML_EXPORT int ixAdd(XMLElement& element, IxSingleElementList* const& field, void* entry);
 
-/// Replaces an owned list of owned elements by `list`, which passes to the element; the earlier one is deleted. NULL
-/// clears the field. @return 1.
-IX_XML_EXPORT int ixSetElementList(IxSingleElementList*& field, IxSingleElementList* list);
+/// The same for a copy of a text.
+IX_XML_EXPORT int ixAddText(XMLElement& element, IxSingleElementList* const& field, const char* text);
+/// @}
 
-/// Replaces an owned list of attribute pairs by `list`, which passes to the element; the earlier one is deleted. NULL
-/// clears the field. @return 1.
-IX_XML_EXPORT int ixSetAttributeList(IxSingleElementList*& field, IxSingleElementList* list);
+/// @name Generic classes
+/// @{
 
-/// Replaces an owned list of owned texts by `list`, which passes to the element; the earlier one is deleted. NULL
-/// clears the field. @return 1.
-IX_XML_EXPORT int ixSetTextList(IxSingleElementList*& field, IxSingleElementList* list);
+/// An element whose content is one text.
+class IX_XML_EXPORT ix_string : public XmlDescribedElement {
+  public:
+    static const XmlClass kClass;
 
-/// Appends `entry` to a list that is created on first use and registered under `source` and `line`.
-/// @return 1, or 0 without memory, when the entry stays with the caller and no list is created.
-IX_XML_EXPORT int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line);
+    ix_string() : ix_string(kClass) {}
+    ~ix_string() override { ixRelease(*this, kClass); }
 
-/// `ixAppend` for `child` when it is an object of the class `Element`.
-/// @return 1, or 0 for NULL, any other class and without memory, when it stays with the caller.
-template <class Element>
-int ixTakeInto(IxSingleElementList*& list, XMLElement* child, const char* source, int line) {
-    return ixIs<Element>(child) ? ixAppend(list, child, source, line) : 0;
-}
+    /// Copies `value`; NULL clears the text. @return 1, or 0 without memory, the earlier text kept.
+    int setValueValue(const char* value) { return ixSetText(mValue, value); }
+    /// The same.
+    int setTextValue(const char* value) { return ixSetText(mValue, value); }
 
-/// Appends a copy of the `length` characters at `text` as `ixAppend` does. @return 1, or 0 for NULL or without memory.
-IX_XML_EXPORT int ixAppendText(IxSingleElementList*& list, const char* text, std::size_t length, const char* source,
-                               int line);
+    char* mValue = nullptr;  ///< Owned; NULL: not set.
+
+  protected:
+    /// For a class of an element of its own.
+    explicit ix_string(const XmlClass& description) : XmlDescribedElement(description) {}
+};
+
+/// An element without content, whose presence is the information.
+class IX_XML_EXPORT ix_empty_element_type : public XmlDescribedElement {
+  public:
+    static const XmlClass kClass;
+
+    ix_empty_element_type() : XmlDescribedElement(kClass) {}
+    ~ix_empty_element_type() override { ixRelease(*this, kClass); }
+
+    /// Copies the element's name; NULL clears it. @return 1, or 0 without memory, the earlier name kept.
+    int setNameValue(const char* name) { return ixSetText(mName, name); }
+    /// @return 1.
+    int setPresentValue(int present) { return ixSetNumber(mPresent, present); }
+
+    char* mName = nullptr;  ///< Owned; the name the element is written with. NULL: not set.
+    int mPresent = 0;       ///< 1 present, 0 absent.
+};
 
 /// A pair with copies of both texts, NULL for NULL, registered under `source` and `line`; NULL without memory.
-IX_XML_EXPORT ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line);
+IX_XML_EXPORT ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source,
+                                                  int line = __builtin_LINE());
 
 /// An element without content that is present under the name `name` (copied), registered under `source` and `line`;
 /// NULL without memory.
-IX_XML_EXPORT ix_empty_element_type* ixCreateEmptyElement(const char* name, const char* source, int line);
+IX_XML_EXPORT ix_empty_element_type* ixCreateEmptyElement(const char* name, const char* source,
+                                                          int line = __builtin_LINE());
+/// @}
+
+#include "XmlElementSupportOld.h"
 
 #endif

@@ -1,109 +1,19 @@
 /// @file
-/// Field tables: each element class describes its data members once, as constants, and clean-up, comparison and
-/// printing work from the description.
-///
-/// A row holds a pointer to a data member, converted to one of the base class, so that one piece of code can reach the
-/// members of every class without templates. A table must only be used with objects of the class that it belongs to,
-/// which `XMLElement::FieldTable` guarantees.
+/// What works from the description of an element class: looking at fields, release, comparison.
 #ifndef IX_XML_FIELDS_H
 #define IX_XML_FIELDS_H
 
-#include <climits>
-#include <cstring>
+#include "XmlClass.h"
 
-#include "XMLCommonDef.h"
-
-/// What a field holds. The type of the data member is in parentheses.
-enum class XmlFieldKind : unsigned char {
-    Text,           ///< Owned text (`char*`).
-    Flag,           ///< True or false (`int`).
-    Number,         ///< Number (`int`).
-    Unsigned,       ///< Number (`unsigned int`).
-    Number64,       ///< Number (`std::int64_t`).
-    Enumeration,    ///< Index of a text (`int`).
-    Child,          ///< Owned element (pointer to a class derived from `XMLElement`).
-    ChildList,      ///< Owned list of owned elements (`IxSingleElementList*`).
-    TextList,       ///< Owned list of owned texts.
-    AttributeList,  ///< Owned list of owned `ix_AttributeValuePair` objects.
-    Presence        ///< Owned `ix_empty_element_type` whose presence is the information.
-};
-
-/// The texts of an enumeration, in rows of a fixed width.
-struct XmlEnumeration {
-    const char* rows;
-    std::size_t width;
-    int count;
-
-    const char* TextOf(long long value) const {
-        return value >= 0 && value < count ? rows + static_cast<std::size_t>(value) * width : nullptr;
-    }
-
-    /// The first row that is exactly `text`; `count` for none, and for NULL.
-    int IndexOf(const char* text) const {
-        int index = 0;
-        while (index < count && (text == nullptr || std::strcmp(text, TextOf(index)) != 0)) ++index;
-        return index;
-    }
-
-    /// The first row that `text` begins with; `count` for none, and for NULL.
-    int IndexOfPrefix(const char* text) const {
-        int index = 0;
-        while (index < count &&
-               (text == nullptr || std::strncmp(text, TextOf(index), std::strlen(TextOf(index))) != 0)) {
-            ++index;
-        }
-        return index;
-    }
-};
-
-/// Pointers to data members, as the table holds them.
-using XmlTextMember = char* XMLElement::*;
-using XmlIntMember = int XMLElement::*;
-using XmlUnsignedMember = unsigned int XMLElement::*;
-using XmlInt64Member = std::int64_t XMLElement::*;
-using XmlListMember = IxSingleElementList* XMLElement::*;
-/// Reads a child, whose member has the child's own type.
-using XmlChildReader = XMLElement* (*)(const XMLElement& parent);
-
-/// The reader of the member `member` of the class `type`.
-#define IX_CHILD_MEMBER(type, member) \
-    XmlChildReader([](const XMLElement& element) -> XMLElement* { return static_cast<const type&>(element).member; })
-
-/// The 'not set' value of a number that has none: the field is always shown.
-constexpr long long kXmlAlwaysSet = LLONG_MIN;
-
-/// One field of an element class.
-struct IX_XML_EXPORT XmlField {
-    union Member {
-        XmlTextMember text;
-        XmlIntMember number;
-        XmlUnsignedMember unsignedNumber;
-        XmlInt64Member number64;
-        XmlListMember list;
-        XmlChildReader child;
-        constexpr Member(XmlTextMember member) : text(member) {}
-        constexpr Member(XmlIntMember member) : number(member) {}
-        constexpr Member(XmlUnsignedMember member) : unsignedNumber(member) {}
-        constexpr Member(XmlInt64Member member) : number64(member) {}
-        constexpr Member(XmlListMember member) : list(member) {}
-        constexpr Member(XmlChildReader reader) : child(reader) {}
-    };
-
-    XmlFieldKind kind;
-    e_XmlStrRef name;  ///< Element or attribute name; `IX_STR_IX_NULL`: see `key`.
-    Member member;
-    long long notSet = 0;                         ///< Flags, numbers, enumerations: the value that means 'not set'.
-    const XmlEnumeration* enumeration = nullptr;  ///< Enumerations only.
-    const char* key = nullptr;  ///< Name of a field that no XML name stands for: "text", "attributes".
-
-    const char* Name() const { return key != nullptr ? key : ix_xml_common_array_definition::getStringName(name); }
-};
-
-/// The fields of a class in declaration order.
-struct XmlFieldTable {
-    const XmlFieldTable* base;  ///< Table of the base class, whose fields come first; NULL: none.
-    const XmlField* fields;
-    std::size_t count;
+/// Ends of lists. Each deletes the entries and then the list; NULL is ignored, and so are NULL entries.
+class IX_XML_EXPORT ix_xml_common_methods {
+  public:
+    /// The entries are `XMLElement` objects, deleted with all that is below them. Safe for trees of any depth.
+    static void DeleteElementList(IxSingleElementList* list);
+    /// The entries are `ix_AttributeValuePair` objects.
+    static void DeleteAttributeList(IxSingleElementList* list);
+    /// The entries are texts.
+    static void DeleteTextList(IxSingleElementList* list);
 };
 
 /// Operations on the fields of an element.
@@ -128,9 +38,17 @@ class IX_XML_EXPORT XmlFields {
     /// The document's word for an enumerated field; NULL: it is not set, or the class has none of that name.
     static const char* Word(const XMLElement& element, const char* name);
 
-    /// Frees what the fields of `table` own, not those of its base. Every destructor of an element class calls it with
-    /// the class's own table.
+    /// The row of a list by its data member; NULL: the class has none.
+    static const XmlField* RowOf(const XMLElement& element, const IxSingleElementList* const& list);
+
+    /// Path of the file that a row of the element's class stands in.
+    static const char* SourceOf(const XMLElement& element, const XmlField& row);
+
+    /// Frees what the fields of `table` own, not those of its base.
     static void Release(XMLElement* element, const XmlFieldTable& table);
+
+    /// Deletes a list of `row` with its entries. NULL is ignored.
+    static void DeleteList(const XmlField& row, IxSingleElementList* list);
 
     /// True when `child` is the value of a child field, or the last entry of a child list. A class without a table is
     /// taken to hold whatever it has accepted.

@@ -3,14 +3,28 @@
 #ifndef IX_XML_NAMESPACE_TABLE_H
 #define IX_XML_NAMESPACE_TABLE_H
 
-#include "XMLCommonDef.h"
-#include "XmlPlatform.h"
+#include "XmlElementSupport.h"
 
 /// One namespace of a schema, as a constant.
 struct XmlNamespaceRow {
     e_XmlStrRef canonicalPrefix;  ///< The prefix that the schema's own comparisons use.
     e_XmlStrRef documentPrefix;   ///< The prefix assumed until a binder says otherwise; `IX_STR_IX_NULL`: none.
     e_XmlStrRef uri;
+};
+
+/// Base of the object that serves as namespace binder: the declarations of a document.
+class IX_XML_EXPORT XmlNamespaceBinder : public XmlDescribedObject {
+  public:
+    static const XmlClass kClass;
+
+    /// The declarations, `ix_AttributeValuePair`s of prefix and URI, which stay with the binder; NULL: none.
+    virtual IxSingleElementList* getNameSpaceInfo() const = 0;
+
+    /// Those of an object, when it is a binder; NULL else.
+    static const IxSingleElementList* DeclarationsOf(const XMLObject* object);
+
+  protected:
+    explicit XmlNamespaceBinder(const XmlClass& description) : XmlDescribedObject(description) {}
 };
 
 /// A chain of namespaces, copied from constants, whose document prefixes can be replaced.

@@ -12,6 +12,31 @@
 
 #define IX_XML_EXPORT __attribute__((visibility("default")))
 
+/// The path of a source file as log and memory tracker show it: from `ims` on, without extension.
+class XmlSourcePath {
+  public:
+    template <std::size_t size>
+    constexpr explicit XmlSourcePath(const char (&path)[size]) {
+        std::size_t from = 0;
+        std::size_t end = size - 1;
+        for (std::size_t i = 0; i + 3 < size; ++i) {
+            const bool isRoot = path[i] == 'i' && path[i + 1] == 'm' && path[i + 2] == 's' && path[i + 3] == '/';
+            if (isRoot && (i == 0 || path[i - 1] == '/')) from = i;
+            if (path[i] == '.') end = i;
+        }
+        for (std::size_t i = from; i < end && i - from < sizeof m_text - 1; ++i) m_text[i - from] = path[i];
+    }
+    constexpr operator const char*() const { return m_text; }
+
+  private:
+    char m_text[100] = {};
+};
+
+namespace {
+/// The path of the source file that includes this one.
+constexpr XmlSourcePath kSource(__BASE_FILE__);
+}  // namespace
+
 /// Base of every class whose objects are created with `new`: their memory comes from the platform layer, like that of
 /// all texts and lists. Where there is none, a `new` expression of such a class yields NULL; it never throws.
 class IX_XML_EXPORT XmlHeapObject {
@@ -45,6 +70,20 @@ inline void* ixTrack(int module, const char* source, int line, void* object, std
     return object;
 }
 
+/// A new `Object`, registered under the source path `source` and the line of the call; NULL without memory.
+template <class Object>
+Object* ixNew(const char* source, int line = __builtin_LINE(), int module = kSchemaModule) {
+    return static_cast<Object*>(ixTrack(module, source, line, new (std::nothrow) Object, sizeof(Object)));
+}
+
+/// Unregisters and deletes an object; NULL is ignored.
+template <class Object>
+void ixDelete(Object* object, int module = kSchemaModule) {
+    if (object == nullptr) return;
+    trmemlog_remove(module, object);
+    delete object;
+}
+
 #define IX_TRACKED_NEW(module, source, line, type, arguments) \
     static_cast<type*>(ixTrack(module, source, line, new (std::nothrow) type arguments, sizeof(type)))
 
@@ -75,12 +114,18 @@ enum XmlLogCode {
     kSchemaCode = 6070        ///< Schema families, containers and the document generator.
 };
 
-/// A log line as a constant. A file keeps all of its lines in one block at its top.
+/// A log line: `{3, "text"}` where it is logged.
 struct XmlLogText {
-    int level;           ///< As the platform layer has it (ixDpl.h), 1 to 4.
-    int code;            ///< One of `XmlLogCode`.
-    int line;            ///< Source line the log shows.
-    const char* format;  ///< printf-style, at most three conversions; NULL: this line is not logged.
+    int level = 0;                 ///< As the platform layer has it (ixDpl.h), 1 to 4.
+    int code = kSchemaCode;        ///< One of `XmlLogCode`.
+    int line = 0;                  ///< Source line the log shows: that of the statement, unless it is fixed.
+    const char* format = nullptr;  ///< printf-style, at most three conversions; NULL: nothing is logged.
+
+    constexpr XmlLogText() = default;
+    constexpr XmlLogText(int textLevel, const char* text, int textLine = __builtin_LINE())
+        : level(textLevel), line(textLine), format(text) {}
+    constexpr XmlLogText(int textLevel, int textCode, int textLine, const char* text)
+        : level(textLevel), code(textCode), line(textLine), format(text) {}
 };
 
 /// One argument of a log line, as the machine word that the platform layer takes.

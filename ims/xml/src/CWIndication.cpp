@@ -6,17 +6,17 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/CWIndication";
 
-constexpr XmlKnownName kRoot = {IX_STR_IMS_3GPP};
+constexpr XmlOldKnownName kRoot = {IX_STR_IMS_3GPP};
 
-constexpr XmlContainerRow kContainers[] = {
-    {kRoot, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_ims_3gpp)},
-    {{IX_STR_ALTERNATIVE_SERVICE}, XmlContainerRow::Child, IX_OBJECT(ix_alternative_service)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {kRoot, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_ims_3gpp)},
+    {{IX_STR_ALTERNATIVE_SERVICE}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_alternative_service)},
 };
 
-constexpr XmlAttributeRow kAttribute = {kRoot, IX_STR_VERSION};
+constexpr XmlOldAttributeRow kAttribute = {kRoot, IX_STR_VERSION};
 
-constexpr XmlDecoderInfo kInfo = ixImsBodyDecoderInfo(kSourceFile, __LINE__, kContainers, kAttribute);
+constexpr XmlOldDecoderInfo kInfo = ixImsBodyDecoderInfo(kSourceFile, __LINE__, kContainers, kAttribute);
 
 }  // namespace
 
-XMLCWIndicationDecoder::XMLCWIndicationDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLCWIndicationDecoder::XMLCWIndicationDecoder() : XmlOldFamilyDecoder(kInfo) {}

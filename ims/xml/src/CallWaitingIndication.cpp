@@ -6,32 +6,32 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/CallWaitingIndication";
 
-constexpr XmlContainerRow kContainers[] = {
-    {{IX_STR_3GPP_IMS}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_3gpp_ims)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {{IX_STR_3GPP_IMS}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_3gpp_ims)},
     // Required: the class is spelled so that its objects are never recognised. The alternative service stays on the
     // stack behind its end tag, takes what follows in the root, and is popped in place of the root.
     {{IX_STR_ALTERNATIVE_SERVICE},
-     XmlContainerRow::Child,
+     XmlOldContainerRow::Child,
      "ix_ns_call_waiting_indiaction_alternative_service",
-     IX_CREATOR(ix_ns_call_waiting_indication_alternative_service)},
-    {{IX_STR_ACTION}, XmlContainerRow::Child, IX_OBJECT(ix_ns_call_waiting_indication_action)},
+     IX_OLD_CREATOR(ix_ns_call_waiting_indication_alternative_service)},
+    {{IX_STR_ACTION}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_call_waiting_indication_action)},
     {{IX_STR_CALL_WAITING_INDICATION},
-     XmlContainerRow::Leaf,
+     XmlOldContainerRow::Leaf,
      nullptr,
      [](const char* name, const char* source) -> XMLElement* { return ixCreateEmptyElement(name, source, __LINE__); }},
 };
 
 // Required: the known attribute is one of another document, so that the version of the root only ever comes as a pair,
 // which the root does not take.
-constexpr XmlAttributeRow kAttribute = {{IX_STR_PRESENCE}, IX_STR_ENTITY};
+constexpr XmlOldAttributeRow kAttribute = {{IX_STR_PRESENCE}, IX_STR_ENTITY};
 
-constexpr XmlDecoderInfo kInfo = ixImsBodyDecoderInfo(kSourceFile, __LINE__, kContainers, kAttribute);
+constexpr XmlOldDecoderInfo kInfo = ixImsBodyDecoderInfo(kSourceFile, __LINE__, kContainers, kAttribute);
 
 }  // namespace
 
-XMLCallWaitingIndicationDecoder::XMLCallWaitingIndicationDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLCallWaitingIndicationDecoder::XMLCallWaitingIndicationDecoder() : XmlOldFamilyDecoder(kInfo) {}
 
 int XMLCallWaitingIndicationDecoder::EndElement(char* name, char* text) {
     const bool isIndication = ixEndNameIs(name, IX_STR_CALL_WAITING_INDICATION);
-    return isIndication ? OtherElement(name, text) : XmlFamilyDecoder::EndElement(name, text);
+    return isIndication ? OtherElement(name, text) : XmlOldFamilyDecoder::EndElement(name, text);
 }

@@ -9,22 +9,22 @@ namespace {
 const char kSourceFile[] = "ims/xml/src/CommunicationWaiting";
 
 // Required: the source lines of this family are fixed; the others show their own.
-constexpr XmlKnownName kRoot = {IX_STR_COMMUNICATION_WAITING, XmlKnownName::Optional, IX_STR_SS};
+constexpr XmlOldKnownName kRoot = {IX_STR_COMMUNICATION_WAITING, XmlOldKnownName::Optional, IX_STR_SS};
 
-constexpr XmlContainerRow kContainers[] = {
-    {kRoot, XmlContainerRow::Root, nullptr,
+constexpr XmlOldContainerRow kContainers[] = {
+    {kRoot, XmlOldContainerRow::Root, nullptr,
      [](const char*, const char*) -> XMLElement* { return IX_NEW_AT(314, ix_communication_waiting); }},
 };
 
-constexpr XmlAttributeRow kAttributes[] = {
+constexpr XmlOldAttributeRow kAttributes[] = {
     {kRoot, IX_STR_ACTIVE},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info;
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info;
     info.source = kSourceFile;
-    info.names = XmlNamePolicy::Mapped;
-    info.attributePolicy = XmlAttributePolicy::Top;
+    info.names = XmlOldNamePolicy::Mapped;
+    info.attributePolicy = XmlOldAttributePolicy::Top;
     info.containers = kContainers;
     info.containerCount = std::size(kContainers);
     info.attributes = kAttributes;
@@ -61,7 +61,7 @@ constexpr XmlDecoderInfo Info() {
         "XMLCommunicationDiversionDecoder :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory"};
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
@@ -71,4 +71,4 @@ const XmlNamespaceRow kCommunicationWaitingNamespaces[kCommunicationWaitingNames
     {IX_STR_OCP, IX_STR_OCP, IX_STR_URN_OMA_XML_XDM_COMMON_POLICY},
 };
 
-XMLCommunicationWaitingDecoder::XMLCommunicationWaitingDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLCommunicationWaitingDecoder::XMLCommunicationWaitingDecoder() : XmlOldFamilyDecoder(kInfo) {}

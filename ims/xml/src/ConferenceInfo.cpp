@@ -6,18 +6,18 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/ConferenceInfo";
 
-constexpr XmlKnownName kConferenceInfo = {IX_STR_CONFERENCE_INFO};
-constexpr XmlKnownName kEntry = {IX_STR_ENTRY};
+constexpr XmlOldKnownName kConferenceInfo = {IX_STR_CONFERENCE_INFO};
+constexpr XmlOldKnownName kEntry = {IX_STR_ENTRY};
 
 /// A row of an element that is of the same class in every parent. A parent that does not know the element refuses it.
 #define IX_ROW(name, type) \
-    { {name}, XmlContainerRow::Child, IX_OBJECT(type) }
+    { {name}, XmlOldContainerRow::Child, IX_OLD_OBJECT(type) }
 /// A row of an `entry`, whose class depends on its parent.
 #define IX_ENTRY_ROW(parent, type) \
-    { kEntry, XmlContainerRow::Child, IX_OBJECT(type), parent::kClassName }
+    { kEntry, XmlOldContainerRow::Child, IX_OLD_OBJECT(type), parent::kClassName }
 
-constexpr XmlContainerRow kContainers[] = {
-    {kConferenceInfo, XmlContainerRow::Root, IX_OBJECT(ix_conference_type)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {kConferenceInfo, XmlOldContainerRow::Root, IX_OLD_OBJECT(ix_conference_type)},
     IX_ROW(IX_STR_CONFERENCE_DESCRIPTION, ix_conference_description_type),
     IX_ROW(IX_STR_CONF_URIS, ix_uris_type),
     IX_ROW(IX_STR_SERVICE_URIS, ix_uris_type),
@@ -44,7 +44,7 @@ constexpr XmlContainerRow kContainers[] = {
     IX_ENTRY_ROW(ix_sidebars_by_val_type, ix_conference_type),
 };
 
-constexpr XmlAttributeRow kAttributes[] = {
+constexpr XmlOldAttributeRow kAttributes[] = {
     {kConferenceInfo, IX_STR_XMLNS, true},  // the marshaller writes its own
     {kConferenceInfo, IX_STR_ENTITY},
     {kConferenceInfo, IX_STR_STATE},
@@ -67,21 +67,21 @@ constexpr XmlAttributeRow kAttributes[] = {
     {{IX_STR_MEDIA}, IX_STR_ID},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlNamePolicy::Raw;
-    IX_DECODER_NULL_TEXTS(info.texts, "XMLConferenceInfoDecoder");
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
+    info.names = XmlOldNamePolicy::Raw;
+    IX_OLD_DECODER_NULL_TEXTS(info.texts, "XMLConferenceInfoDecoder");
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLConferenceInfoDecoder::XMLConferenceInfoDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLConferenceInfoDecoder::XMLConferenceInfoDecoder() : XmlOldFamilyDecoder(kInfo) {}
 
 int XMLConferenceInfoDecoder::EndElement(char* name, char* text) {
     if (ixEndNameIs(name, IX_STR_ENTRY) && ixIs<ix_user_roles_type>(Top())) {
         return OtherElement(name, text);
     }
-    return XmlFamilyDecoder::EndElement(name, text);
+    return XmlOldFamilyDecoder::EndElement(name, text);
 }

@@ -6,30 +6,30 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/Ft";
 
-constexpr XmlKnownName kFileInfo = {IX_STR_FILE_INFO};
-constexpr XmlKnownName kData = {IX_STR_DATA};
+constexpr XmlOldKnownName kFileInfo = {IX_STR_FILE_INFO};
+constexpr XmlOldKnownName kData = {IX_STR_DATA};
 
-constexpr XmlContainerRow kContainers[] = {
-    {{IX_STR_FILE}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_file)},
-    {kFileInfo, XmlContainerRow::Child, IX_OBJECT(ix_ns_ft_file_info)},
-    {kData, XmlContainerRow::Child, IX_OBJECT(ix_ns_ft_data)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {{IX_STR_FILE}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_file)},
+    {kFileInfo, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_ft_file_info)},
+    {kData, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_ft_data)},
 };
 
-constexpr XmlAttributeRow kAttributes[] = {
+constexpr XmlOldAttributeRow kAttributes[] = {
     {kFileInfo, IX_STR_TYPE},
     {kData, IX_STR_URL},
     {kData, IX_STR_ETAG},
     {kData, IX_STR_UNTIL},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlNamePolicy::Stripped;
-    info.attributePolicy = XmlAttributePolicy::Top;
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
+    info.names = XmlOldNamePolicy::Stripped;
+    info.attributePolicy = XmlOldAttributePolicy::Top;
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLFileDecoder::XMLFileDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLFileDecoder::XMLFileDecoder() : XmlOldFamilyDecoder(kInfo) {}

@@ -6,25 +6,25 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/Gruu";
 
-constexpr XmlKnownName kPubGruu = {IX_STR_PUB_GRUU};
-constexpr XmlKnownName kTempGruu = {IX_STR_TEMP_GRUU};
+constexpr XmlOldKnownName kPubGruu = {IX_STR_PUB_GRUU};
+constexpr XmlOldKnownName kTempGruu = {IX_STR_TEMP_GRUU};
 
-constexpr XmlContainerRow kContainers[] = {
-    {kPubGruu, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_pub_gruu)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {kPubGruu, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_pub_gruu)},
     // Required: the end tag of a temporary GRUU is not recognised, so it pops nothing (no class has an empty name).
-    {kTempGruu, XmlContainerRow::Root, "", IX_CREATOR(ix_temp_gruu)},
+    {kTempGruu, XmlOldContainerRow::Root, "", IX_OLD_CREATOR(ix_temp_gruu)},
 };
 
-constexpr XmlAttributeRow kAttributes[] = {
+constexpr XmlOldAttributeRow kAttributes[] = {
     {kPubGruu, IX_STR_URI},
     {kTempGruu, IX_STR_URI},
     {kTempGruu, IX_STR_FIRST_CSEQ},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlNamePolicy::Stripped;
-    info.attributePolicy = XmlAttributePolicy::Top;
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
+    info.names = XmlOldNamePolicy::Stripped;
+    info.attributePolicy = XmlOldAttributePolicy::Top;
     info.texts.noElement = {3, kSchemaCode, __LINE__, "<XML Module>: XMLGruuDecoder: n_strElement is NULL"};
     info.texts.noAttribute = {3, kSchemaCode, __LINE__,
                               "<XML Module>: XMLGruuDecoder: n_strElement or n_strAttr is NULL"};
@@ -32,13 +32,13 @@ constexpr XmlDecoderInfo Info() {
     info.texts.noPair = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at any attribute = \"%s\""};
     info.texts.pairRefused = {3, kSchemaCode, __LINE__,
                               "<XML Module>: Any attribute is not allowed for attribute = \"%s\""};
-    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLGruuDecoder");
+    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLGruuDecoder");
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLGruuDecoder::XMLGruuDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLGruuDecoder::XMLGruuDecoder() : XmlOldFamilyDecoder(kInfo) {}
 
 int XMLGruuDecoder::OtherElement(char* /*name*/, char* /*text*/) { return 0; }

@@ -6,20 +6,20 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/IsComposing";
 
-constexpr XmlContainerRow kContainers[] = {
-    {{IX_STR_ISCOMPOSING}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_isComposing)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {{IX_STR_ISCOMPOSING}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_isComposing)},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
-    info.names = XmlNamePolicy::Stripped;
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers);
+    info.names = XmlOldNamePolicy::Stripped;
     // Required: attributes are offered as if they were elements, which the root knows none of; so each is logged, and
     // none is kept.
-    info.attributePolicy = XmlAttributePolicy::AsElements;
+    info.attributePolicy = XmlOldAttributePolicy::AsElements;
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLIsComposingDecoder::XMLIsComposingDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLIsComposingDecoder::XMLIsComposingDecoder() : XmlOldFamilyDecoder(kInfo) {}

@@ -16,23 +16,23 @@ constexpr XmlLogText kUnknown = {3, kSchemaCode, __LINE__,
 constexpr XmlLogText kNoName = {3, kSchemaCode, __LINE__,
                                 "XMLPresenceDecoder :: ProcessAnyElement: n_strElement is NULL"};
 
-constexpr XmlKnownName kPresence = {IX_STR_PRESENCE};
-constexpr XmlKnownName kTuple = {IX_STR_TUPLE};
-constexpr XmlKnownName kContact = {IX_STR_CONTACT};
+constexpr XmlOldKnownName kPresence = {IX_STR_PRESENCE};
+constexpr XmlOldKnownName kTuple = {IX_STR_TUPLE};
+constexpr XmlOldKnownName kContact = {IX_STR_CONTACT};
 
-constexpr XmlContainerRow kContainers[] = {
-    {kPresence, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_presence)},
-    {kTuple, XmlContainerRow::Text, IX_OBJECT(ix_tuple)},
-    {{IX_STR_STATUS}, XmlContainerRow::Text, IX_OBJECT(ix_status)},
-    {kContact, XmlContainerRow::Text, IX_OBJECT(ix_contact)},
-    {{IX_STR_NOTE}, XmlContainerRow::Text, IX_OBJECT(ix_note)},
-    {{IX_STR_SERVICE_DESCRIPTION}, XmlContainerRow::Child, IX_OBJECT(ix_ns_oma_pres_service_description)},
-    {{IX_STR_SERVCAPS}, XmlContainerRow::Child, IX_OBJECT(ix_ns_caps_servcaps)},
-    {{IX_STR_DUPLEX}, XmlContainerRow::Child, IX_OBJECT(ix_ns_caps_duplextype)},
-    {{IX_STR_SUPPORTED}, XmlContainerRow::Child, IX_OBJECT(ix_ns_caps_duplextypes)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {kPresence, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_presence)},
+    {kTuple, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_tuple)},
+    {{IX_STR_STATUS}, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_status)},
+    {kContact, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_contact)},
+    {{IX_STR_NOTE}, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_note)},
+    {{IX_STR_SERVICE_DESCRIPTION}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_oma_pres_service_description)},
+    {{IX_STR_SERVCAPS}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_caps_servcaps)},
+    {{IX_STR_DUPLEX}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_caps_duplextype)},
+    {{IX_STR_SUPPORTED}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_caps_duplextypes)},
 };
 
-constexpr XmlAttributeRow kAttributes[] = {
+constexpr XmlOldAttributeRow kAttributes[] = {
     {kPresence, IX_STR_ENTITY},
     {kTuple, IX_STR_ID},
     {kContact, IX_STR_PRIORITY},
@@ -46,29 +46,29 @@ constexpr e_XmlStrRef kNames[] = {IX_STR_PRESENCE,   IX_STR_TUPLE,       IX_STR_
 constexpr std::size_t kFirstExtension = 7;
 static_assert(kNames[kFirstExtension] == IX_STR_SERVICE_DESCRIPTION, "PIDF ends before this one");
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlNamePolicy::Stripped;
-    info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
+    info.names = XmlOldNamePolicy::Stripped;
+    info.attributePolicy = XmlOldAttributePolicy::OwnNoPairs;
     // Required: one of the four texts ends in a blank.
-    IX_DECODER_TEXTS(info.texts, "XMLPresenceDecoder", "m_PassName", "m_PassName");
+    IX_OLD_DECODER_TEXTS(info.texts, "XMLPresenceDecoder", "m_PassName", "m_PassName");
     info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
                                   "<XML Module>XMLPresenceDecoder :: ProcessAttribute: m_PassName is NULL "};
-    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLPresenceDecoder");
+    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLPresenceDecoder");
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLPresenceDecoder::XMLPresenceDecoder() : XmlFamilyDecoder(kInfo) {
-    for (std::size_t i = 0; i < std::size(kNames); ++i) m_names.Add(i, XmlKnownName{kNames[i]});
+XMLPresenceDecoder::XMLPresenceDecoder() : XmlOldFamilyDecoder(kInfo) {
+    for (std::size_t i = 0; i < std::size(kNames); ++i) m_names.Add(i, XmlOldKnownName{kNames[i]});
 }
 
 /// @param name of a start or an end tag.
 XMLPresenceDecoder::Origin XMLPresenceDecoder::OriginOf(const char* name) const {
     if (*name == '/') ++name;
-    const unsigned key = XmlRowIndex::Key(name);
+    const unsigned key = XmlOldRowIndex::Key(name);
     for (std::size_t i = m_names.Next(key, 0); i < std::size(kNames); i = m_names.Next(key, i + 1)) {
         if (ixNameIs(name, kNames[i])) return i < kFirstExtension ? Pidf : Extension;
     }
@@ -76,13 +76,13 @@ XMLPresenceDecoder::Origin XMLPresenceDecoder::OriginOf(const char* name) const 
 }
 
 int XMLPresenceDecoder::StartElement(char* name) {
-    XmlFamilyDecoder::StartElement(name);
+    XmlOldFamilyDecoder::StartElement(name);
     LogOutside(name);
     return 0;
 }
 
 int XMLPresenceDecoder::EndElement(char* name, char* text) {
-    XmlFamilyDecoder::EndElement(name, text);
+    XmlOldFamilyDecoder::EndElement(name, text);
     LogOutside(name);
     return 0;
 }
@@ -93,7 +93,7 @@ void XMLPresenceDecoder::LogOutside(const char* name) const {
 }
 
 int XMLPresenceDecoder::OtherElement(char* name, char* text) {
-    if (OriginOf(name) != Unknown) return XmlFamilyDecoder::OtherElement(name, text);
+    if (OriginOf(name) != Unknown) return XmlOldFamilyDecoder::OtherElement(name, text);
     ixLog(kSourceFile, kUnknown, name);
     ixLog(kSourceFile, kDropped, name);
     return 0;
@@ -109,9 +109,9 @@ XMLElement* XMLPresenceDecoder::ProcessAnyElement(char* name, char* data) {
         return nullptr;
     }
     if (*name == '/') {
-        XmlFamilyDecoder::EndElement(name, data);
+        XmlOldFamilyDecoder::EndElement(name, data);
     } else {
-        XmlFamilyDecoder::StartElement(name);
+        XmlOldFamilyDecoder::StartElement(name);
     }
     return Top();
 }

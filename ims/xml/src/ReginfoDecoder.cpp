@@ -9,16 +9,16 @@ const char kSourceFile[] = "ims/xml/src/ReginfoDecoder";
 constexpr XmlLogText kNoAnyElement = {3, kSchemaCode, __LINE__,
                                       "In XMLReginfoDecoder :: ProcessAnyElement, Element name is NULL"};
 
-constexpr XmlContainerRow kContainers[] = {
-    {{IX_STR_CONTACT}, XmlContainerRow::Child, IX_OBJECT(ix_ns_reginfo_contact)},
-    {{IX_STR_UNKNOWN_PARAM}, XmlContainerRow::Text, nullptr, IX_CREATOR(ix_unknown_param)},
-    {{IX_STR_REGISTRATION}, XmlContainerRow::Child, IX_OBJECT(ix_registration)},
-    {{IX_STR_REGINFO}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_reginfo)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {{IX_STR_CONTACT}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_reginfo_contact)},
+    {{IX_STR_UNKNOWN_PARAM}, XmlOldContainerRow::Text, nullptr, IX_OLD_CREATOR(ix_unknown_param)},
+    {{IX_STR_REGISTRATION}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_registration)},
+    {{IX_STR_REGINFO}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_reginfo)},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
-    info.names = XmlNamePolicy::Stripped;
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers);
+    info.names = XmlOldNamePolicy::Stripped;
     info.wrapsNameSize = true;
     info.texts.noElement = {3, kSchemaCode, __LINE__, "In XMLReginfoDecoder :: ProcessElement, Element name is NULL"};
     info.texts.noElementName = {3, kSchemaCode, __LINE__,
@@ -28,14 +28,14 @@ constexpr XmlDecoderInfo Info() {
     info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
                                   "<XML Module>XMLReginfoDecoder :: ProcessAttribute: m_PassName is NULL"};
     // Required: this line names another decoder and has the event number of the tokenizer.
-    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLCommunicationDiversionDecoder");
+    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLCommunicationDiversionDecoder");
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLReginfoDecoder::XMLReginfoDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLReginfoDecoder::XMLReginfoDecoder() : XmlOldFamilyDecoder(kInfo) {}
 
 XMLElement* XMLReginfoDecoder::ProcessAnyElement(char* name, char* /*text*/) {
     if (name == nullptr) {
@@ -53,7 +53,7 @@ XMLElement* XMLReginfoDecoder::ProcessAnyElement(char* name, char* /*text*/) {
 }
 
 int XMLReginfoDecoder::EndElement(char* name, char* text) {
-    return Top() != nullptr ? XmlFamilyDecoder::EndElement(name, text) : 0;
+    return Top() != nullptr ? XmlOldFamilyDecoder::EndElement(name, text) : 0;
 }
 
 /// `uri`, `display-name`, texts, and whatever is not of this schema.

@@ -6,34 +6,34 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/ResourceLists";
 
-constexpr XmlKnownName kList = {IX_STR_LIST};
-constexpr XmlKnownName kExternal = {IX_STR_EXTERNAL};
-constexpr XmlKnownName kEntry = {IX_STR_ENTRY};
-constexpr XmlKnownName kEntryRef = {IX_STR_ENTRY_REF};
+constexpr XmlOldKnownName kList = {IX_STR_LIST};
+constexpr XmlOldKnownName kExternal = {IX_STR_EXTERNAL};
+constexpr XmlOldKnownName kEntry = {IX_STR_ENTRY};
+constexpr XmlOldKnownName kEntryRef = {IX_STR_ENTRY_REF};
 
-constexpr XmlContainerRow kContainers[] = {
-    {{IX_STR_RESOURCE_LISTS}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_resource_lists)},
-    {kList, XmlContainerRow::Text, IX_OBJECT(ix_listType)},
-    {kExternal, XmlContainerRow::Text, IX_OBJECT(ix_externalType)},
-    {kEntry, XmlContainerRow::Text, IX_OBJECT(ix_entryType)},
-    {kEntryRef, XmlContainerRow::Text, IX_OBJECT(ix_entry_refType)},
-    {{IX_STR_DISPLAY_NAME}, XmlContainerRow::Text, IX_OBJECT(ix_display_nameType)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {{IX_STR_RESOURCE_LISTS}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_resource_lists)},
+    {kList, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_listType)},
+    {kExternal, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_externalType)},
+    {kEntry, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_entryType)},
+    {kEntryRef, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_entry_refType)},
+    {{IX_STR_DISPLAY_NAME}, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_display_nameType)},
 };
 
-constexpr XmlAttributeRow kAttributes[] = {
+constexpr XmlOldAttributeRow kAttributes[] = {
     {kList, IX_STR_NAME},
     {kExternal, IX_STR_ANCHOR},
     {kEntry, IX_STR_URI},
     {kEntryRef, IX_STR_REF},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    IX_DECODER_NULL_TEXTS(info.texts, "XMLResourceListsDecoder");
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
+    IX_OLD_DECODER_NULL_TEXTS(info.texts, "XMLResourceListsDecoder");
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLResourceListsDecoder::XMLResourceListsDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLResourceListsDecoder::XMLResourceListsDecoder() : XmlOldFamilyDecoder(kInfo) {}

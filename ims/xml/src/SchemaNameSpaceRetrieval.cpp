@@ -4,11 +4,9 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/SchemaNameSpaceRetrieval";
-
 constexpr XmlDecoderInfo Info() {
     XmlDecoderInfo info;
-    info.source = kSourceFile;
+    info.source = kSource;
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();
@@ -16,11 +14,11 @@ constexpr XmlDecoderInfo kInfo = Info();
 }  // namespace
 
 XMLSchemaNamespaceRetrievalDecoder::XMLSchemaNamespaceRetrievalDecoder() : XmlFamilyDecoder(kInfo) {
-    SetSessionData(IX_NEW(ix_schema_namespace_retrieval));
+    SetSessionData(ixNew<ix_schema_namespace_retrieval>(kSource));
 }
 
 bool XMLSchemaNamespaceRetrievalDecoder::IsDeclaration(const char* attribute) {
-    const char* const xmlns = ix_xml_common_array_definition::getStringName(IX_STR_XMLNS);
+    const char* const xmlns = ixString(IX_STR_XMLNS);
     return attribute != nullptr && __strncmp(attribute, xmlns, __strlen(xmlns)) == 0;
 }
 

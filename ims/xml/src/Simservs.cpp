@@ -7,24 +7,24 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/Simservs";
 
-constexpr XmlContainerRow kContainers[] = {
-    {{IX_STR_SIMSERVS, XmlKnownName::Optional, IX_STR_SS}, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_Simservs)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {{IX_STR_SIMSERVS, XmlOldKnownName::Optional, IX_STR_SS}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_Simservs)},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers);
-    info.names = XmlNamePolicy::Mapped;
-    info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers);
+    info.names = XmlOldNamePolicy::Mapped;
+    info.attributePolicy = XmlOldAttributePolicy::OwnNoPairs;
     info.namespaces = kSimservsNamespaces;
     info.namespaceCount = kSimservsNamespaceCount;
     IX_SERVICE_DECODER_TEXTS(info.texts, "XMLSimservsDecoder", "m_strDup", "XMLSimservsDecoder");
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLSimservsDecoder::XMLSimservsDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLSimservsDecoder::XMLSimservsDecoder() : XmlOldFamilyDecoder(kInfo) {}
 
 int XMLSimservsDecoder::StartElement(char* name) {
     // Required: a name is compared over its own length, or over that of "simserv" when it is shorter. So the beginnings
@@ -34,5 +34,5 @@ int XMLSimservsDecoder::StartElement(char* name) {
     const std::size_t own = std::strlen(name);
     const std::size_t length = own > kLeast ? own : kLeast;
     const bool isRoot = std::strncmp(name, root, length) == 0 || std::strncmp(name, "ss:simservs", length) == 0;
-    return XmlFamilyDecoder::StartElement(isRoot ? root : name);
+    return XmlOldFamilyDecoder::StartElement(isRoot ? root : name);
 }

@@ -6,13 +6,13 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/VolteConfigInfo";
 
-constexpr XmlContainerRow kContainers[] = {
-    {XmlKnownName::Of("volte-config-info"), XmlContainerRow::Root, nullptr, IX_CREATOR(ix_volte_config_info)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {XmlOldKnownName::Of("volte-config-info"), XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_volte_config_info)},
     kCharacteristicRow,
     kParmRow,
 };
-constexpr XmlDecoderInfo kInfo = ixCharacteristicDecoderInfo(kSourceFile, kContainers);
+constexpr XmlOldDecoderInfo kInfo = ixCharacteristicDecoderInfo(kSourceFile, kContainers);
 
 }  // namespace
 
-XMLVolteConfigInfoDecoder::XMLVolteConfigInfoDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLVolteConfigInfoDecoder::XMLVolteConfigInfoDecoder() : XmlOldFamilyDecoder(kInfo) {}

@@ -6,13 +6,13 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/WapProvisioningDoc";
 
-constexpr XmlContainerRow kContainers[] = {
-    {XmlKnownName::Of("wap-provisioningdoc"), XmlContainerRow::Root, nullptr, IX_CREATOR(ix_wap_provisioning_doc)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {XmlOldKnownName::Of("wap-provisioningdoc"), XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_wap_provisioning_doc)},
     kCharacteristicRow,
     kParmRow,
 };
-constexpr XmlDecoderInfo kInfo = ixCharacteristicDecoderInfo(kSourceFile, kContainers);
+constexpr XmlOldDecoderInfo kInfo = ixCharacteristicDecoderInfo(kSourceFile, kContainers);
 
 }  // namespace
 
-XMLWapProvisioningDocDecoder::XMLWapProvisioningDocDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLWapProvisioningDocDecoder::XMLWapProvisioningDocDecoder() : XmlOldFamilyDecoder(kInfo) {}

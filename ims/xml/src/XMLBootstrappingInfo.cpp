@@ -8,21 +8,21 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLBootstrappingInfo";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLBootstrappingInfoDecoder, "BootstrappingInfoUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLBootstrappingInfoDecoder, "BootstrappingInfoUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(BootstrappingInfoMarshaller, AddBootstrappingInfoElementToXml, ix_bootstrappinginfo)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(BootstrappingInfoMarshaller, AddBootstrappingInfoElementToXml, ix_bootstrappinginfo)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.entersFirst = true;
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller pObj is NULL"};
-    IX_MARSHALL_TEXTS(info, "BootstrappingInfoMarshaller", "mBootstrappingInfoXml");
+    IX_OLD_MARSHALL_TEXTS(info, "BootstrappingInfoMarshaller", "mBootstrappingInfoXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kUnknownElement = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 constexpr XmlLogText kAddRoot = {2, kSchemaCode, __LINE__, "<XML Module>: AddBootstrappingInfoElementToXml"};
@@ -60,7 +60,7 @@ int ix_bootstrappinginfo::addAnyElement(XMLElement* element) {
 
 XMLElement* BootstrappingInfoDataBinder::CreateRootElement() { return IX_NEW(ix_bootstrappinginfo); }
 
-BootstrappingInfoMarshaller::BootstrappingInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+BootstrappingInfoMarshaller::BootstrappingInfoMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int BootstrappingInfoMarshaller::AddBootstrappingInfoElementToXml(ix_bootstrappinginfo* element) {
     ixLog(kSourceFile, kAddRoot);
@@ -93,5 +93,5 @@ int BootstrappingInfoMarshaller::AddLifetimeElementToXml(const char* lifetime) {
     return 1;
 }
 
-IX_FAMILY(BootstrappingInfoContext, BootstrappingInfoMarshaller, BootstrappingInfoUnMarshaller,
+IX_OLD_FAMILY(BootstrappingInfoContext, BootstrappingInfoMarshaller, BootstrappingInfoUnMarshaller,
           BootstrappingInfoDataBinder);

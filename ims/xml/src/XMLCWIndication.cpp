@@ -8,11 +8,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCWIndication";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixImsBodyUnMarshallerInfo(
-    kSourceFile, __LINE__, [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCWIndicationDecoder); });
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = ixImsBodyUnMarshallerInfo(
+    kSourceFile, __LINE__, [](int line) -> XmlOldFamilyDecoder* { return IX_NEW_AT(line, XMLCWIndicationDecoder); });
 
-constexpr XmlWriterRow kWriter = {IX_WRITER_OF(CWIndicationMarshaller, AddIms3gppElementToXml, ix_ims_3gpp)};
-constexpr XmlMarshallerInfo kMarshallerInfo = ixImsBodyMarshallerInfo(kSourceFile, __LINE__, kWriter);
+constexpr XmlOldWriterRow kWriter = {IX_OLD_WRITER_OF(CWIndicationMarshaller, AddIms3gppElementToXml, ix_ims_3gpp)};
+constexpr XmlOldMarshallerInfo kMarshallerInfo = ixImsBodyMarshallerInfo(kSourceFile, __LINE__, kWriter);
 
 constexpr XmlLogText kRootHook = {2, kSchemaCode, __LINE__, "In ix_ims_3gpp::ProcessUnMarshall"};
 constexpr XmlLogText kServiceHook = {2, kSchemaCode, __LINE__, "In ix_alternative_service::ProcessUnMarshall"};
@@ -98,4 +98,4 @@ int CWIndicationMarshaller::AddAlternativeServiceElementToXml(ix_alternative_ser
     return 1;
 }
 
-IX_FAMILY(CWIndicationContext, CWIndicationMarshaller, CWIndicationUnMarshaller, CWIndicationDataBinder);
+IX_OLD_FAMILY(CWIndicationContext, CWIndicationMarshaller, CWIndicationUnMarshaller, CWIndicationDataBinder);

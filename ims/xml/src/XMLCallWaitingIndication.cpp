@@ -8,12 +8,12 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCallWaitingIndication";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixImsBodyUnMarshallerInfo(
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = ixImsBodyUnMarshallerInfo(
     kSourceFile, __LINE__,
-    [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCallWaitingIndicationDecoder); });
+    [](int line) -> XmlOldFamilyDecoder* { return IX_NEW_AT(line, XMLCallWaitingIndicationDecoder); });
 
-constexpr XmlWriterRow kWriter = {IX_WRITER_OF(CallWaitingIndicationMarshaller, Add3gppImsElementToXml, ix_3gpp_ims)};
-constexpr XmlMarshallerInfo kMarshallerInfo = ixImsBodyMarshallerInfo(kSourceFile, __LINE__, kWriter);
+constexpr XmlOldWriterRow kWriter = {IX_OLD_WRITER_OF(CallWaitingIndicationMarshaller, Add3gppImsElementToXml, ix_3gpp_ims)};
+constexpr XmlOldMarshallerInfo kMarshallerInfo = ixImsBodyMarshallerInfo(kSourceFile, __LINE__, kWriter);
 
 constexpr XmlLogText kRootHook = {2, kSchemaCode, __LINE__, "In ix_3gpp_ims::ProcessUnMarshall"};
 constexpr XmlLogText kServiceHook = {2, kSchemaCode, __LINE__,
@@ -167,5 +167,5 @@ int CallWaitingIndicationMarshaller::AddCallWaitingIndicationElementToXml(ix_emp
     return 1;
 }
 
-IX_FAMILY(CallWaitingIndicationContext, CallWaitingIndicationMarshaller, CallWaitingIndicationUnMarshaller,
+IX_OLD_FAMILY(CallWaitingIndicationContext, CallWaitingIndicationMarshaller, CallWaitingIndicationUnMarshaller,
           CallWaitingIndicationDataBinder);

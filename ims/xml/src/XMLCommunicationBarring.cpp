@@ -8,27 +8,27 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCommunicationBarring";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLCommunicationBarringDecoder, "CommunicationBarringUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLCommunicationBarringDecoder, "CommunicationBarringUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(Communication_barringMarshaller, AddIncoming_communication_barringElementToXml,
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(Communication_barringMarshaller, AddIncoming_communication_barringElementToXml,
                   ix_incoming_communication_barring),
      {2, kSchemaCode, __LINE__, "<XML Module>: Incoming_communication_barringMarshaller XML Failed!"}},
-    {IX_WRITER_OF(Communication_barringMarshaller, AddOutgoing_communication_barringElementToXml,
+    {IX_OLD_WRITER_OF(Communication_barringMarshaller, AddOutgoing_communication_barringElementToXml,
                   ix_outgoing_communication_barring),
      {2, kSchemaCode, __LINE__, "<XML Module>: outgoing_communication_barringMarshaller XML Failed!"}},
     IX_RULE_WRITER_ROWS,
-    {IX_WRITER_OF(XmlRuleMarshaller, AddExceptElementToXml, ix_ns_common_policy_exceptType)},
+    {IX_OLD_WRITER_OF(XmlRuleMarshaller, AddExceptElementToXml, ix_ns_common_policy_exceptType)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, kWriters);
     info.deletesFirst = true;
     IX_SERVICE_MARSHALL_TEXTS(info, "Communication_barringMarshaller", "mCbXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 // Required: unlike other entry lines, that of the actions names the marshaller and no module.
 constexpr XmlRuleWriterTexts kRuleTexts =
@@ -108,5 +108,5 @@ void Communication_barringMarshaller::AddAction(XMLElement* action) {
     }
 }
 
-IX_FAMILY(CommunicationBarringContext, Communication_barringMarshaller, CommunicationBarringUnMarshaller,
+IX_OLD_FAMILY(CommunicationBarringContext, Communication_barringMarshaller, CommunicationBarringUnMarshaller,
           CommunicationBarringDataBinder);

@@ -8,23 +8,23 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLCommunicationDiversion";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLCommunicationDiversionDecoder, "CommunicationDiversionUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLCommunicationDiversionDecoder, "CommunicationDiversionUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(Communication_diversionMarshaller, AddCommunication_diversionElementToXml,
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(Communication_diversionMarshaller, AddCommunication_diversionElementToXml,
                   ix_communication_diversion)},
-    {IX_WRITER_OF(Communication_diversionMarshaller, AddNoReplyTimerElementToXml, ix_NoReplyTimer)},
+    {IX_OLD_WRITER_OF(Communication_diversionMarshaller, AddNoReplyTimerElementToXml, ix_NoReplyTimer)},
     IX_RULE_WRITER_ROWS,
-    {IX_WRITER_OF(Communication_diversionMarshaller, AddForwardToElementtoXml, ix_ns_xcap_forward_to_type)},
+    {IX_OLD_WRITER_OF(Communication_diversionMarshaller, AddForwardToElementtoXml, ix_ns_xcap_forward_to_type)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, kWriters);
     IX_SERVICE_MARSHALL_TEXTS(info, "Communication_diversionMarshaller", "mCdivXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlRuleWriterTexts kRuleTexts =
     IX_RULE_WRITER_TEXTS("Communication_diversionMarshaller", "<XML Module>: AddActionsElementToXml");
@@ -136,5 +136,5 @@ void Communication_diversionMarshaller::AddNotification(e_XmlStrRef name, int va
     AddTextElement(name, ix_xml_common_array_definition::getStringName(value == 1 ? IX_STR_TRUE : IX_STR_FALSE));
 }
 
-IX_FAMILY(CommunicationDiversionContext, Communication_diversionMarshaller, CommunicationDiversionUnMarshaller,
+IX_OLD_FAMILY(CommunicationDiversionContext, Communication_diversionMarshaller, CommunicationDiversionUnMarshaller,
           CommunicationDiversionDataBinder);

@@ -10,10 +10,10 @@ namespace {
 const char kSourceFile[] = "ims/xml/src/XMLCommunicationWaiting";
 
 // Required: the source lines of this family are fixed; the others show their own.
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info;
+constexpr XmlOldUnMarshallerInfo UnMarshallerInfo() {
+    XmlOldUnMarshallerInfo info;
     info.source = kSourceFile;
-    info.createDecoder = [](int line) -> XmlFamilyDecoder* { return IX_NEW_AT(line, XMLCommunicationWaitingDecoder); };
+    info.createDecoder = [](int line) -> XmlOldFamilyDecoder* { return IX_NEW_AT(line, XMLCommunicationWaitingDecoder); };
     info.textTokenizerLine = 431;
     info.textDecoderLine = 433;
     info.fileTokenizerLine = 468;
@@ -21,14 +21,14 @@ constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
     info.noCopy = {4, kSchemaCode, 426, "<XML Module>: StrDup failed in CommunicationWaitingUnMarshaller::UnMarshall"};
     return info;
 }
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(Communication_waitingMarshaller, AddCommunication_waitingElementToXml, ix_communication_waiting)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(Communication_waitingMarshaller, AddCommunication_waitingElementToXml, ix_communication_waiting)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info;
     info.source = kSourceFile;
     info.writers = kWriters;
     info.writerCount = std::size(kWriters);
@@ -47,7 +47,7 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
     info.failed = {2, kSchemaCode, 301, "<XML Module>: Communication_waitingMarshaller XML Failed!"};
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kAddElement = {2, kSchemaCode, 194, "<XML Module>: AddCommunication_waitingElementToXml"};
 
@@ -69,7 +69,7 @@ const char* ix_communication_waiting::SourceFile() const { return kSourceFile; }
 
 XMLElement* CommunicationWaitingDataBinder::CreateRootElement() { return IX_NEW_AT(403, ix_communication_waiting); }
 
-const XmlUnMarshallerInfo& CommunicationWaitingUnMarshaller::Info() const { return kUnMarshallerInfo; }
+const XmlOldUnMarshallerInfo& CommunicationWaitingUnMarshaller::Info() const { return kUnMarshallerInfo; }
 
 Communication_waitingMarshaller::Communication_waitingMarshaller() : XmlServiceMarshaller(kMarshallerInfo) {}
 
@@ -80,11 +80,11 @@ int Communication_waitingMarshaller::AddCommunication_waitingElementToXml(ix_com
     return 1;
 }
 
-XmlFamilyMarshaller* CommunicationWaitingContext::NewMarshaller() {
+XmlOldFamilyMarshaller* CommunicationWaitingContext::NewMarshaller() {
     return IX_NEW_AT(331, Communication_waitingMarshaller);
 }
 
-XmlFamilyUnMarshaller* CommunicationWaitingContext::NewUnMarshaller() {
+XmlOldFamilyUnMarshaller* CommunicationWaitingContext::NewUnMarshaller() {
     return IX_NEW_AT(380, CommunicationWaitingUnMarshaller);
 }
 

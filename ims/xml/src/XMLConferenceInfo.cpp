@@ -8,26 +8,26 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLConferenceInfo";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLConferenceInfoDecoder, "ConferenceInfoUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLConferenceInfoDecoder, "ConferenceInfoUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
+constexpr XmlOldWriterRow kWriters[] = {
     {ix_conference_type::kClassName,
-     [](XmlFamilyMarshaller& self, XMLElement* root) -> int {
+     [](XmlOldFamilyMarshaller& self, XMLElement* root) -> int {
          return static_cast<Conference_infoMarshall&>(self).AddConferenceInfoElementToXml(
              static_cast<ix_conference_type*>(root), IX_STR_CONFERENCE_INFO);
      }},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.entersFirst = true;
-    IX_MARSHALL_TEXTS(info, "Conference_infoMarshall", "mConferenceInfoXml");
+    IX_OLD_MARSHALL_TEXTS(info, "Conference_infoMarshall", "mConferenceInfoXml");
     // Required: the text is spelt like this.
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: Conference_infoMarshall :: Marshall: Receiven NULL Object"};
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kAddConferenceInfo = {2, kSchemaCode, __LINE__, "<XML Module>: AddConferenceInfoElementToXml"};
 constexpr XmlLogText kNoEntity = {4, kSchemaCode, __LINE__,
@@ -483,7 +483,7 @@ IX_CONFERENCE_CREATOR(CreateHostType, ix_host_type)
 IX_CONFERENCE_CREATOR(CreateConferenceStateType, ix_conference_state_type)
 IX_CONFERENCE_CREATOR(CreateSideBarsByValueType, ix_sidebars_by_val_type)
 
-Conference_infoMarshall::Conference_infoMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
+Conference_infoMarshall::Conference_infoMarshall() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int Conference_infoMarshall::AddConferenceInfoElementToXml(ix_conference_type* conference, e_XmlStrRef name) {
     ixLog(kSourceFile, kAddConferenceInfo);
@@ -640,7 +640,7 @@ int Conference_infoMarshall::AddIUsersElementToXml(ix_users_type* users) {
     ixLog(kSourceFile, kAddUsers);
     if (users == nullptr) return 0;
     StartContainer(IX_STR_USERS, *users, kStates.TextOf(users->mState));
-    if (AddChildList(users->mUserList, IX_WRITER(Conference_infoMarshall, AddUserElementToXml, ix_user_type),
+    if (AddChildList(users->mUserList, IX_OLD_WRITER(Conference_infoMarshall, AddUserElementToXml, ix_user_type),
                      kUserFailed) == 0) {
         return 0;
     }
@@ -661,7 +661,7 @@ int Conference_infoMarshall::AddUserElementToXml(ix_user_type* user) {
     AddWords(IX_STR_LANGUAGES, user->mLanguages);
     AddTextElement(IX_STR_CASCADED_FOCUS, user->mCascadedFocus);
     if (AddChildList(user->mEndpointList,
-                     IX_WRITER(Conference_infoMarshall, AddEndPointElementToXml, ix_endpoint_type)) == 0) {
+                     IX_OLD_WRITER(Conference_infoMarshall, AddEndPointElementToXml, ix_endpoint_type)) == 0) {
         return 0;
     }
     EndElement(IX_STR_USER);
@@ -701,7 +701,7 @@ int Conference_infoMarshall::AddEndPointElementToXml(ix_endpoint_type* endpoint)
     AddExecution(IX_STR_JOINING_INFO, endpoint->mJoiningInfo);
     AddTextElement(IX_STR_DISCONNECTION_METHOD, kDisconnectionMethods.TextOf(endpoint->mDisconnectionMethod));
     AddExecution(IX_STR_DISCONNECTION_INFO, endpoint->mDisconnectionInfo);
-    if (AddChildList(endpoint->mMediaList, IX_WRITER(Conference_infoMarshall, AddMediaElementToXml, ix_media_type),
+    if (AddChildList(endpoint->mMediaList, IX_OLD_WRITER(Conference_infoMarshall, AddMediaElementToXml, ix_media_type),
                      kMediaFailed) == 0) {
         return 0;
     }
@@ -767,7 +767,7 @@ int Conference_infoMarshall::AddUrisTypeElementToXml(ix_uris_type* uris, e_XmlSt
     ixLog(kSourceFile, kAddUris);
     if (uris == nullptr) return 0;
     StartContainer(name, *uris, kStates.TextOf(uris->mState));
-    if (AddChildList(uris->mEntryList, IX_WRITER(Conference_infoMarshall, AddUriEntry, ix_uri_type), kUriFailed) == 0) {
+    if (AddChildList(uris->mEntryList, IX_OLD_WRITER(Conference_infoMarshall, AddUriEntry, ix_uri_type), kUriFailed) == 0) {
         return 0;
     }
     EndElement(name);
@@ -791,7 +791,7 @@ int Conference_infoMarshall::AddUriTypeElementToXml(ix_uri_type* uri) {
     return 1;
 }
 
-IX_FAMILY(ConferenceInfoContext, Conference_infoMarshall, ConferenceInfoUnMarshaller, ConferenceInfoDataBinder);
+IX_OLD_FAMILY(ConferenceInfoContext, Conference_infoMarshall, ConferenceInfoUnMarshaller, ConferenceInfoDataBinder);
 
 namespace {
 

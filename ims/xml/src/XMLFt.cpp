@@ -8,18 +8,18 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLFt";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLFileDecoder, "FileUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_OLD_UNMARSHALLER_INFO(XMLFileDecoder, "FileUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(FileMarshaller, AddFileElementToXml, ix_file)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(FileMarshaller, AddFileElementToXml, ix_file)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    IX_MARSHALL_TEXTS(info, "FileMarshaller", "mFileXml");
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
+    IX_OLD_MARSHALL_TEXTS(info, "FileMarshaller", "mFileXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kFileOffered = {2, kSchemaCode, __LINE__, "In ix_file::ProcessUnMarshall"};
 constexpr XmlLogText kFileAttribute = {2, kSchemaCode, __LINE__, "In ix_file::ProcessUnMarshallAttribute"};
@@ -113,13 +113,13 @@ ix_ns_ft_file_info* FileDataBinder::CreateFileInfoElement() { return IX_NEW(ix_n
 
 ix_ns_ft_data* FileDataBinder::CreateDataElement() { return IX_NEW(ix_ns_ft_data); }
 
-FileMarshaller::FileMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+FileMarshaller::FileMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int FileMarshaller::AddFileElementToXml(ix_file* file) {
     ixLog(kSourceFile, kAddFile);
     if (file == nullptr) return 0;
     StartElement(IX_STR_FILE);
-    if (AddChildList(file->mFileInfoList, IX_WRITER(FileMarshaller, AddFileInfoElementToXml, ix_ns_ft_file_info)) ==
+    if (AddChildList(file->mFileInfoList, IX_OLD_WRITER(FileMarshaller, AddFileInfoElementToXml, ix_ns_ft_file_info)) ==
         0) {
         return ReleaseAndFail(kFileInfoFailed);
     }
@@ -156,4 +156,4 @@ int FileMarshaller::AddDataElementToXml(ix_ns_ft_data* data) {
     return 1;
 }
 
-IX_FAMILY(FileContext, FileMarshaller, FileUnMarshaller, FileDataBinder);
+IX_OLD_FAMILY(FileContext, FileMarshaller, FileUnMarshaller, FileDataBinder);

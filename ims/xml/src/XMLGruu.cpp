@@ -9,8 +9,8 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLGruu";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(XMLGruuDecoder, "GruuUnMarshaller");
+constexpr XmlOldUnMarshallerInfo UnMarshallerInfo() {
+    XmlOldUnMarshallerInfo info = IX_OLD_UNMARSHALLER_INFO(XMLGruuDecoder, "GruuUnMarshaller");
     info.textEntered = {2, kSchemaCode, __LINE__, "<XML Module>: In GruuUnMarshaller::UnMarshall with pXmlString=%s"};
     info.fileEntered = {2, kSchemaCode, __LINE__,
                         "<XML Module>: In GruuUnMarshaller::UnMarshall(pfile) with pstring=%s"};
@@ -18,10 +18,10 @@ constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
     info.notDecoded = {3, kSchemaCode, __LINE__, "<XML Module>: Xml Decoder failed because of some error in XML"};
     return info;
 }
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info;
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info;
     info.source = kSourceFile;
     info.writesDeclaration = true;
     info.entersFirst = true;
@@ -32,7 +32,7 @@ constexpr XmlMarshallerInfo MarshallerInfo() {
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: GruuMarshaller XML %s"};
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kPubRefused = {3, kSchemaCode, __LINE__,
                                     "<XML Module>: Any attribute is not allowed in class ix_pub_gruu"};
@@ -130,7 +130,7 @@ ix_pub_gruu* GruuDataBinder::CreatePubGruuElement() { return IX_NEW(ix_pub_gruu)
 
 ix_temp_gruu* GruuDataBinder::CreateTempGruuElement() { return IX_NEW(ix_temp_gruu); }
 
-GruuMarshaller::GruuMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+GruuMarshaller::GruuMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int GruuMarshaller::AddRootElementToXml(XMLElement* root) {
     // Required: a class name that is only the beginning of the expected one selects the writer as well. Such an object
@@ -177,4 +177,4 @@ int GruuMarshaller::AddUri(const ix_gruuType* element, const XmlLogText& missing
     return 1;
 }
 
-IX_FAMILY(GruuContext, GruuMarshaller, GruuUnMarshaller, GruuDataBinder);
+IX_OLD_FAMILY(GruuContext, GruuMarshaller, GruuUnMarshaller, GruuDataBinder);

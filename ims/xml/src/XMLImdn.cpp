@@ -8,21 +8,21 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLImdn";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLImdnDecoder, "IMDNUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_OLD_UNMARSHALLER_INFO(XMLImdnDecoder, "IMDNUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(IMDNMarshaller, AddIMDNElementToXml, ix_imdn)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(IMDNMarshaller, AddIMDNElementToXml, ix_imdn)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.entered = {3, kSchemaCode, __LINE__, "<XML Module>: IMDNMarshaller :: Marshall"};
     info.deleting = {3, kSchemaCode, __LINE__, "<XML Module>: IMDNMarshaller :: Marshall: Deleting mIMDNXml"};
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: Marshall XML %s"};
     info.failed = {2, kSchemaCode, __LINE__, "<XML Module>: Marshall XML Failed!"};
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kUnknownElement = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 constexpr XmlLogText kAddImdn = {2, kSchemaCode, __LINE__, "<XML Module>: AddIMDNElementToXml"};
@@ -191,7 +191,7 @@ ix_forbidden* IMDNDataBinder::CreateForbiddenElement() { return IX_NEW(ix_forbid
 
 ix_error* IMDNDataBinder::CreateErrorElement() { return IX_NEW(ix_error); }
 
-IMDNMarshaller::IMDNMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+IMDNMarshaller::IMDNMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int IMDNMarshaller::AddIMDNElementToXml(ix_imdn* element) {
     ixLog(kSourceFile, kAddImdn);
@@ -274,4 +274,4 @@ void IMDNMarshaller::EndStartTag(const IxSingleElementList* attributes) {
     m_generator.ixXmlSetData("");
 }
 
-IX_FAMILY(IMDNContext, IMDNMarshaller, IMDNUnMarshaller, IMDNDataBinder);
+IX_OLD_FAMILY(IMDNContext, IMDNMarshaller, IMDNUnMarshaller, IMDNDataBinder);

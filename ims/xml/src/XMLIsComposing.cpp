@@ -8,19 +8,19 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLIsComposing";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLIsComposingDecoder, "IsComposingUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLIsComposingDecoder, "IsComposingUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(IsComposingMarshaller, AddIsComposingElementToXml, ix_isComposing)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(IsComposingMarshaller, AddIsComposingElementToXml, ix_isComposing)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    IX_MARSHALL_TEXTS(info, "IsComposingMarshaller", "mIsComposingXml");
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
+    IX_OLD_MARSHALL_TEXTS(info, "IsComposingMarshaller", "mIsComposingXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kUnknownElement = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 constexpr XmlLogText kAddIsComposing = {2, kSchemaCode, __LINE__, "<XML Module>: AddIsComposingElementToXml"};
@@ -78,7 +78,7 @@ int ix_isComposing::addAnyElement(XMLElement* element) {
 
 XMLElement* IsComposingDataBinder::CreateRootElement() { return IX_NEW(ix_isComposing); }
 
-IsComposingMarshaller::IsComposingMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+IsComposingMarshaller::IsComposingMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int IsComposingMarshaller::AddIsComposingElementToXml(ix_isComposing* element) {
     ixLog(kSourceFile, kAddIsComposing);
@@ -132,7 +132,7 @@ int IsComposingMarshaller::AddRefreshElementToXml(unsigned int refresh) {
     return 1;
 }
 
-IX_FAMILY(IsComposingContext, IsComposingMarshaller, IsComposingUnMarshaller, IsComposingDataBinder);
+IX_OLD_FAMILY(IsComposingContext, IsComposingMarshaller, IsComposingUnMarshaller, IsComposingDataBinder);
 
 char* TestIsComposingMarshall() {
     ix_isComposing root;

@@ -8,19 +8,19 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLMediaControl";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLMediaControlDecoder, "MediaControlUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLMediaControlDecoder, "MediaControlUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(MediaControlMarshaller, AddMediaControlElementToXml, ix_media_control)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(MediaControlMarshaller, AddMediaControlElementToXml, ix_media_control)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    IX_MARSHALL_TEXTS(info, "MediaControlMarshaller", "mMediaControlXml");
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
+    IX_OLD_MARSHALL_TEXTS(info, "MediaControlMarshaller", "mMediaControlXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kAddMediaControl = {2, kSchemaCode, __LINE__, "<XML Module>: AddMediaControlElementToXml"};
 constexpr XmlLogText kAddVcPrimitive = {2, kSchemaCode, __LINE__, "<XML Module>: AddVcPrimitiveElementToXml"};
@@ -91,7 +91,7 @@ ix_empty_element_type* MediaControlDataBinder::CreatePictureFastUpdateElement() 
                                 __LINE__);
 }
 
-MediaControlMarshaller::MediaControlMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+MediaControlMarshaller::MediaControlMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int MediaControlMarshaller::AddMediaControlElementToXml(ix_media_control* element) {
     ixLog(kSourceFile, kAddMediaControl);
@@ -141,4 +141,4 @@ int MediaControlMarshaller::AddEmptyElementToXml(ix_empty_element_type* element)
     return 1;
 }
 
-IX_FAMILY(MediaControlContext, MediaControlMarshaller, MediaControlUnMarshaller, MediaControlDataBinder);
+IX_OLD_FAMILY(MediaControlContext, MediaControlMarshaller, MediaControlUnMarshaller, MediaControlDataBinder);

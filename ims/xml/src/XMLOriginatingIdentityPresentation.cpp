@@ -6,13 +6,13 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLOriginatingIdentityPresentation";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_IDENTITY_UNMARSHALLER_INFO("OIP", XMLOIPDecoder);
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_IDENTITY_UNMARSHALLER_INFO("OIP", XMLOIPDecoder);
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(OIPMarshaller, AddOIPElementToXml, ix_originating_identity_presentation)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(OIPMarshaller, AddOIPElementToXml, ix_originating_identity_presentation)},
 };
 
-constexpr XmlMarshallerInfo kMarshallerInfo = IX_IDENTITY_MARSHALLER_INFO("OIP", kWriters);
+constexpr XmlOldMarshallerInfo kMarshallerInfo = IX_IDENTITY_MARSHALLER_INFO("OIP", kWriters);
 
 constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__,
                                     "<XML Module>: AddOriginatingIdentityPresentationElementToXml"};
@@ -29,4 +29,4 @@ int OIPMarshaller::AddOIPElementToXml(ix_originating_identity_presentation* elem
     return AddIdentityElementToXml(kAddElement, IX_STR_ORIGINATING_IDENTITY_PRESENTATION, element);
 }
 
-IX_FAMILY(OIPContext, OIPMarshaller, OIPUnMarshaller, OIPDataBinder);
+IX_OLD_FAMILY(OIPContext, OIPMarshaller, OIPUnMarshaller, OIPDataBinder);

@@ -10,20 +10,20 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLPresence";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLPresenceDecoder, "PresenceUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_OLD_UNMARSHALLER_INFO(XMLPresenceDecoder, "PresenceUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(PresenceMarshaller, AddPresenceElementToXml, ix_presence)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(PresenceMarshaller, AddPresenceElementToXml, ix_presence)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    IX_MARSHALL_TEXTS(info, "PresenceMarshaller", "mPresenceXml");
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
+    IX_OLD_MARSHALL_TEXTS(info, "PresenceMarshaller", "mPresenceXml");
     // Required: the text is announced as that of another marshaller.
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: IsComposingMarshaller XML %s"};
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kRefused = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 // Required: the event number is that of the tokenizer.
@@ -188,7 +188,7 @@ ix_ns_caps_duplextypes* PresenceDataBinder::CreateDuplexTypesElement() { return 
 
 ix_string* PresenceDataBinder::CreateStringElement() { return IX_NEW(ix_string); }
 
-PresenceMarshaller::PresenceMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+PresenceMarshaller::PresenceMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int PresenceMarshaller::AddPresenceElementToXml(ix_presence* presence) {
     if (presence == nullptr) return 0;
@@ -206,10 +206,10 @@ int PresenceMarshaller::AddPresenceElementToXml(ix_presence* presence) {
         return 0;
     }
     AddAttribute(IX_STR_ENTITY, presence->mEntity, Attribute::Closing);
-    if (AddChildList(presence->mTupleList, IX_WRITER(PresenceMarshaller, AddTupleElementToXml, ix_tuple)) == 0) {
+    if (AddChildList(presence->mTupleList, IX_OLD_WRITER(PresenceMarshaller, AddTupleElementToXml, ix_tuple)) == 0) {
         return ReleaseAndFail(kTupleFailed);
     }
-    if (AddChildList(presence->mNoteList, IX_WRITER(PresenceMarshaller, AddNoteElementToXml, ix_note)) == 0) {
+    if (AddChildList(presence->mNoteList, IX_OLD_WRITER(PresenceMarshaller, AddNoteElementToXml, ix_note)) == 0) {
         return ReleaseAndFail(kNoteFailed);
     }
     EndElement(IX_STR_PRESENCE);
@@ -224,7 +224,7 @@ int PresenceMarshaller::AddTupleElementToXml(ix_tuple* tuple) {
     if (tuple->mStatus != nullptr && AddStatusElementToXml(tuple->mStatus) == 0) {
         return ReleaseAndFail(kStatusFailed);
     }
-    if (AddChildList(tuple->mAnyElementList, IX_WRITER(PresenceMarshaller, AddAnyElementToXml, XMLElement)) == 0) {
+    if (AddChildList(tuple->mAnyElementList, IX_OLD_WRITER(PresenceMarshaller, AddAnyElementToXml, XMLElement)) == 0) {
         return 0;
     }
     if (tuple->mContact != nullptr && AddContactElementToXml(tuple->mContact) == 0) {
@@ -236,7 +236,7 @@ int PresenceMarshaller::AddTupleElementToXml(ix_tuple* tuple) {
         m_generator.ixXmlSetData(tuple->mTimestamp);
         EndElement(IX_STR_TIMESTAMP);
     }
-    if (AddChildList(tuple->mNoteList, IX_WRITER(PresenceMarshaller, AddNoteElementToXml, ix_note)) == 0) {
+    if (AddChildList(tuple->mNoteList, IX_OLD_WRITER(PresenceMarshaller, AddNoteElementToXml, ix_note)) == 0) {
         return ReleaseAndFail(kNoteFailed);
     }
     EndElement(IX_STR_TUPLE);
@@ -347,4 +347,4 @@ void PresenceMarshaller::AddKind(e_XmlStrRef name, const ix_string* kind) {
     if (kind != nullptr) AddTextOrEmptyElement(name, kind->mValue);
 }
 
-IX_FAMILY(PresenceContext, PresenceMarshaller, PresenceUnMarshaller, PresenceDataBinder);
+IX_OLD_FAMILY(PresenceContext, PresenceMarshaller, PresenceUnMarshaller, PresenceDataBinder);

@@ -8,26 +8,26 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLRcsTermsInfo";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLRcsTermsInfoDecoder, "RcsTermsInfoUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLRcsTermsInfoDecoder, "RcsTermsInfoUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(RcsTermsInfoMarshaller, AddRcsTermsInfoElementToXml, ix_rcs_terms_info)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(RcsTermsInfoMarshaller, AddRcsTermsInfoElementToXml, ix_rcs_terms_info)},
 };
 
 /// The list may come from a caller and hold anything.
-constexpr XmlWriter kTermWriter = [](XmlFamilyMarshaller& self, XMLElement* element) -> int {
+constexpr XmlOldWriter kTermWriter = [](XmlOldFamilyMarshaller& self, XMLElement* element) -> int {
     if (!ixIs<ix_ns_rcs_terms_info_term>(element)) return 0;
     return static_cast<RcsTermsInfoMarshaller&>(self).AddTermElementToXml(
         static_cast<ix_ns_rcs_terms_info_term*>(element));
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    IX_MARSHALL_TEXTS(info, "RcsTermsInfoMarshaller", "mRcsTermsInfoXml");
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
+    IX_OLD_MARSHALL_TEXTS(info, "RcsTermsInfoMarshaller", "mRcsTermsInfoXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kRootHook = {2, kSchemaCode, __LINE__, "In ix_rcs_terms_info::ProcessUnMarshall"};
 constexpr XmlLogText kRootAttributeHook = {2, kSchemaCode, __LINE__,
@@ -95,7 +95,7 @@ XMLElement* RcsTermsInfoDataBinder::CreateRootElement() { return IX_NEW(ix_rcs_t
 
 ix_ns_rcs_terms_info_term* RcsTermsInfoDataBinder::CreateTermElement() { return IX_NEW(ix_ns_rcs_terms_info_term); }
 
-RcsTermsInfoMarshaller::RcsTermsInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+RcsTermsInfoMarshaller::RcsTermsInfoMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int RcsTermsInfoMarshaller::AddRcsTermsInfoElementToXml(ix_rcs_terms_info* element) {
     ixLog(kSourceFile, kAddRoot);
@@ -122,4 +122,4 @@ int RcsTermsInfoMarshaller::AddTermElementToXml(ix_ns_rcs_terms_info_term* term)
     return 1;
 }
 
-IX_FAMILY(RcsTermsInfoContext, RcsTermsInfoMarshaller, RcsTermsInfoUnMarshaller, RcsTermsInfoDataBinder);
+IX_OLD_FAMILY(RcsTermsInfoContext, RcsTermsInfoMarshaller, RcsTermsInfoUnMarshaller, RcsTermsInfoDataBinder);

@@ -9,21 +9,21 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLReginfo";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLReginfoDecoder, "ReginfoUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_OLD_UNMARSHALLER_INFO(XMLReginfoDecoder, "ReginfoUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(ReginfoMarshaller, AddReginfoElementToXml, ix_reginfo)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(ReginfoMarshaller, AddReginfoElementToXml, ix_reginfo)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.entered = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller :: Marshall"};
     info.deleting = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller :: Marshall: Deleting mReginfoXml"};
     info.written = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller XML %s"};
     info.failed = {4, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller XML Failed!"};
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 /// What an element class logs of what it does not take.
 struct ClassTexts {
@@ -341,7 +341,7 @@ ix_pub_gruu* ReginfoDataBinder::CreatePubGruuElement() { return IX_NEW(ix_pub_gr
 
 ix_temp_gruu* ReginfoDataBinder::CreateTempGruuElement() { return IX_NEW(ix_temp_gruu); }
 
-ReginfoMarshaller::ReginfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+ReginfoMarshaller::ReginfoMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int ReginfoMarshaller::AddReginfoElementToXml(ix_reginfo* reginfo) {
     if (reginfo == nullptr) return 0;
@@ -356,7 +356,7 @@ int ReginfoMarshaller::AddReginfoElementToXml(ix_reginfo* reginfo) {
     if (state == nullptr) return Fail(kReginfoNoState);
     AddAttribute(IX_STR_STATE, state, Attribute::Closing);
     if (AddChildList(reginfo->mRegistrationList,
-                     IX_WRITER(ReginfoMarshaller, AddRegistrationElementToXml, ix_registration),
+                     IX_OLD_WRITER(ReginfoMarshaller, AddRegistrationElementToXml, ix_registration),
                      kRegistrationFailed) == 0) {
         return 0;
     }
@@ -378,7 +378,7 @@ int ReginfoMarshaller::AddRegistrationElementToXml(ix_registration* registration
     if (state == nullptr) return Fail(kRegistrationNoState);
     AddAttribute(IX_STR_STATE, state, Attribute::Closing);
     if (AddChildList(registration->mContactList,
-                     IX_WRITER(ReginfoMarshaller, AddReginfoContactElementToXml, ix_ns_reginfo_contact),
+                     IX_OLD_WRITER(ReginfoMarshaller, AddReginfoContactElementToXml, ix_ns_reginfo_contact),
                      kContactFailed) == 0) {
         return 0;
     }
@@ -394,9 +394,9 @@ int ReginfoMarshaller::AddReginfoContactElementToXml(ix_ns_reginfo_contact* cont
     AddTextElement(IX_STR_URI, contact->mUri);
     AddTextElement(IX_STR_DISPLAY_NAME, contact->mDisplayName);
     if (AddChildList(contact->mUnknownParamList,
-                     IX_WRITER(ReginfoMarshaller, AddUnknownParamElementToXml, ix_unknown_param),
+                     IX_OLD_WRITER(ReginfoMarshaller, AddUnknownParamElementToXml, ix_unknown_param),
                      kUnknownParamFailed) == 0 ||
-        AddChildList(contact->mAnyElementList, IX_WRITER(ReginfoMarshaller, AddAnyElementToXml, XMLElement)) == 0) {
+        AddChildList(contact->mAnyElementList, IX_OLD_WRITER(ReginfoMarshaller, AddAnyElementToXml, XMLElement)) == 0) {
         return 0;
     }
     EndElement(IX_STR_CONTACT);
@@ -476,4 +476,4 @@ int ReginfoMarshaller::AddGruuUri(const ix_gruuType& gruu, const XmlLogText& mis
     return 1;
 }
 
-IX_FAMILY(ReginfoContext, ReginfoMarshaller, ReginfoUnMarshaller, ReginfoDataBinder);
+IX_OLD_FAMILY(ReginfoContext, ReginfoMarshaller, ReginfoUnMarshaller, ReginfoDataBinder);

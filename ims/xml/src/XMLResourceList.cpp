@@ -8,29 +8,29 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLResourceList";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLResourceListsDecoder, "ResourceListsUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLResourceListsDecoder, "ResourceListsUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(Resource_listsMarshall, AddResource_listsElementToXml, ix_resource_lists)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(Resource_listsMarshall, AddResource_listsElementToXml, ix_resource_lists)},
 };
 
 /// The writers of a list's children.
-constexpr XmlWriterRow kChildWriters[] = {
-    {IX_WRITER_OF(Resource_listsMarshall, AddListElementToXml, ix_listType)},
-    {IX_WRITER_OF(Resource_listsMarshall, AddExternalElementToXml, ix_externalType)},
-    {IX_WRITER_OF(Resource_listsMarshall, AddEntryElementToXml, ix_entryType)},
-    {IX_WRITER_OF(Resource_listsMarshall, AddEntryRefElementToXml, ix_entry_refType)},
+constexpr XmlOldWriterRow kChildWriters[] = {
+    {IX_OLD_WRITER_OF(Resource_listsMarshall, AddListElementToXml, ix_listType)},
+    {IX_OLD_WRITER_OF(Resource_listsMarshall, AddExternalElementToXml, ix_externalType)},
+    {IX_OLD_WRITER_OF(Resource_listsMarshall, AddEntryElementToXml, ix_entryType)},
+    {IX_OLD_WRITER_OF(Resource_listsMarshall, AddEntryRefElementToXml, ix_entry_refType)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.noRoot = {3, kSchemaCode, __LINE__,
                    "<XML Module>: Resource_listsMarshall :: Marshall: Received Object is NULL"};
-    IX_MARSHALL_TEXTS(info, "Resource_listsMarshall", "mResourceListsXml");
+    IX_OLD_MARSHALL_TEXTS(info, "Resource_listsMarshall", "mResourceListsXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kCannotAccommodate = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 constexpr XmlLogText kAddResourceLists = {2, kSchemaCode, __LINE__, "<XML Module>: AddResource_listsElementToXml"};
@@ -153,7 +153,7 @@ int ix_listType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAtt
 }
 
 int ix_listType::addChild(XMLElement* child) {
-    for (const XmlWriterRow& row : kChildWriters) {
+    for (const XmlOldWriterRow& row : kChildWriters) {
         if (ixIsClass(child, row.className)) return ixAppend(mChildren, child, kSourceFile, __LINE__);
     }
     return 0;
@@ -188,7 +188,7 @@ ix_externalType* ResourceListsDataBinder::CreateExternalType() { return IX_NEW(i
 
 ix_display_nameType* ResourceListsDataBinder::CreateDisplayNameType() { return IX_NEW(ix_display_nameType); }
 
-Resource_listsMarshall::Resource_listsMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
+Resource_listsMarshall::Resource_listsMarshall() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int Resource_listsMarshall::AddResource_listsElementToXml(ix_resource_lists* lists) {
     ixLog(kSourceFile, kAddResourceLists);
@@ -275,7 +275,7 @@ void Resource_listsMarshall::AddStartTag(e_XmlStrRef name, e_XmlStrRef attribute
 void Resource_listsMarshall::AddChild(XMLElement* child) {
     const char* const className = child != nullptr ? child->ClassName() : nullptr;
     if (className == nullptr) return;
-    for (const XmlWriterRow& row : kChildWriters) {
+    for (const XmlOldWriterRow& row : kChildWriters) {
         // Required: a class name that is only the beginning of a row's selects its writer as well. Such an object is
         // none of ours, so the writer gets nothing to read from.
         if (__strncmp(row.className, className, __strlen(className)) != 0) continue;
@@ -284,7 +284,7 @@ void Resource_listsMarshall::AddChild(XMLElement* child) {
     }
 }
 
-IX_FAMILY(ResourceListsContext, Resource_listsMarshall, ResourceListsUnMarshaller, ResourceListsDataBinder);
+IX_OLD_FAMILY(ResourceListsContext, Resource_listsMarshall, ResourceListsUnMarshaller, ResourceListsDataBinder);
 
 namespace {
 

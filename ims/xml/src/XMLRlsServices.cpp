@@ -8,19 +8,19 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLRlsServices";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLRlsServicesDecoder, "RlsServicesUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLRlsServicesDecoder, "RlsServicesUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(RlsServicesMarshaller, AddRlsServicesElementToXml, ix_rls_services)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(RlsServicesMarshaller, AddRlsServicesElementToXml, ix_rls_services)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
-    IX_MARSHALL_TEXTS(info, "RlsServicesMarshaller", "mRlsServicesXml");
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
+    IX_OLD_MARSHALL_TEXTS(info, "RlsServicesMarshaller", "mRlsServicesXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kCannotAccommodate = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
 constexpr XmlLogText kAddRlsServices = {2, kSchemaCode, __LINE__, "<XML Module>: AddRlsServicesElementToXml"};
@@ -125,7 +125,7 @@ ix_ns_rls_services_packageType* RlsServicesDataBinder::CreatePackageElement() {
     return IX_NEW(ix_ns_rls_services_packageType);
 }
 
-RlsServicesMarshaller::RlsServicesMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+RlsServicesMarshaller::RlsServicesMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int RlsServicesMarshaller::AddRlsServicesElementToXml(ix_rls_services* services) {
     ixLog(kSourceFile, kAddRlsServices);
@@ -135,7 +135,7 @@ int RlsServicesMarshaller::AddRlsServicesElementToXml(ix_rls_services* services)
                  ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_RLS_SERVICES),
                  Attribute::Closing);
     if (AddChildList(services->mServiceList,
-                     IX_WRITER(RlsServicesMarshaller, AddServiceElementToXml, ix_ns_rls_services_serviceType),
+                     IX_OLD_WRITER(RlsServicesMarshaller, AddServiceElementToXml, ix_ns_rls_services_serviceType),
                      kServiceFailed) == 0) {
         return 0;
     }
@@ -167,7 +167,7 @@ int RlsServicesMarshaller::AddPackagesElementToXml(ix_ns_rls_services_packagesTy
     if (packages == nullptr) return 0;
     StartElement(IX_STR_PACKAGES);
     if (AddChildList(packages->mPackageList,
-                     IX_WRITER(RlsServicesMarshaller, AddPackageElementToXml, ix_ns_rls_services_packageType),
+                     IX_OLD_WRITER(RlsServicesMarshaller, AddPackageElementToXml, ix_ns_rls_services_packageType),
                      kPackageFailed) == 0) {
         return 0;
     }
@@ -182,4 +182,4 @@ int RlsServicesMarshaller::AddPackageElementToXml(ix_ns_rls_services_packageType
     return 1;
 }
 
-IX_FAMILY(RlsServicesContext, RlsServicesMarshaller, RlsServicesUnMarshaller, RlsServicesDataBinder);
+IX_OLD_FAMILY(RlsServicesContext, RlsServicesMarshaller, RlsServicesUnMarshaller, RlsServicesDataBinder);

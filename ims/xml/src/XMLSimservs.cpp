@@ -12,30 +12,30 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLSimservs";
 
-constexpr XmlUnMarshallerInfo UnMarshallerInfo() {
-    XmlUnMarshallerInfo info = IX_UNMARSHALLER_INFO(XMLSimservsDecoder, "SimservsUnMarshaller");
+constexpr XmlOldUnMarshallerInfo UnMarshallerInfo() {
+    XmlOldUnMarshallerInfo info = IX_OLD_UNMARSHALLER_INFO(XMLSimservsDecoder, "SimservsUnMarshaller");
     info.decoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Success"};
     info.notDecoded = {2, kSchemaCode, __LINE__, "<XML Module>: XML Decode Failed"};
     return info;
 }
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = UnMarshallerInfo();
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(SimservsMarshaller, AddSimservsElementToXml, ix_Simservs)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(SimservsMarshaller, AddSimservsElementToXml, ix_Simservs)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.namespaces = kSimservsNamespaces;
     info.namespaceCount = kSimservsNamespaceCount;
     info.noFirstNamespace = info.noNamespace = {
         2, kSchemaCode, __LINE__, "SimservsMarshaller :: SimservsMarshaller: Malloc cannot allocate memory"};
-    IX_MARSHALL_TEXTS(info, "SimservsMarshaller", "SimservsXml");
+    IX_OLD_MARSHALL_TEXTS(info, "SimservsMarshaller", "SimservsXml");
     // The text is complete, and logged, only with its services.
     info.written = {};
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kSetBinder = {3, kSchemaCode, __LINE__, "<XML Module>: SimservsContext :: SetNamespaceBinder"};
 constexpr XmlLogText kNoPieces = {2, kSchemaCode, __LINE__,
@@ -379,11 +379,11 @@ void SimservsUnMarshaller::AddServices(ix_Simservs& root, Pieces& pieces) {
     }
 }
 
-SimservsMarshaller::SimservsMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+SimservsMarshaller::SimservsMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 char* SimservsMarshaller::Marshall(XMLElement* root) {
     m_bServiceTruncated = false;
-    if (XmlFamilyMarshaller::Marshall(root) == nullptr) return nullptr;
+    if (XmlOldFamilyMarshaller::Marshall(root) == nullptr) return nullptr;
     char* text = TakeText();
     const IxSingleElementList* const services = static_cast<ix_Simservs*>(root)->mServiceList;
     if (services != nullptr) {
@@ -421,7 +421,7 @@ char* SimservsMarshaller::WriteServices(const IxSingleElementList& services) {
     return nullptr;
 }
 
-int SimservsMarshaller::IsTruncated() const { return m_bServiceTruncated ? 1 : XmlFamilyMarshaller::IsTruncated(); }
+int SimservsMarshaller::IsTruncated() const { return m_bServiceTruncated ? 1 : XmlOldFamilyMarshaller::IsTruncated(); }
 
 int SimservsMarshaller::AddSimservsElementToXml(ix_Simservs* /*element*/) {
     StartElementOpen(IX_STR_SIMSERVS);
@@ -458,7 +458,7 @@ char* SimservsMarshaller::InsertString(char* document, const char* piece) {
 
 int SimservsContext::SetNamespaceBinder(XMLObject* binder) {
     ixLog(kSourceFile, kSetBinder);
-    return XmlBinderContext::SetNamespaceBinder(binder);
+    return XmlOldBinderContext::SetNamespaceBinder(binder);
 }
 
-IX_FAMILY(SimservsContext, SimservsMarshaller, SimservsUnMarshaller, SimservsDataBinder);
+IX_OLD_FAMILY(SimservsContext, SimservsMarshaller, SimservsUnMarshaller, SimservsDataBinder);

@@ -208,7 +208,7 @@ ix_ns_xcap_media_type* XmlRuleDataBinder::CreateMediaTypeElement() {
 
 ix_string* XmlRuleDataBinder::CreateStringElement() { return IX_NEW_RULE_ELEMENT(ix_string); }
 
-XmlRuleMarshaller::XmlRuleMarshaller(const XmlMarshallerInfo& info, const XmlRuleWriterTexts& texts)
+XmlRuleMarshaller::XmlRuleMarshaller(const XmlOldMarshallerInfo& info, const XmlRuleWriterTexts& texts)
     : XmlServiceMarshaller(info), m_texts(texts) {}
 
 void XmlRuleMarshaller::StartPrefixed(e_XmlStrRef prefix, e_XmlStrRef name) {

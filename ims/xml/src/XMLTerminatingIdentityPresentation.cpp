@@ -6,13 +6,13 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLTerminatingIdentityPresentation";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_IDENTITY_UNMARSHALLER_INFO("TIP", XMLTIPDecoder);
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_IDENTITY_UNMARSHALLER_INFO("TIP", XMLTIPDecoder);
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(TIPMarshaller, AddTIPElementToXml, ix_terminating_identity_presentation)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(TIPMarshaller, AddTIPElementToXml, ix_terminating_identity_presentation)},
 };
 
-constexpr XmlMarshallerInfo kMarshallerInfo = IX_IDENTITY_MARSHALLER_INFO("TIP", kWriters);
+constexpr XmlOldMarshallerInfo kMarshallerInfo = IX_IDENTITY_MARSHALLER_INFO("TIP", kWriters);
 
 constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__,
                                     "<XML Module>: AddTerminatingIdentityPresentationElementToXml"};
@@ -29,4 +29,4 @@ int TIPMarshaller::AddTIPElementToXml(ix_terminating_identity_presentation* elem
     return AddIdentityElementToXml(kAddElement, IX_STR_TERMINATING_IDENTITY_PRESENTATION, element);
 }
 
-IX_FAMILY(TIPContext, TIPMarshaller, TIPUnMarshaller, TIPDataBinder);
+IX_OLD_FAMILY(TIPContext, TIPMarshaller, TIPUnMarshaller, TIPDataBinder);

@@ -6,11 +6,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLVolteConfigInfo";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLVolteConfigInfoDecoder, "VolteConfigInfoUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLVolteConfigInfoDecoder, "VolteConfigInfoUnMarshaller");
 
 }  // namespace
 
 XMLElement* VolteConfigInfoDataBinder::CreateRootElement() { return IX_NEW(ix_volte_config_info); }
 
-IX_READING_FAMILY(VolteConfigInfoContext, VolteConfigInfoUnMarshaller, VolteConfigInfoDataBinder);
+IX_OLD_READING_FAMILY(VolteConfigInfoContext, VolteConfigInfoUnMarshaller, VolteConfigInfoDataBinder);

@@ -6,11 +6,11 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLWapProvisioningDoc";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLWapProvisioningDocDecoder, "WapProvisioningDocUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLWapProvisioningDocDecoder, "WapProvisioningDocUnMarshaller");
 
 }  // namespace
 
 XMLElement* WapProvisioningDocDataBinder::CreateRootElement() { return IX_NEW(ix_wap_provisioning_doc); }
 
-IX_READING_FAMILY(WapProvisioningDocContext, WapProvisioningDocUnMarshaller, WapProvisioningDocDataBinder);
+IX_OLD_READING_FAMILY(WapProvisioningDocContext, WapProvisioningDocUnMarshaller, WapProvisioningDocDataBinder);

@@ -8,23 +8,23 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLXcapDirectory";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo =
-    IX_UNMARSHALLER_INFO(XMLXcapDirectoryDecoder, "XcapDirectoryUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
+    IX_OLD_UNMARSHALLER_INFO(XMLXcapDirectoryDecoder, "XcapDirectoryUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(XcapDirectoryMarshaller, AddXcapDirectoryElementToXml, ix_xcap_directory)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(XcapDirectoryMarshaller, AddXcapDirectoryElementToXml, ix_xcap_directory)},
 };
 
-constexpr XmlWriter kFolderWriter = IX_WRITER(XcapDirectoryMarshaller, AddFolderElementToXml, ix_folder);
-constexpr XmlWriter kEntryWriter = IX_WRITER(XcapDirectoryMarshaller, AddEntryElementToXml, ix_entry);
+constexpr XmlOldWriter kFolderWriter = IX_OLD_WRITER(XcapDirectoryMarshaller, AddFolderElementToXml, ix_folder);
+constexpr XmlOldWriter kEntryWriter = IX_OLD_WRITER(XcapDirectoryMarshaller, AddEntryElementToXml, ix_entry);
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.writesDeclaration = false;
-    IX_MARSHALL_TEXTS(info, "XcapDirectoryMarshaller", "mXcapDirectoryXml");
+    IX_OLD_MARSHALL_TEXTS(info, "XcapDirectoryMarshaller", "mXcapDirectoryXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 constexpr XmlLogText kAddDirectory = {2, kSchemaCode, __LINE__, "<XML Module>: AddXcapDirectoryElementToXml"};
 constexpr XmlLogText kAddFolder = {2, kSchemaCode, __LINE__, "<XML Module>: AddFolderElementToXml"};
@@ -118,7 +118,7 @@ ix_folder* XcapDirectoryDataBinder::CreateFolderElement() { return IX_NEW(ix_fol
 
 ix_entry* XcapDirectoryDataBinder::CreateEntryElement() { return IX_NEW(ix_entry); }
 
-XcapDirectoryMarshaller::XcapDirectoryMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+XcapDirectoryMarshaller::XcapDirectoryMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int XcapDirectoryMarshaller::AddXcapDirectoryElementToXml(ix_xcap_directory* element) {
     ixLog(kSourceFile, kAddDirectory);
@@ -164,4 +164,4 @@ int XcapDirectoryMarshaller::AddEntryElementToXml(ix_entry* element) {
     return 1;
 }
 
-IX_FAMILY(XcapDirectoryContext, XcapDirectoryMarshaller, XcapDirectoryUnMarshaller, XcapDirectoryDataBinder);
+IX_OLD_FAMILY(XcapDirectoryContext, XcapDirectoryMarshaller, XcapDirectoryUnMarshaller, XcapDirectoryDataBinder);

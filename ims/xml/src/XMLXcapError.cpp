@@ -8,19 +8,19 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XMLXcapError";
 
-constexpr XmlUnMarshallerInfo kUnMarshallerInfo = IX_UNMARSHALLER_INFO(XMLXcapErrorDecoder, "XcapErrorUnMarshaller");
+constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_OLD_UNMARSHALLER_INFO(XMLXcapErrorDecoder, "XcapErrorUnMarshaller");
 
-constexpr XmlWriterRow kWriters[] = {
-    {IX_WRITER_OF(Xcap_ErrorMarshall, AddXcap_errorElementToXml, ix_xcap_error)},
+constexpr XmlOldWriterRow kWriters[] = {
+    {IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddXcap_errorElementToXml, ix_xcap_error)},
 };
 
-constexpr XmlMarshallerInfo MarshallerInfo() {
-    XmlMarshallerInfo info = ixMarshallerInfo(kSourceFile, kWriters);
+constexpr XmlOldMarshallerInfo MarshallerInfo() {
+    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
     info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: Xcap_ErrorMarshall :: Marshall: Received Object is NULL"};
-    IX_MARSHALL_TEXTS(info, "Xcap_ErrorMarshall", "mXcapErrorXml");
+    IX_OLD_MARSHALL_TEXTS(info, "Xcap_ErrorMarshall", "mXcapErrorXml");
     return info;
 }
-constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 // Required: the doubled name is part of the text.
 constexpr XmlLogText kAddRoot = {2, kSchemaCode, __LINE__, "<XML Module>: AddXcap_errorElementToXmlErrorElementToXml"};
@@ -63,26 +63,26 @@ constexpr XmlFieldTable kExistsTable = {nullptr, kExistsFields, std::size(kExist
 struct ErrorRow {
     e_XmlStrRef element;
     const char* className;
-    XmlWriter write;
+    XmlOldWriter write;
 };
 
 /// The conditions that the root takes and writes.
 constexpr ErrorRow kErrors[] = {
     {IX_STR_SCHEMA_VALIDATION_ERROR,
-     IX_WRITER_OF(Xcap_ErrorMarshall, AddSchema_validation_errorElementToXml, ix_schema_validation_error)},
-    {IX_STR_NOT_XML_FRAG, IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_xml_fragElementToXml, ix_not_xml_frag)},
-    {IX_STR_NO_PARENT, IX_WRITER_OF(Xcap_ErrorMarshall, AddNo_parentElementToXml, ix_no_parent)},
-    {IX_STR_CANNOT_INSERT, IX_WRITER_OF(Xcap_ErrorMarshall, AddCannot_insertElementToXml, ix_cannot_insert)},
+     IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddSchema_validation_errorElementToXml, ix_schema_validation_error)},
+    {IX_STR_NOT_XML_FRAG, IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddNot_xml_fragElementToXml, ix_not_xml_frag)},
+    {IX_STR_NO_PARENT, IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddNo_parentElementToXml, ix_no_parent)},
+    {IX_STR_CANNOT_INSERT, IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddCannot_insertElementToXml, ix_cannot_insert)},
     {IX_STR_NOT_XML_ATT_VALUE,
-     IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_xml_att_valueElementToXml, ix_not_xml_att_value)},
+     IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddNot_xml_att_valueElementToXml, ix_not_xml_att_value)},
     {IX_STR_UNIQUENESS_FAILURE,
-     IX_WRITER_OF(Xcap_ErrorMarshall, AddUniqueness_failureElementToXml, ix_uniqueness_failure)},
-    {IX_STR_NOT_WELL_FORMED, IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_well_formedElementToXml, ix_not_well_formed)},
+     IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddUniqueness_failureElementToXml, ix_uniqueness_failure)},
+    {IX_STR_NOT_WELL_FORMED, IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddNot_well_formedElementToXml, ix_not_well_formed)},
     {IX_STR_CONSTRAINT_FAILURE,
-     IX_WRITER_OF(Xcap_ErrorMarshall, AddConstraint_failureElementToXml, ix_constraint_failure)},
-    {IX_STR_CANNOT_DELETE, IX_WRITER_OF(Xcap_ErrorMarshall, AddCannot_deleteElementToXml, ix_cannot_delete)},
-    {IX_STR_NOT_UTF_8, IX_WRITER_OF(Xcap_ErrorMarshall, AddNot_utf_8ElementToXml, ix_not_utf_8)},
-    {IX_STR_EXTENSION, IX_WRITER_OF(Xcap_ErrorMarshall, AddExtensionElementToXml, ix_extension)},
+     IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddConstraint_failureElementToXml, ix_constraint_failure)},
+    {IX_STR_CANNOT_DELETE, IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddCannot_deleteElementToXml, ix_cannot_delete)},
+    {IX_STR_NOT_UTF_8, IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddNot_utf_8ElementToXml, ix_not_utf_8)},
+    {IX_STR_EXTENSION, IX_OLD_WRITER_OF(Xcap_ErrorMarshall, AddExtensionElementToXml, ix_extension)},
 };
 
 }  // namespace
@@ -176,7 +176,7 @@ ix_schema_validation_error* XcapErrorDataBinder::CreateSchema_validation_errorEl
 
 IxSingleElementList* XcapErrorDataBinder::CreateList() { return IX_NEW(IxSingleElementList); }
 
-Xcap_ErrorMarshall::Xcap_ErrorMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
+Xcap_ErrorMarshall::Xcap_ErrorMarshall() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
 
 int Xcap_ErrorMarshall::AddXcap_errorElementToXml(ix_xcap_error* element) {
     ixLog(kSourceFile, kAddRoot);
@@ -259,4 +259,4 @@ void Xcap_ErrorMarshall::StartElementWith(e_XmlStrRef name, e_XmlStrRef attribut
     }
 }
 
-IX_FAMILY(XcapErrorContext, Xcap_ErrorMarshall, XcapErrorUnMarshaller, XcapErrorDataBinder);
+IX_OLD_FAMILY(XcapErrorContext, Xcap_ErrorMarshall, XcapErrorUnMarshaller, XcapErrorDataBinder);

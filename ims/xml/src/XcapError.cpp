@@ -6,38 +6,38 @@ namespace {
 
 const char kSourceFile[] = "ims/xml/src/XcapError";
 
-constexpr XmlKnownName kRoot = {IX_STR_XCAP_ERROR};
-constexpr XmlKnownName kExtension = {IX_STR_EXTENSION};
-constexpr XmlKnownName kSchemaValidationError = {IX_STR_SCHEMA_VALIDATION_ERROR};
-constexpr XmlKnownName kNotXmlFrag = {IX_STR_NOT_XML_FRAG};
-constexpr XmlKnownName kNoParent = {IX_STR_NO_PARENT};
-constexpr XmlKnownName kCannotInsert = {IX_STR_CANNOT_INSERT};
-constexpr XmlKnownName kNotXmlAttValue = {IX_STR_NOT_XML_ATT_VALUE};
-constexpr XmlKnownName kUniquenessFailure = {IX_STR_UNIQUENESS_FAILURE};
-constexpr XmlKnownName kExists = {IX_STR_EXISTS};
-constexpr XmlKnownName kNotWellFormed = {IX_STR_NOT_WELL_FORMED};
-constexpr XmlKnownName kConstraintFailure = {IX_STR_CONSTRAINT_FAILURE};
-constexpr XmlKnownName kCannotDelete = {IX_STR_CANNOT_DELETE};
-constexpr XmlKnownName kNotUtf8 = {IX_STR_NOT_UTF_8};
+constexpr XmlOldKnownName kRoot = {IX_STR_XCAP_ERROR};
+constexpr XmlOldKnownName kExtension = {IX_STR_EXTENSION};
+constexpr XmlOldKnownName kSchemaValidationError = {IX_STR_SCHEMA_VALIDATION_ERROR};
+constexpr XmlOldKnownName kNotXmlFrag = {IX_STR_NOT_XML_FRAG};
+constexpr XmlOldKnownName kNoParent = {IX_STR_NO_PARENT};
+constexpr XmlOldKnownName kCannotInsert = {IX_STR_CANNOT_INSERT};
+constexpr XmlOldKnownName kNotXmlAttValue = {IX_STR_NOT_XML_ATT_VALUE};
+constexpr XmlOldKnownName kUniquenessFailure = {IX_STR_UNIQUENESS_FAILURE};
+constexpr XmlOldKnownName kExists = {IX_STR_EXISTS};
+constexpr XmlOldKnownName kNotWellFormed = {IX_STR_NOT_WELL_FORMED};
+constexpr XmlOldKnownName kConstraintFailure = {IX_STR_CONSTRAINT_FAILURE};
+constexpr XmlOldKnownName kCannotDelete = {IX_STR_CANNOT_DELETE};
+constexpr XmlOldKnownName kNotUtf8 = {IX_STR_NOT_UTF_8};
 
 // An element `error-element` has no row: nobody knows it, so what is in it reaches the root.
-constexpr XmlContainerRow kContainers[] = {
-    {kRoot, XmlContainerRow::Root, nullptr, IX_CREATOR(ix_xcap_error)},
-    {kExtension, XmlContainerRow::Child, IX_OBJECT(ix_extension)},
-    {kSchemaValidationError, XmlContainerRow::Child, IX_OBJECT(ix_schema_validation_error)},
-    {kNotXmlFrag, XmlContainerRow::Child, IX_OBJECT(ix_not_xml_frag)},
-    {kNoParent, XmlContainerRow::Child, IX_OBJECT(ix_no_parent)},
-    {kCannotInsert, XmlContainerRow::Child, IX_OBJECT(ix_cannot_insert)},
-    {kNotXmlAttValue, XmlContainerRow::Child, IX_OBJECT(ix_not_xml_att_value)},
-    {kUniquenessFailure, XmlContainerRow::Child, IX_OBJECT(ix_uniqueness_failure)},
-    {kExists, XmlContainerRow::Child, IX_OBJECT(ix_exists)},
-    {kNotWellFormed, XmlContainerRow::Child, IX_OBJECT(ix_not_well_formed)},
-    {kConstraintFailure, XmlContainerRow::Child, IX_OBJECT(ix_constraint_failure)},
-    {kCannotDelete, XmlContainerRow::Child, IX_OBJECT(ix_cannot_delete)},
-    {kNotUtf8, XmlContainerRow::Child, IX_OBJECT(ix_not_utf_8)},
+constexpr XmlOldContainerRow kContainers[] = {
+    {kRoot, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_xcap_error)},
+    {kExtension, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_extension)},
+    {kSchemaValidationError, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_schema_validation_error)},
+    {kNotXmlFrag, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_not_xml_frag)},
+    {kNoParent, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_no_parent)},
+    {kCannotInsert, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_cannot_insert)},
+    {kNotXmlAttValue, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_not_xml_att_value)},
+    {kUniquenessFailure, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_uniqueness_failure)},
+    {kExists, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_exists)},
+    {kNotWellFormed, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_not_well_formed)},
+    {kConstraintFailure, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_constraint_failure)},
+    {kCannotDelete, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_cannot_delete)},
+    {kNotUtf8, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_not_utf_8)},
 };
 
-constexpr XmlAttributeRow kAttributes[] = {
+constexpr XmlOldAttributeRow kAttributes[] = {
     {kRoot, IX_STR_PHRASE},
     {kSchemaValidationError, IX_STR_PHRASE},
     {kNotXmlFrag, IX_STR_PHRASE},
@@ -52,16 +52,16 @@ constexpr XmlAttributeRow kAttributes[] = {
     {kNotUtf8, IX_STR_PHRASE},
 };
 
-constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlNamePolicy::Stripped;
-    info.attributePolicy = XmlAttributePolicy::OwnNoPairs;
-    IX_DECODER_TEXTS(info.texts, "XMLXcapErrorDecoder", "m_strDup or m_PassName", "m_strDup");
-    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLXcapErrorDecoder");
+constexpr XmlOldDecoderInfo Info() {
+    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
+    info.names = XmlOldNamePolicy::Stripped;
+    info.attributePolicy = XmlOldAttributePolicy::OwnNoPairs;
+    IX_OLD_DECODER_TEXTS(info.texts, "XMLXcapErrorDecoder", "m_strDup or m_PassName", "m_strDup");
+    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLXcapErrorDecoder");
     return info;
 }
-constexpr XmlDecoderInfo kInfo = Info();
+constexpr XmlOldDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLXcapErrorDecoder::XMLXcapErrorDecoder() : XmlFamilyDecoder(kInfo) {}
+XMLXcapErrorDecoder::XMLXcapErrorDecoder() : XmlOldFamilyDecoder(kInfo) {}

@@ -1,91 +1,87 @@
 #include "XmlElementSupport.h"
 
-#include <climits>
 #include <cstring>
 
-ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute) {
-    const char* const own = attribute != nullptr ? attribute->ClassName() : nullptr;
-    if (own == nullptr || std::strcmp(own, ix_AttributeValuePair::kClassName) != 0) return nullptr;
-    return static_cast<ix_AttributeValuePair*>(attribute);
+#include "XmlFields.h"
+#include "XmlHooks.h"
+
+namespace {
+
+int Take(XMLElement& element, char* name, const char* text, XMLElement* child) {
+    return XmlHooks::Offer(element, *element.Class(), XmlTag(name), text, child) != XmlAnswer::Refused ? 1 : 0;
 }
 
-int ixSetText(char*& field, const char* text) {
-    char* copy = nullptr;
-    if (text != nullptr) {
-        copy = __strdup(text);
-        if (copy == nullptr) return 0;
-    }
-    __free(field);
-    field = copy;
-    return 1;
+int TakeAttribute(XMLElement& element, const char* attribute, const char* value, XMLAttribute* pair) {
+    const XmlName name(attribute != nullptr ? attribute : "", attribute != nullptr ? std::strlen(attribute) : 0);
+    return XmlHooks::OfferAttribute(element, *element.Class(), name, attribute, value, pair) != XmlAnswer::Refused ? 1
+                                                                                                                   : 0;
 }
 
-int ixOverwriteText(char*& field, const char* text) {
-    char* const copy = text != nullptr ? __strdup(text) : nullptr;
-    if (text != nullptr && copy == nullptr) return 0;
-    field = copy;
-    return 1;
+using namespace XmlRow;
+
+constexpr XmlField kStringFields[] = {
+    OwnText<&ix_string::mValue>(),
+};
+constexpr XmlField kEmptyElementFields[] = {
+    Attribute<&ix_empty_element_type::mName>(IX_STR_IX_NULL).Key("name"),
+    Attribute<&ix_empty_element_type::mPresent>(IX_STR_IX_NULL, XmlFlag::TrueOrNot).Key("present"),
+};
+
+}  // namespace
+
+int XmlDescribedElement::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    return Take(*this, name, text, child);
 }
 
-unsigned int ixToUnsigned(const char* text) {
-    const std::int64_t value = __atoi64(text);
-    if (value < 0) return 0;
-    return value > UINT_MAX ? UINT_MAX : static_cast<unsigned int>(value);
+int XmlDescribedElement::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    return TakeAttribute(*this, attribute, value, pair);
 }
 
-int ixSetElementList(IxSingleElementList*& field, IxSingleElementList* list) {
-    if (field != list) ix_xml_common_methods::DeleteElementList(field);
+int XmlDescribedObject::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    return Take(*this, name, text, child);
+}
+
+int XmlDescribedObject::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    return TakeAttribute(*this, attribute, value, pair);
+}
+
+void ixRelease(XMLElement& element, const XmlClass& description) { XmlFields::Release(&element, description.table); }
+
+int ixSetList(const XMLElement& element, IxSingleElementList*& field, IxSingleElementList* list) {
+    const XmlField* const row = XmlFields::RowOf(element, field);
+    if (field != list && row != nullptr) XmlFields::DeleteList(*row, field);
     field = list;
     return 1;
 }
 
-int ixSetAttributeList(IxSingleElementList*& field, IxSingleElementList* list) {
-    if (field != list) ix_xml_common_methods::DeleteAttributeList(field);
-    field = list;
-    return 1;
+int ixAdd(XMLElement& element, IxSingleElementList* const& field, void* entry) {
+    const XmlField* const row = XmlFields::RowOf(element, field);
+    return row != nullptr && entry != nullptr && XmlHooks::Append(element, *row, entry) ? 1 : 0;
 }
 
-int ixSetTextList(IxSingleElementList*& field, IxSingleElementList* list) {
-    if (field != list) ix_xml_common_methods::DeleteTextList(field);
-    field = list;
-    return 1;
+int ixAddText(XMLElement& element, IxSingleElementList* const& field, const char* text) {
+    const XmlField* const row = XmlFields::RowOf(element, field);
+    return row != nullptr && text != nullptr && XmlHooks::AppendText(element, *row, text, std::strlen(text)) ? 1 : 0;
 }
 
-int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line) {
-    if (list != nullptr) return list->Add(entry) != 0 ? 1 : 0;
-    // A list without an entry is something else than no list: some writers tell them apart.
-    IxSingleElementList* created = IX_TRACKED_NEW(kSchemaModule, source, line, IxSingleElementList, ());
-    if (created != nullptr && created->Add(entry) != 0) {
-        list = created;
-        return 1;
-    }
-    IX_DELETE(created);
-    return 0;
-}
+constexpr XmlClass ix_string::kClass = ixClass<ix_string>("ix_string", "string_class", kSource, kStringFields);
 
-int ixAppendText(IxSingleElementList*& list, const char* text, std::size_t length, const char* source, int line) {
-    char* const copy = text != nullptr ? static_cast<char*>(__malloc(length + 1)) : nullptr;
-    if (copy == nullptr) return 0;
-    std::memcpy(copy, text, length);
-    copy[length] = '\0';
-    if (ixAppend(list, copy, source, line) != 0) return 1;
-    __free(copy);
-    return 0;
-}
+constexpr XmlClass ix_empty_element_type::kClass =
+    ixClass<ix_empty_element_type>("ix_empty_element_type", "empty_element", kSource, kEmptyElementFields);
 
 ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line) {
-    ix_AttributeValuePair* const pair = IX_TRACKED_NEW(kSchemaModule, source, line, ix_AttributeValuePair, ());
+    auto* const pair = ixNew<ix_AttributeValuePair>(source, line);
     if (pair == nullptr) return nullptr;
     if (pair->setNameValue(name) != 0 && pair->setValueValue(value) != 0) return pair;
-    IX_DELETE(pair);
+    ixDelete(pair);
     return nullptr;
 }
 
 ix_empty_element_type* ixCreateEmptyElement(const char* name, const char* source, int line) {
-    ix_empty_element_type* const element = IX_TRACKED_NEW(kSchemaModule, source, line, ix_empty_element_type, ());
+    auto* const element = ixNew<ix_empty_element_type>(source, line);
     if (element == nullptr) return nullptr;
     element->setPresentValue(1);
     if (element->setNameValue(name) != 0) return element;
-    IX_DELETE(element);
+    ixDelete(element);
     return nullptr;
 }

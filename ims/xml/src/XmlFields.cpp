@@ -4,6 +4,32 @@
 
 namespace {
 
+/// The lists below an entry are emptied into `list` before the entry goes, so that the depth of a tree is not the depth
+/// of the calls.
+void DeleteElement(void* entry, IxSingleElementList& list) {
+    XMLElement* const element = static_cast<XMLElement*>(entry);
+    XmlFields::HandOverChildLists(element, list);
+    ixDelete(element);
+}
+
+void DeletePair(void* entry, IxSingleElementList& /*list*/) {
+    ix_AttributeValuePair* const pair = static_cast<ix_AttributeValuePair*>(entry);
+    ixDelete(pair);
+}
+
+void DeleteText(void* entry, IxSingleElementList& /*list*/) { FreeElement(entry); }
+
+/// Hands every entry to `end`, which may append to the list, then deletes the list.
+void DeleteList(IxSingleElementList* list, void (*end)(void* entry, IxSingleElementList& list)) {
+    if (list == nullptr) return;
+    // A list that was emptied into another one is no news for the log.
+    IxSingleElementNode* node = list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+    for (; node != nullptr; node = node->next) {
+        if (node->key != nullptr) end(node->key, *list);
+    }
+    ixDelete(list);
+}
+
 bool TextsEqual(const char* left, const char* right) {
     if (left == nullptr || right == nullptr) return left == right;
     return std::strcmp(left, right) == 0;
@@ -60,6 +86,12 @@ bool FieldsEqual(const XMLElement& left, const XMLElement& right, const XmlField
 }
 
 }  // namespace
+
+void ix_xml_common_methods::DeleteElementList(IxSingleElementList* list) { DeleteList(list, DeleteElement); }
+
+void ix_xml_common_methods::DeleteAttributeList(IxSingleElementList* list) { DeleteList(list, DeletePair); }
+
+void ix_xml_common_methods::DeleteTextList(IxSingleElementList* list) { DeleteList(list, DeleteText); }
 
 const char* XmlFields::Text(const XMLElement& element, const XmlField& field) {
     return field.kind == XmlFieldKind::Text ? element.*field.member.text : nullptr;
@@ -125,6 +157,24 @@ const XmlField* XmlFields::Find(const XMLElement& element, const char* name) {
     return nullptr;
 }
 
+const XmlField* XmlFields::RowOf(const XMLElement& element, const IxSingleElementList* const& list) {
+    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            const XmlField& row = table->fields[i];
+            const bool isList = row.kind == XmlFieldKind::ChildList || row.kind == XmlFieldKind::TextList ||
+                                row.kind == XmlFieldKind::AttributeList;
+            if (isList && &(element.*row.member.list) == &list) return &row;
+        }
+    }
+    return nullptr;
+}
+
+const char* XmlFields::SourceOf(const XMLElement& element, const XmlField& row) {
+    const XmlFieldTable* table = element.FieldTable();
+    while (table != nullptr && (&row < table->fields || &row >= table->fields + table->count)) table = table->base;
+    return table != nullptr ? table->source : nullptr;
+}
+
 const char* XmlFields::Word(const XMLElement& element, const char* name) {
     const XmlField* const field = Find(element, name);
     const bool hasWord = field != nullptr && field->kind == XmlFieldKind::Enumeration && IsSet(element, *field);
@@ -141,22 +191,24 @@ void XmlFields::Release(XMLElement* element, const XmlFieldTable& table) {
             case XmlFieldKind::Child:
             case XmlFieldKind::Presence: {
                 XMLElement* const child = field.member.child(*element);
-                IX_DELETE(child);
+                ixDelete(child);
                 break;
             }
             case XmlFieldKind::ChildList:
-                ix_xml_common_methods::DeleteElementList(element->*field.member.list);
-                break;
             case XmlFieldKind::TextList:
-                ix_xml_common_methods::DeleteTextList(element->*field.member.list);
-                break;
             case XmlFieldKind::AttributeList:
-                ix_xml_common_methods::DeleteAttributeList(element->*field.member.list);
+                DeleteList(field, element->*field.member.list);
                 break;
             default:
                 break;
         }
     }
+}
+
+void XmlFields::DeleteList(const XmlField& row, IxSingleElementList* list) {
+    if (row.kind == XmlFieldKind::ChildList) ix_xml_common_methods::DeleteElementList(list);
+    if (row.kind == XmlFieldKind::TextList) ix_xml_common_methods::DeleteTextList(list);
+    if (row.kind == XmlFieldKind::AttributeList) ix_xml_common_methods::DeleteAttributeList(list);
 }
 
 bool XmlFields::HoldsChild(const XMLElement& element, const XMLElement* child) {

@@ -2,6 +2,14 @@
 
 #include <cstring>
 
+constexpr XmlClass XmlNamespaceBinder::kClass = ixClass<XmlNamespaceBinder>("", "", kSource);
+
+const IxSingleElementList* XmlNamespaceBinder::DeclarationsOf(const XMLObject* object) {
+    const XmlClass* description = object != nullptr ? object->Class() : nullptr;
+    while (description != nullptr && description != &kClass) description = description->parent;
+    return description != nullptr ? static_cast<const XmlNamespaceBinder*>(object)->getNameSpaceInfo() : nullptr;
+}
+
 XmlNamespaceTable::~XmlNamespaceTable() {
     while (m_pFirst != nullptr) {
         Entry* const next = m_pFirst->next;

@@ -1,0 +1,233 @@
+#include "XmlHooks.h"
+
+#include <climits>
+#include <cstring>
+
+#include "XmlCommon.h"
+#include "XmlFields.h"
+
+namespace {
+
+XmlAnswer AnswerOf(int answer) { return answer != 0 ? XmlAnswer::Ignored : XmlAnswer::Refused; }
+
+XmlAnswer TakenIf(bool taken) { return taken ? XmlAnswer::Taken : XmlAnswer::Refused; }
+
+unsigned int ToUnsigned(const char* text, bool nearest) {
+    const std::int64_t value = __atoi64(text);
+    if (nearest && value < 0) return 0;
+    if (nearest && value > UINT_MAX) return UINT_MAX;
+    return static_cast<unsigned int>(value);
+}
+
+void StoreFlag(int& field, XmlFlag reading, const char* text) {
+    const bool isTrue = std::strcmp(text, "true") == 0;
+    if (reading == XmlFlag::TrueOrNot || isTrue || std::strcmp(text, "false") == 0) field = isTrue ? 1 : 0;
+}
+
+/// Stores the text of a field that is no list and no child. @return false without memory.
+bool StoreValue(XMLElement& element, const XmlField& row, const char* text) {
+    switch (row.kind) {
+        case XmlFieldKind::Text: {
+            char*& field = element.*row.member.text;
+            return (row.leavesEarlier ? ixOverwriteText(field, text) : ixSetText(field, text)) != 0;
+        }
+        case XmlFieldKind::Flag:
+            StoreFlag(element.*row.member.number, row.flag, text);
+            return true;
+        case XmlFieldKind::Number:
+            element.*row.member.number = __atoi(text);
+            return true;
+        case XmlFieldKind::Unsigned:
+            element.*row.member.unsignedNumber = ToUnsigned(text, row.nearest);
+            return true;
+        case XmlFieldKind::Number64:
+            element.*row.member.number64 = __atoi64(text);
+            return true;
+        case XmlFieldKind::Enumeration:
+            element.*row.member.number = row.enumeration->Read(text);
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// Replaces a list of words by those of `text`. @return false without memory, when the earlier list is kept.
+bool StoreWords(XMLElement& element, const XmlField& row, const char* text) {
+    IxSingleElementList*& field = element.*row.member.list;
+    IxSingleElementList* const earlier = field;
+    field = nullptr;
+    bool stored = true;
+    while (stored && *text != '\0') {
+        const char* const word = text;
+        while (*text != '\0' && !XmlCommon::IsSpace(*text)) ++text;
+        const auto length = static_cast<std::size_t>(text - word);
+        stored = length == 0 || XmlHooks::AppendText(element, row, word, length);
+        while (XmlCommon::IsSpace(*text)) ++text;
+    }
+    ix_xml_common_methods::DeleteTextList(stored ? earlier : field);
+    if (!stored) field = earlier;
+    return stored;
+}
+
+XmlAnswer TakeText(XMLElement& element, const XmlField& row, const XmlTag& tag, const char* text, const void* child) {
+    if (child != nullptr) return XmlAnswer::Refused;
+    if (!tag.isEnd || text == nullptr) return XmlAnswer::Ignored;
+    switch (row.role) {
+        case XmlRole::Words:
+            return TakenIf(StoreWords(element, row, text));
+        case XmlRole::Texts:
+            return TakenIf(XmlHooks::AppendText(element, row, text, __strlen(text)));
+        default:
+            return TakenIf(StoreValue(element, row, text));
+    }
+}
+
+XmlAnswer TakeChild(XMLElement& element, const XmlClass& description, const XmlField& row, const XmlClass& expected,
+                    XMLElement* child) {
+    if (child == nullptr) return XmlAnswer::Refused;
+    if (!ixIsClass(child, expected)) {
+        return child->ClassName() == nullptr ? AnswerOf(description.answers.nameless) : XmlAnswer::Refused;
+    }
+    if (row.store == nullptr) return TakenIf(XmlHooks::Append(element, row, child));
+    XMLElement* const earlier = row.member.child(element);
+    row.store(element, child);
+    if (earlier != child && !row.leavesEarlier) ixDelete(earlier);
+    return XmlAnswer::Taken;
+}
+
+/// The class that an entry has under a name; NULL: there is none.
+const XmlClass* ClassNamed(const XmlField& row, XmlName name) {
+    for (std::size_t i = 0; i < row.entryCount; ++i) {
+        if (row.entries[i].name == name) return row.entries[i].description;
+    }
+    return nullptr;
+}
+
+/// The first row of a role; NULL: the class has none.
+const XmlField* RowOfRole(const XmlClass& description, XmlRole role) {
+    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            if (table->fields[i].role == role) return &table->fields[i];
+        }
+    }
+    return nullptr;
+}
+
+XmlAnswer OfferUnknown(XMLElement& element, const XmlClass& description, const XmlTag& tag, const char* text,
+                       XMLElement* child) {
+    const XmlAnswers& answers = description.answers;
+    const XmlField* const others = child != nullptr ? RowOfRole(description, XmlRole::Others) : nullptr;
+    if (others != nullptr) return TakenIf(XmlHooks::Append(element, *others, child));
+    ixLog(description.source, child != nullptr ? answers.unknownObject : answers.unknown, tag.text, text);
+    return AnswerOf(child != nullptr ? answers.object : answers.event);
+}
+
+}  // namespace
+
+XmlTag::XmlTag(char* tag)
+    : text(tag),
+      isEnd(tag != nullptr && *tag == '/'),
+      name(tag != nullptr ? tag + (isEnd ? 1 : 0) : "", tag != nullptr ? std::strlen(tag) - (isEnd ? 1 : 0) : 0) {}
+
+XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, const XmlTag& tag, const char* text,
+                          XMLElement* child) {
+    ixLog(description.source, description.answers.entered);
+    for (const XmlFieldTable* table = &description.table; table != nullptr && tag.name.IsKnown(); table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            const XmlField& row = table->fields[i];
+            switch (row.role) {
+                case XmlRole::OwnText:
+                    if (tag.isEnd && description.element == tag.name) return TakeText(element, row, tag, text, child);
+                    break;
+                case XmlRole::Element:
+                case XmlRole::Words:
+                case XmlRole::Texts:
+                    if (row.name != tag.name || (!tag.isEnd && description.answers.startsAreUnknown)) break;
+                    return TakeText(element, row, tag, text, child);
+                case XmlRole::Child:
+                case XmlRole::Children:
+                    if (row.name != tag.name || tag.isEnd) break;
+                    return TakeChild(element, description, row, *row.description, child);
+                case XmlRole::OneOf:
+                case XmlRole::Mixed: {
+                    const XmlClass* const expected = tag.isEnd ? nullptr : ClassNamed(row, tag.name);
+                    if (expected == nullptr) break;
+                    return TakeChild(element, description, row, *expected, child);
+                }
+                default:
+                    break;
+            }
+        }
+    }
+    return OfferUnknown(element, description, tag, text, child);
+}
+
+const XmlField* XmlHooks::AttributeRow(const XmlClass& description, XmlName name) {
+    if (!name.IsKnown()) return nullptr;
+    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            const XmlField& row = table->fields[i];
+            if (row.name == name && (row.role == XmlRole::Attribute || row.role == XmlRole::Dropped)) return &row;
+        }
+    }
+    return nullptr;
+}
+
+XmlAnswer XmlHooks::OfferAttribute(XMLElement& element, const XmlClass& description, XmlName name,
+                                   const char* attribute, const char* value, XMLAttribute* pair) {
+    const XmlAnswers& answers = description.answers;
+    ixLog(description.source, answers.attributeEntered);
+    const XmlField* const known = AttributeRow(description, name);
+    if (known != nullptr) {
+        if (pair != nullptr) return XmlAnswer::Refused;
+        if (known->role == XmlRole::Dropped || value == nullptr) return XmlAnswer::Ignored;
+        return TakenIf(StoreValue(element, *known, value));
+    }
+    const XmlField* const others = pair != nullptr ? RowOfRole(description, XmlRole::Attributes) : nullptr;
+    if (others != nullptr) {
+        ix_AttributeValuePair* const other = ixAsPair(pair);
+        return TakenIf(other != nullptr && Append(element, *others, other));
+    }
+    ixLog(description.source, answers.unknownAttribute, attribute);
+    return AnswerOf(pair != nullptr ? answers.pair : answers.attribute);
+}
+
+XmlAnswer XmlHooks::OfferTo(XMLElement& receiver, const XmlTag& tag, char* text, XMLElement* child) {
+    const XmlClass* const description = receiver.Class();
+    if (description != nullptr && description->takesByRows) return Offer(receiver, *description, tag, text, child);
+    if (receiver.ProcessUnMarshall(tag.text, text, child) == 0) return XmlAnswer::Refused;
+    return XmlFields::HoldsChild(receiver, child) ? XmlAnswer::Taken : XmlAnswer::Ignored;
+}
+
+XmlAnswer XmlHooks::OfferAttributeTo(XMLElement& receiver, char* attribute, char* value, XMLAttribute* pair) {
+    const XmlClass* const description = receiver.Class();
+    if (description != nullptr && description->takesAttributesByRows) {
+        return OfferAttribute(receiver, *description, XmlName(attribute, std::strlen(attribute)), attribute, value,
+                              pair);
+    }
+    if (receiver.ProcessUnMarshallAttribute(attribute, value, pair) == 0) return XmlAnswer::Refused;
+    return XmlFields::HoldsAttribute(receiver, pair) ? XmlAnswer::Taken : XmlAnswer::Ignored;
+}
+
+bool XmlHooks::Append(XMLElement& element, const XmlField& row, void* entry) {
+    IxSingleElementList*& list = element.*row.member.list;
+    if (list != nullptr) return list->Add(entry) != 0;
+    // A list without an entry is something else than no list: some writers tell them apart.
+    auto* const created = ixNew<IxSingleElementList>(XmlFields::SourceOf(element, row), row.line);
+    if (created == nullptr || created->Add(entry) == 0) {
+        ixDelete(created);
+        return false;
+    }
+    list = created;
+    return true;
+}
+
+bool XmlHooks::AppendText(XMLElement& element, const XmlField& row, const char* text, std::size_t length) {
+    char* const copy = text != nullptr ? static_cast<char*>(__malloc(length + 1)) : nullptr;
+    if (copy == nullptr) return false;
+    std::memcpy(copy, text, length);
+    copy[length] = '\0';
+    if (Append(element, row, copy)) return true;
+    __free(copy);
+    return false;
+}
