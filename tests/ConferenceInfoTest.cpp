@@ -164,8 +164,8 @@ TEST_F(ConferenceInfoTest, ReadsAndWritesWhatTheSchemaLeavesOpen) {
         // Counts of 0 are not set; others are held in 32 bits.
         {"<conference-description><maximum-user-count>0</maximum-user-count></conference-description>",
          "\n<conference-description></conference-description>"},
-        {"<conference-description><maximum-user-count>4294967296</maximum-user-count></conference-description>",
-         "\n<conference-description>\n<maximum-user-count>4294967295</maximum-user-count></conference-description>"},
+        {"<conference-description><maximum-user-count>4294967297</maximum-user-count></conference-description>",
+         "\n<conference-description>\n<maximum-user-count>1</maximum-user-count></conference-description>"},
         // Words are separated by white space of any kind and joined by single blanks.
         {"<conference-description><keywords>\r\none\ttwo  three </keywords></conference-description>",
          "\n<conference-description>\n<keywords>one two three</keywords></conference-description>"},
@@ -188,7 +188,7 @@ TEST_F(ConferenceInfoTest, ReadsAndWritesWhatTheSchemaLeavesOpen) {
         {"<host-info state=\"full\" entity=\"a\" version=\"1\" xmlns=\"urn:x\"/>",
          "\n<host-info  state=\"full\"  entity=\"a\"  version=\"1\"  xmlns=\"urn:x\"></host-info>"},
         {"<sidebars-by-val><entry entity=\"s\" label=\"1\" version=\"-1\"/></sidebars-by-val>",
-         "\n<sidebars-by-val>\n<entry  label=\"1\"  entity=\"s\"></entry></sidebars-by-val>"},
+         "\n<sidebars-by-val>\n<entry  version=\"4294967295\"  label=\"1\"  entity=\"s\"></entry></sidebars-by-val>"},
         {"<sidebars-by-ref entity=\"a\"><entry label=\"1\" entity=\"b\"/></sidebars-by-ref>",
          "\n<sidebars-by-ref  entity=\"a\">\n<entry  label=\"1\"  entity=\"b\"></entry></sidebars-by-ref>"},
     };

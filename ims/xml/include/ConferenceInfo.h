@@ -3,15 +3,15 @@
 #ifndef IX_CONFERENCE_INFO_H
 #define IX_CONFERENCE_INFO_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLConferenceInfoDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLConferenceInfoDecoder : public XmlFamilyDecoder {
   public:
     XMLConferenceInfoDecoder();
 
   protected:
     /// The `entry` of a user's roles is a text; any other `entry` is an object.
-    int EndElement(char* name, char* text) override;
+    int EndElement(const XmlTag& tag, char* text) override;
 };
 
 #endif

@@ -10,9 +10,7 @@
 #ifndef IX_XML_CONFERENCE_INFO_H
 #define IX_XML_CONFERENCE_INFO_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// @name Enumerations
 /// The value behind the last word means 'not set', and so does any other value that has no word. A text stands for the
@@ -70,47 +68,46 @@ enum eConferenceDisconnectionMethod {
 /// @name Elements
 /// Texts, children and lists are owned; NULL: not set. A setter copies a text, takes over a child or list in place of
 /// an earlier one, which is freed, and stores a number. It answers 1, or 0 without memory for a text, when the earlier
-/// text is kept. An `add` operation appends to a list, which it creates; it answers 1, or 0 without memory, when an
-/// object stays with the caller.
+/// text is kept. An `add` operation appends to a list, which it creates; it answers 1, or 0 for NULL or without
+/// memory, when an object stays with the caller.
 /// @{
 
 /// What all elements share: attributes that the schema does not know.
-class IX_XML_EXPORT ix_conference_containerType : public XMLElement {
+class IX_XML_EXPORT ix_conference_containerType : public XmlDescribedElement {
   public:
-    ~ix_conference_containerType() override;
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    /// Takes pairs; known attributes are up to the elements that have some.
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    static const XmlClass kClass;
 
-    int setExtraAttributeListValue(IxSingleElementList* list) { return ixSetAttributeList(mExtraAttributeList, list); }
-    int addExtraAttribute(ix_AttributeValuePair* pair);
+    ~ix_conference_containerType() override { ixRelease(*this, kClass); }
+
+    int setExtraAttributeListValue(IxSingleElementList* list) { return ixSetList(*this, mExtraAttributeList, list); }
+    int addExtraAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mExtraAttributeList, pair); }
 
     IxSingleElementList* mExtraAttributeList = nullptr;  ///< `ix_AttributeValuePair`s, in the order of the tag.
+
+  protected:
+    explicit ix_conference_containerType(const XmlClass& description) : XmlDescribedElement(description) {}
 };
 
 /// What the elements share that can be sent in part.
 class IX_XML_EXPORT ix_conference_statefulType : public ix_conference_containerType {
   public:
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    static const XmlClass kClass;
 
     int setStateValue(int state) { return ixSetNumber(mState, state); }
 
     int mState = IX_CONFERENCE_STATE_NOT_SET;  ///< `eConferenceInfoState`.
+
+  protected:
+    explicit ix_conference_statefulType(const XmlClass& description) : ix_conference_containerType(description) {}
 };
 
 /// Who did something to a conference, when and why: `modified`, `referred`, `joining-info`, `disconnection-info`.
 class IX_XML_EXPORT ix_execution_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_execution_type";
+    static const XmlClass kClass;
 
-    ~ix_execution_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:ExecutionType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_execution_type() : ix_conference_containerType(kClass) {}
+    ~ix_execution_type() override { ixRelease(*this, kClass); }
 
     int setWhenValue(const char* when) { return ixSetText(mWhen, when); }
     int setReasonValue(const char* reason) { return ixSetText(mReason, reason); }
@@ -124,13 +121,10 @@ class IX_XML_EXPORT ix_execution_type : public ix_conference_containerType {
 /// An `entry` of a list of URIs.
 class IX_XML_EXPORT ix_uri_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_uri_type";
+    static const XmlClass kClass;
 
-    ~ix_uri_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:UriType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_uri_type() : ix_conference_containerType(kClass) {}
+    ~ix_uri_type() override { ixRelease(*this, kClass); }
 
     int setUriValue(const char* uri) { return ixSetText(mUri, uri); }
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
@@ -146,16 +140,13 @@ class IX_XML_EXPORT ix_uri_type : public ix_conference_containerType {
 /// A list of URIs: `conf-uris`, `service-uris`, `uris`, `associated-aors`, `sidebars-by-ref`.
 class IX_XML_EXPORT ix_uris_type : public ix_conference_statefulType {
   public:
-    static constexpr char kClassName[] = "ix_uris_type";
+    static const XmlClass kClass;
 
-    ~ix_uris_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:UrisType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_uris_type() : ix_conference_statefulType(kClass) {}
+    ~ix_uris_type() override { ixRelease(*this, kClass); }
 
-    int setEntryListValue(IxSingleElementList* list) { return ixSetElementList(mEntryList, list); }
-    int addEntry(ix_uri_type* entry);
+    int setEntryListValue(IxSingleElementList* list) { return ixSetList(*this, mEntryList, list); }
+    int addEntry(ix_uri_type* entry) { return ixAdd(*this, mEntryList, entry); }
 
     IxSingleElementList* mEntryList = nullptr;  ///< `ix_uri_type`s.
 };
@@ -163,14 +154,10 @@ class IX_XML_EXPORT ix_uris_type : public ix_conference_statefulType {
 /// An `entry` of `available-media`: a medium that the conference offers.
 class IX_XML_EXPORT ix_conference_medium_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_conference_medium_type";
+    static const XmlClass kClass;
 
-    ~ix_conference_medium_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:ConferenceMediumType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_conference_medium_type() : ix_conference_containerType(kClass) {}
+    ~ix_conference_medium_type() override { ixRelease(*this, kClass); }
 
     int setLabelValue(const char* label) { return ixSetText(mLabel, label); }
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
@@ -186,16 +173,13 @@ class IX_XML_EXPORT ix_conference_medium_type : public ix_conference_containerTy
 /// The element `available-media`.
 class IX_XML_EXPORT ix_conference_media_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_conference_media_type";
+    static const XmlClass kClass;
 
-    ~ix_conference_media_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:ConferenceMediaType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_conference_media_type() : ix_conference_containerType(kClass) {}
+    ~ix_conference_media_type() override { ixRelease(*this, kClass); }
 
-    int setEntryListValue(IxSingleElementList* list) { return ixSetElementList(mEntryList, list); }
-    int addEntry(ix_conference_medium_type* entry);
+    int setEntryListValue(IxSingleElementList* list) { return ixSetList(*this, mEntryList, list); }
+    int addEntry(ix_conference_medium_type* entry) { return ixAdd(*this, mEntryList, entry); }
 
     IxSingleElementList* mEntryList = nullptr;  ///< `ix_conference_medium_type`s.
 };
@@ -203,19 +187,16 @@ class IX_XML_EXPORT ix_conference_media_type : public ix_conference_containerTyp
 /// The element `conference-description`: what a conference is about, and how to reach it.
 class IX_XML_EXPORT ix_conference_description_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_conference_description_type";
+    static const XmlClass kClass;
 
-    ~ix_conference_description_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:ConferenceDescriptionType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_conference_description_type() : ix_conference_containerType(kClass) {}
+    ~ix_conference_description_type() override { ixRelease(*this, kClass); }
 
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
     int setSubjectValue(const char* subject) { return ixSetText(mSubject, subject); }
     int setFreeTextValue(const char* text) { return ixSetText(mFreeText, text); }
-    int setKeywordsValue(IxSingleElementList* keywords) { return ixSetTextList(mKeywords, keywords); }
-    int addKeyword(const char* keyword);
+    int setKeywordsValue(IxSingleElementList* keywords) { return ixSetList(*this, mKeywords, keywords); }
+    int addKeyword(const char* keyword) { return ixAddText(*this, mKeywords, keyword); }
     int setConfUrisValue(ix_uris_type* uris) { return ixSetChild(mConfUris, uris); }
     int setServiceUrisValue(ix_uris_type* uris) { return ixSetChild(mServiceUris, uris); }
     int setMaximumUserCountValue(unsigned int count) { return ixSetNumber(mMaximumUserCount, count); }
@@ -234,13 +215,10 @@ class IX_XML_EXPORT ix_conference_description_type : public ix_conference_contai
 /// The element `host-info`: who hosts the conference.
 class IX_XML_EXPORT ix_host_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_host_type";
+    static const XmlClass kClass;
 
-    ~ix_host_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:HostType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_host_type() : ix_conference_containerType(kClass) {}
+    ~ix_host_type() override { ixRelease(*this, kClass); }
 
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
     int setWebPageValue(const char* page) { return ixSetText(mWebPage, page); }
@@ -254,13 +232,10 @@ class IX_XML_EXPORT ix_host_type : public ix_conference_containerType {
 /// The element `conference-state`.
 class IX_XML_EXPORT ix_conference_state_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_conference_state_type";
+    static const XmlClass kClass;
 
-    ~ix_conference_state_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:ConferenceStateType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_conference_state_type() : ix_conference_containerType(kClass) {}
+    ~ix_conference_state_type() override { ixRelease(*this, kClass); }
 
     int setUserCountValue(unsigned int count) { return ixSetNumber(mUserCount, count); }
     int setActiveValue(int active) { return ixSetNumber(mActive, active); }
@@ -274,16 +249,13 @@ class IX_XML_EXPORT ix_conference_state_type : public ix_conference_containerTyp
 /// The element `roles` of a user.
 class IX_XML_EXPORT ix_user_roles_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_user_roles_type";
+    static const XmlClass kClass;
 
-    ~ix_user_roles_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferenceInfo:UserRolesType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_user_roles_type() : ix_conference_containerType(kClass) {}
+    ~ix_user_roles_type() override { ixRelease(*this, kClass); }
 
-    int setEntryListValue(IxSingleElementList* list) { return ixSetTextList(mEntryList, list); }
-    int addEntry(const char* role);
+    int setEntryListValue(IxSingleElementList* list) { return ixSetList(*this, mEntryList, list); }
+    int addEntry(const char* role) { return ixAddText(*this, mEntryList, role); }
 
     IxSingleElementList* mEntryList = nullptr;  ///< Texts, such as "participant".
 };
@@ -291,13 +263,10 @@ class IX_XML_EXPORT ix_user_roles_type : public ix_conference_containerType {
 /// The element `sip` of `call-info`: the dialog between endpoint and focus.
 class IX_XML_EXPORT ix_sip_dialog_id_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_sip_dialog_id_type";
+    static const XmlClass kClass;
 
-    ~ix_sip_dialog_id_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferenceInfo:SipDialogIdType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_sip_dialog_id_type() : ix_conference_containerType(kClass) {}
+    ~ix_sip_dialog_id_type() override { ixRelease(*this, kClass); }
 
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
     int setCallIdValue(const char* id) { return ixSetText(mCallId, id); }
@@ -313,13 +282,10 @@ class IX_XML_EXPORT ix_sip_dialog_id_type : public ix_conference_containerType {
 /// The element `call-info` of an endpoint.
 class IX_XML_EXPORT ix_call_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_call_type";
+    static const XmlClass kClass;
 
-    ~ix_call_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:CallType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_call_type() : ix_conference_containerType(kClass) {}
+    ~ix_call_type() override { ixRelease(*this, kClass); }
 
     int setSipValue(ix_sip_dialog_id_type* sip) { return ixSetChild(mSip, sip); }
 
@@ -329,14 +295,10 @@ class IX_XML_EXPORT ix_call_type : public ix_conference_containerType {
 /// The element `media` of an endpoint: one media stream.
 class IX_XML_EXPORT ix_media_type : public ix_conference_containerType {
   public:
-    static constexpr char kClassName[] = "ix_media_type";
+    static const XmlClass kClass;
 
-    ~ix_media_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:MediaType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_media_type() : ix_conference_containerType(kClass) {}
+    ~ix_media_type() override { ixRelease(*this, kClass); }
 
     int setIdValue(const char* id) { return ixSetText(mId, id); }
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
@@ -356,14 +318,10 @@ class IX_XML_EXPORT ix_media_type : public ix_conference_containerType {
 /// The element `endpoint` of a user: one device or session.
 class IX_XML_EXPORT ix_endpoint_type : public ix_conference_statefulType {
   public:
-    static constexpr char kClassName[] = "ix_endpoint_type";
+    static const XmlClass kClass;
 
-    ~ix_endpoint_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:EndpointType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_endpoint_type() : ix_conference_statefulType(kClass) {}
+    ~ix_endpoint_type() override { ixRelease(*this, kClass); }
 
     int setEntityValue(const char* entity) { return ixSetText(mEntity, entity); }
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
@@ -373,8 +331,8 @@ class IX_XML_EXPORT ix_endpoint_type : public ix_conference_statefulType {
     int setJoiningInfoValue(ix_execution_type* info) { return ixSetChild(mJoiningInfo, info); }
     int setDisconnectionMethodValue(int method) { return ixSetNumber(mDisconnectionMethod, method); }
     int setDisconnectionInfoValue(ix_execution_type* info) { return ixSetChild(mDisconnectionInfo, info); }
-    int setMediaListValue(IxSingleElementList* list) { return ixSetElementList(mMediaList, list); }
-    int addMedia(ix_media_type* media);
+    int setMediaListValue(IxSingleElementList* list) { return ixSetList(*this, mMediaList, list); }
+    int addMedia(ix_media_type* media) { return ixAdd(*this, mMediaList, media); }
     int setCallInfoValue(ix_call_type* info) { return ixSetChild(mCallInfo, info); }
 
     char* mEntity = nullptr;  ///< URI.
@@ -392,24 +350,20 @@ class IX_XML_EXPORT ix_endpoint_type : public ix_conference_statefulType {
 /// The element `user`: a participant.
 class IX_XML_EXPORT ix_user_type : public ix_conference_statefulType {
   public:
-    static constexpr char kClassName[] = "ix_user_type";
+    static const XmlClass kClass;
 
-    ~ix_user_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:UserType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_user_type() : ix_conference_statefulType(kClass) {}
+    ~ix_user_type() override { ixRelease(*this, kClass); }
 
     int setEntityValue(const char* entity) { return ixSetText(mEntity, entity); }
     int setDisplayTextValue(const char* text) { return ixSetText(mDisplayText, text); }
     int setAssociatedAorsValue(ix_uris_type* aors) { return ixSetChild(mAssociatedAors, aors); }
     int setRolesValue(ix_user_roles_type* roles) { return ixSetChild(mRoles, roles); }
-    int setLanguagesValue(IxSingleElementList* languages) { return ixSetTextList(mLanguages, languages); }
-    int addLanguage(const char* language);
+    int setLanguagesValue(IxSingleElementList* languages) { return ixSetList(*this, mLanguages, languages); }
+    int addLanguage(const char* language) { return ixAddText(*this, mLanguages, language); }
     int setCascadedFocusValue(const char* focus) { return ixSetText(mCascadedFocus, focus); }
-    int setEndpointListValue(IxSingleElementList* list) { return ixSetElementList(mEndpointList, list); }
-    int addEndpoint(ix_endpoint_type* endpoint);
+    int setEndpointListValue(IxSingleElementList* list) { return ixSetList(*this, mEndpointList, list); }
+    int addEndpoint(ix_endpoint_type* endpoint) { return ixAdd(*this, mEndpointList, endpoint); }
 
     char* mEntity = nullptr;  ///< URI.
     char* mDisplayText = nullptr;
@@ -423,16 +377,13 @@ class IX_XML_EXPORT ix_user_type : public ix_conference_statefulType {
 /// The element `users`.
 class IX_XML_EXPORT ix_users_type : public ix_conference_statefulType {
   public:
-    static constexpr char kClassName[] = "ix_users_type";
+    static const XmlClass kClass;
 
-    ~ix_users_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:UsersType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_users_type() : ix_conference_statefulType(kClass) {}
+    ~ix_users_type() override { ixRelease(*this, kClass); }
 
-    int setUserListValue(IxSingleElementList* list) { return ixSetElementList(mUserList, list); }
-    int addUser(ix_user_type* user);
+    int setUserListValue(IxSingleElementList* list) { return ixSetList(*this, mUserList, list); }
+    int addUser(ix_user_type* user) { return ixAdd(*this, mUserList, user); }
 
     IxSingleElementList* mUserList = nullptr;  ///< `ix_user_type`s.
 };
@@ -442,16 +393,13 @@ class ix_conference_type;
 /// The element `sidebars-by-val`: conferences beside the conference.
 class IX_XML_EXPORT ix_sidebars_by_val_type : public ix_conference_statefulType {
   public:
-    static constexpr char kClassName[] = "ix_sidebars_by_val_type";
+    static const XmlClass kClass;
 
-    ~ix_sidebars_by_val_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:SidebarsByValType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_sidebars_by_val_type() : ix_conference_statefulType(kClass) {}
+    ~ix_sidebars_by_val_type() override { ixRelease(*this, kClass); }
 
-    int setEntryListValue(IxSingleElementList* list) { return ixSetElementList(mEntryList, list); }
-    int addEntry(ix_conference_type* entry);
+    int setEntryListValue(IxSingleElementList* list) { return ixSetList(*this, mEntryList, list); }
+    int addEntry(ix_conference_type* entry) { return ixAdd(*this, mEntryList, entry); }
 
     IxSingleElementList* mEntryList = nullptr;  ///< `ix_conference_type`s.
 };
@@ -459,14 +407,10 @@ class IX_XML_EXPORT ix_sidebars_by_val_type : public ix_conference_statefulType 
 /// The element `conference-info`, and each `entry` of `sidebars-by-val`.
 class IX_XML_EXPORT ix_conference_type : public ix_conference_statefulType {
   public:
-    static constexpr char kClassName[] = "ix_conference_type";
+    static const XmlClass kClass;
 
-    ~ix_conference_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConferneceInfo:ConferenceType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_conference_type() : ix_conference_statefulType(kClass) {}
+    ~ix_conference_type() override { ixRelease(*this, kClass); }
 
     int setEntityValue(const char* entity) { return ixSetText(mEntity, entity); }
     int setVersionValue(unsigned int version) { return ixSetNumber(mVersion, version); }
@@ -520,16 +464,16 @@ class IX_XML_EXPORT ConferenceInfoDataBinder : public XMLObjectFactory {
     ix_sidebars_by_val_type* CreateSideBarsByValueType();
 };
 
-class IX_XML_EXPORT ConferenceInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT ConferenceInfoUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    ConferenceInfoUnMarshaller();
 };
 
 /// Writes the XML declaration and the conference, without prefixes. A sidebar that cannot be written is left out; any
 /// other element that lacks a mandatory attribute fails the document.
 ///
 /// The writers answer 1, or 0 for NULL and for an element that cannot be written.
-class IX_XML_EXPORT Conference_infoMarshall : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT Conference_infoMarshall : public XmlFamilyMarshaller {
   public:
     Conference_infoMarshall();
 
@@ -555,8 +499,9 @@ class IX_XML_EXPORT Conference_infoMarshall : public XmlOldFamilyMarshaller {
     int AddConferenceMediumTypeElementToXml(ix_conference_medium_type* medium);
 
   private:
-    void StartContainer(e_XmlStrRef name, const ix_conference_containerType& element, const char* state = nullptr,
-                        const char* entity = nullptr);
+    void StartContainer(e_XmlStrRef name, const ix_conference_containerType& element, int state, const char* entity);
+    void StartContainer(e_XmlStrRef name, const ix_conference_containerType& element);
+    int AddConference(const ix_conference_type& conference, e_XmlStrRef name);
     void AddSidebars(const ix_sidebars_by_val_type& sidebars);
     int AddUriEntry(ix_uri_type* uri);
     int AddMediumEntry(ix_conference_medium_type* medium, int index);
@@ -564,13 +509,13 @@ class IX_XML_EXPORT Conference_infoMarshall : public XmlOldFamilyMarshaller {
     void AddCallInfo(const ix_call_type& info);
     void AddRoles(const ix_user_roles_type& roles);
     void AddWords(e_XmlStrRef name, const IxSingleElementList* words);
+
+    int m_depth = 0;  ///< Of the conference that is written.
 };
 
-class IX_XML_EXPORT ConferenceInfoContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT ConferenceInfoContext : public XmlFamilyContext {
+  public:
+    ConferenceInfoContext();
 };
 
 /// Assembles a small conference with the operations above and writes it.

@@ -37,7 +37,7 @@ enum class XmlFieldKind : unsigned char {
 /// What a field is in the document.
 enum class XmlRole : unsigned char {
     Attribute,   ///< An attribute of the element's start tag.
-    Dropped,     ///< An attribute that is known and not kept; it has no member.
+    Dropped,     ///< An attribute that the root of a document does not keep; it has no member.
     OwnText,     ///< The text of the element itself, taken at its own end tag (`XmlClass::element`).
     Element,     ///< An element with a text, number, flag or word.
     Words,       ///< An element whose text is a list of words with white space between them.
@@ -400,7 +400,7 @@ constexpr XmlField Attribute(XmlName name, const XmlEnumeration& words, int line
 }
 /// @}
 
-/// An attribute that is known and not kept.
+/// An attribute that the root of a document does not keep, as its marshaller writes its own.
 constexpr XmlField Dropped(XmlName name, int line = __builtin_LINE()) {
     return Make(XmlRole::Dropped, XmlFieldKind::None, name, XmlTextMember(nullptr), line);
 }

@@ -288,6 +288,7 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     const XmlContainerRow* NextRow(const XmlContainerRow* row) const;
     static bool Matches(const XmlContainerRow& row, const XmlTag& tag, XmlTag& local);
     const XmlContainerRow* FindContainer(const XmlTag& tag, XmlTag& local) const;
+    static bool Knows(const XmlContainerRow* row, const XMLElement& receiver, const char* attribute);
     bool EndContainer(const XmlContainerRow& row, const XmlTag& tag, char* text, bool& offered);
     char* ComparedName(char* element);
     bool IsStarted(const char* element) const;

@@ -6,58 +6,7 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLConferenceInfo";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
-    IX_OLD_UNMARSHALLER_INFO(XMLConferenceInfoDecoder, "ConferenceInfoUnMarshaller");
-
-constexpr XmlOldWriterRow kWriters[] = {
-    {ix_conference_type::kClassName,
-     [](XmlOldFamilyMarshaller& self, XMLElement* root) -> int {
-         return static_cast<Conference_infoMarshall&>(self).AddConferenceInfoElementToXml(
-             static_cast<ix_conference_type*>(root), IX_STR_CONFERENCE_INFO);
-     }},
-};
-
-constexpr XmlOldMarshallerInfo MarshallerInfo() {
-    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
-    info.entersFirst = true;
-    IX_OLD_MARSHALL_TEXTS(info, "Conference_infoMarshall", "mConferenceInfoXml");
-    // Required: the text is spelt like this.
-    info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: Conference_infoMarshall :: Marshall: Receiven NULL Object"};
-    return info;
-}
-constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
-
-constexpr XmlLogText kAddConferenceInfo = {2, kSchemaCode, __LINE__, "<XML Module>: AddConferenceInfoElementToXml"};
-constexpr XmlLogText kNoEntity = {4, kSchemaCode, __LINE__,
-                                  "<XML Module>: AddConferenceInfoElementToXml entity attribute is mandatory"};
-constexpr XmlLogText kSidebarFailed = {2, kSchemaCode, __LINE__,
-                                       "<XML Module>: Add Sidebars_by_val ElementToXml fail @ tempNum: %d "};
-constexpr XmlLogText kAddDescription = {2, kSchemaCode, __LINE__, "<XML Module>: AddConferenceDescriptionElementToXml"};
-constexpr XmlLogText kAddHostInfo = {2, kSchemaCode, __LINE__, "<XML Module>: AddHostInfoElementToXml"};
-constexpr XmlLogText kAddState = {2, kSchemaCode, __LINE__, "<XML Module>: AddConferenceStateElementToXml"};
-constexpr XmlLogText kAddUsers = {2, kSchemaCode, __LINE__, "<XML Module>: AddIUsersElementToXml"};
-constexpr XmlLogText kUserFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddIUsersElementToXml tempNum: %d "};
-// Required: the text is spelt like this.
-constexpr XmlLogText kAddUser = {2, kSchemaCode, __LINE__, "<XML Module>: AddUserElementToXkjml"};
-constexpr XmlLogText kAddEndPoint = {2, kSchemaCode, __LINE__, "<XML Module>: AddEndPointElementToXml"};
-constexpr XmlLogText kMediaFailed = {2, kSchemaCode, __LINE__,
-                                     "<XML Module>: issue in Media Element number [tempNum: %d] "};
-constexpr XmlLogText kAddMedia = {2, kSchemaCode, __LINE__, "<XML Module>: AddMediaElementToXml"};
-constexpr XmlLogText kNoId = {4, kSchemaCode, __LINE__, "<XML Module>: AddMediaElementToXml: id attribute mandatory "};
-constexpr XmlLogText kAddSip = {2, kSchemaCode, __LINE__, "<XML Module>: AddSipElementToXml"};
-constexpr XmlLogText kAddExecution = {2, kSchemaCode, __LINE__, "<XML Module>: AddExecutionTypeElementToXml"};
-constexpr XmlLogText kAddUris = {2, kSchemaCode, __LINE__, "<XML Module>: AddUrisTypeElementToXml"};
-constexpr XmlLogText kUriFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddUrisTypeElementToXml tempNum: %d "};
-constexpr XmlLogText kAddUri = {2, kSchemaCode, __LINE__, "<XML Module>: AddUriTypeElementToXml"};
-constexpr XmlLogText kAddConferenceMedia = {2, kSchemaCode, __LINE__,
-                                            "<XML Module>: AddConferenceMediaTypeElementToXml"};
-constexpr XmlLogText kNoLabel = {
-    4, kSchemaCode, __LINE__, "<XML Module>: AddConferenceMediaTypeElementToXml: label attribute mandatory tempNum:%d"};
-constexpr XmlLogText kMediumFailed = {2, kSchemaCode, __LINE__,
-                                      "<XML Module>: AddConferenceMediaTypeElementToXml tempNum: %d "};
-constexpr XmlLogText kAddMedium = {2, kSchemaCode, __LINE__, "<XML Module>: AddConferenceMediumTypeElementToXml"};
+using namespace XmlRow;
 
 // Contiguous: the words of one enumeration follow those of another.
 constexpr char kWords[][100] = {
@@ -83,466 +32,288 @@ constexpr XmlEnumeration kStates = {kWords[kFirstState], kWordSize, IX_CONFERENC
 constexpr XmlEnumeration kDisconnectionMethods = {kDisconnectionWords[0], kWordSize,
                                                   IX_CONFERENCE_DISCONNECTION_NOT_SET};
 
-int AppendWord(IxSingleElementList*& list, const char* word) {
-    return ixAppendText(list, word, __strlen(word), kSourceFile, __LINE__);
-}
-
-/// Replaces a list of words by those of `text`. @return 1, or 0 without memory, the earlier list kept.
-int SplitWords(IxSingleElementList*& field, const char* text) {
-    IxSingleElementList* words = nullptr;
-    while (text != nullptr && *text != '\0') {
-        const char* const word = text;
-        while (*text != '\0' && !XmlCommon::IsSpace(*text)) ++text;
-        const auto length = static_cast<std::size_t>(text - word);
-        if (length != 0 && ixAppendText(words, word, length, kSourceFile, __LINE__) == 0) {
-            ix_xml_common_methods::DeleteTextList(words);
-            return 0;
-        }
-        while (XmlCommon::IsSpace(*text)) ++text;
-    }
-    return ixSetTextList(field, words);
-}
-
-const char* BooleanText(int flag) {
-    return ix_xml_common_array_definition::getStringName(flag == 1 ? IX_STR_TRUE : IX_STR_FALSE);
-}
-
-/// What a class answers for an element that it does not know: a text is ignored, an object refused.
-int Unknown(const XMLElement* child) { return child == nullptr ? 1 : 0; }
-
 constexpr XmlField kContainerFields[] = {
-    {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_conference_containerType::mExtraAttributeList), 0,
-     nullptr, "attributes"},
+    Attributes<&ix_conference_containerType::mExtraAttributeList>(),
 };
-constexpr XmlFieldTable kContainerTable = {nullptr, kContainerFields, std::size(kContainerFields)};
-
 constexpr XmlField kStatefulFields[] = {
-    {XmlFieldKind::Enumeration, IX_STR_STATE, XmlIntMember(&ix_conference_statefulType::mState),
-     IX_CONFERENCE_STATE_NOT_SET, &kStates},
+    Attribute<&ix_conference_statefulType::mState>(IX_STR_STATE, kStates),
 };
-constexpr XmlFieldTable kStatefulTable = {&kContainerTable, kStatefulFields, std::size(kStatefulFields)};
-
 constexpr XmlField kExecutionFields[] = {
-    {XmlFieldKind::Text, IX_STR_WHEN, XmlTextMember(&ix_execution_type::mWhen)},
-    {XmlFieldKind::Text, IX_STR_REASON, XmlTextMember(&ix_execution_type::mReason)},
-    {XmlFieldKind::Text, IX_STR_BY, XmlTextMember(&ix_execution_type::mBy)},
+    Element<&ix_execution_type::mWhen>(IX_STR_WHEN),
+    Element<&ix_execution_type::mReason>(IX_STR_REASON),
+    Element<&ix_execution_type::mBy>(IX_STR_BY),
 };
 constexpr XmlField kUriFields[] = {
-    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_uri_type::mUri)},
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_uri_type::mDisplayText)},
-    {XmlFieldKind::Text, IX_STR_PURPOSE, XmlTextMember(&ix_uri_type::mPurpose)},
-    {XmlFieldKind::Child, IX_STR_MODIFIED, IX_CHILD_MEMBER(ix_uri_type, mModified)},
+    Element<&ix_uri_type::mUri>(IX_STR_URI),
+    Element<&ix_uri_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Element<&ix_uri_type::mPurpose>(IX_STR_PURPOSE),
+    Child<&ix_uri_type::mModified>(IX_STR_MODIFIED),
 };
 constexpr XmlField kUrisFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_ENTRY, XmlListMember(&ix_uris_type::mEntryList)},
+    Children<&ix_uris_type::mEntryList, ix_uri_type>(IX_STR_ENTRY),
 };
 constexpr XmlField kMediumFields[] = {
-    {XmlFieldKind::Text, IX_STR_LABEL, XmlTextMember(&ix_conference_medium_type::mLabel)},
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_conference_medium_type::mDisplayText)},
-    {XmlFieldKind::Text, IX_STR_TYPE, XmlTextMember(&ix_conference_medium_type::mType)},
-    {XmlFieldKind::Enumeration, IX_STR_STATUS, XmlIntMember(&ix_conference_medium_type::mStatus),
-     IX_CONFERENCE_MEDIA_NOT_SET, &kMediaStatus},
+    Attribute<&ix_conference_medium_type::mLabel>(IX_STR_LABEL),
+    Element<&ix_conference_medium_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Element<&ix_conference_medium_type::mType>(IX_STR_TYPE),
+    Element<&ix_conference_medium_type::mStatus>(IX_STR_STATUS, kMediaStatus),
 };
 constexpr XmlField kConferenceMediaFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_ENTRY, XmlListMember(&ix_conference_media_type::mEntryList)},
+    Children<&ix_conference_media_type::mEntryList, ix_conference_medium_type>(IX_STR_ENTRY),
 };
 constexpr XmlField kDescriptionFields[] = {
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_conference_description_type::mDisplayText)},
-    {XmlFieldKind::Text, IX_STR_SUBJECT, XmlTextMember(&ix_conference_description_type::mSubject)},
-    {XmlFieldKind::Text, IX_STR_FREE_TEXT, XmlTextMember(&ix_conference_description_type::mFreeText)},
-    {XmlFieldKind::TextList, IX_STR_KEYWORDS, XmlListMember(&ix_conference_description_type::mKeywords)},
-    {XmlFieldKind::Child, IX_STR_CONF_URIS, IX_CHILD_MEMBER(ix_conference_description_type, mConfUris)},
-    {XmlFieldKind::Child, IX_STR_SERVICE_URIS, IX_CHILD_MEMBER(ix_conference_description_type, mServiceUris)},
-    {XmlFieldKind::Unsigned, IX_STR_MAXIMUM_USER_COUNT,
-     XmlUnsignedMember(&ix_conference_description_type::mMaximumUserCount)},
-    {XmlFieldKind::Child, IX_STR_AVAILABLE_MEDIA, IX_CHILD_MEMBER(ix_conference_description_type, mAvailableMedia)},
+    Element<&ix_conference_description_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Element<&ix_conference_description_type::mSubject>(IX_STR_SUBJECT),
+    Element<&ix_conference_description_type::mFreeText>(IX_STR_FREE_TEXT),
+    Words<&ix_conference_description_type::mKeywords>(IX_STR_KEYWORDS),
+    Child<&ix_conference_description_type::mConfUris>(IX_STR_CONF_URIS),
+    Child<&ix_conference_description_type::mServiceUris>(IX_STR_SERVICE_URIS),
+    Element<&ix_conference_description_type::mMaximumUserCount>(IX_STR_MAXIMUM_USER_COUNT),
+    Child<&ix_conference_description_type::mAvailableMedia>(IX_STR_AVAILABLE_MEDIA),
 };
 constexpr XmlField kHostFields[] = {
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_host_type::mDisplayText)},
-    {XmlFieldKind::Text, IX_STR_WEB_PAGE, XmlTextMember(&ix_host_type::mWebPage)},
-    {XmlFieldKind::Child, IX_STR_URIS, IX_CHILD_MEMBER(ix_host_type, mUris)},
+    Element<&ix_host_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Element<&ix_host_type::mWebPage>(IX_STR_WEB_PAGE),
+    Child<&ix_host_type::mUris>(IX_STR_URIS),
 };
 constexpr XmlField kConferenceStateFields[] = {
-    {XmlFieldKind::Unsigned, IX_STR_USER_COUNT, XmlUnsignedMember(&ix_conference_state_type::mUserCount)},
-    {XmlFieldKind::Flag, IX_STR_ACTIVE, XmlIntMember(&ix_conference_state_type::mActive), kXmlAlwaysSet},
-    {XmlFieldKind::Flag, IX_STR_LOCKED, XmlIntMember(&ix_conference_state_type::mLocked), kXmlAlwaysSet},
+    Element<&ix_conference_state_type::mUserCount>(IX_STR_USER_COUNT),
+    Element<&ix_conference_state_type::mActive>(IX_STR_ACTIVE, XmlFlag::TrueOrNot).Always(),
+    Element<&ix_conference_state_type::mLocked>(IX_STR_LOCKED, XmlFlag::TrueOrNot).Always(),
 };
 constexpr XmlField kRolesFields[] = {
-    {XmlFieldKind::TextList, IX_STR_ENTRY, XmlListMember(&ix_user_roles_type::mEntryList)},
+    Texts<&ix_user_roles_type::mEntryList>(IX_STR_ENTRY),
 };
 constexpr XmlField kSipFields[] = {
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_sip_dialog_id_type::mDisplayText)},
-    {XmlFieldKind::Text, IX_STR_CALL_ID, XmlTextMember(&ix_sip_dialog_id_type::mCallId)},
-    {XmlFieldKind::Text, IX_STR_FROM_TAG, XmlTextMember(&ix_sip_dialog_id_type::mFromTag)},
-    {XmlFieldKind::Text, IX_STR_TO_TAG, XmlTextMember(&ix_sip_dialog_id_type::mToTag)},
+    Element<&ix_sip_dialog_id_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Element<&ix_sip_dialog_id_type::mCallId>(IX_STR_CALL_ID),
+    Element<&ix_sip_dialog_id_type::mFromTag>(IX_STR_FROM_TAG),
+    Element<&ix_sip_dialog_id_type::mToTag>(IX_STR_TO_TAG),
 };
 constexpr XmlField kCallFields[] = {
-    {XmlFieldKind::Child, IX_STR_SIP, IX_CHILD_MEMBER(ix_call_type, mSip)},
+    Child<&ix_call_type::mSip>(IX_STR_SIP),
 };
 constexpr XmlField kMediaFields[] = {
-    {XmlFieldKind::Text, IX_STR_ID, XmlTextMember(&ix_media_type::mId)},
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_media_type::mDisplayText)},
-    {XmlFieldKind::Text, IX_STR_TYPE, XmlTextMember(&ix_media_type::mType)},
-    {XmlFieldKind::Text, IX_STR_LABEL, XmlTextMember(&ix_media_type::mLabel)},
-    {XmlFieldKind::Text, IX_STR_SRC_ID, XmlTextMember(&ix_media_type::mSrcId)},
-    {XmlFieldKind::Enumeration, IX_STR_STATUS, XmlIntMember(&ix_media_type::mStatus), IX_CONFERENCE_MEDIA_NOT_SET,
-     &kMediaStatus},
+    Attribute<&ix_media_type::mId>(IX_STR_ID),      Element<&ix_media_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Element<&ix_media_type::mType>(IX_STR_TYPE),    Element<&ix_media_type::mLabel>(IX_STR_LABEL),
+    Element<&ix_media_type::mSrcId>(IX_STR_SRC_ID), Element<&ix_media_type::mStatus>(IX_STR_STATUS, kMediaStatus),
 };
 constexpr XmlField kEndpointFields[] = {
-    {XmlFieldKind::Text, IX_STR_ENTITY, XmlTextMember(&ix_endpoint_type::mEntity)},
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_endpoint_type::mDisplayText)},
-    {XmlFieldKind::Child, IX_STR_REFERRED, IX_CHILD_MEMBER(ix_endpoint_type, mReferred)},
-    {XmlFieldKind::Enumeration, IX_STR_STATUS, XmlIntMember(&ix_endpoint_type::mStatus), IX_CONFERENCE_ENDPOINT_NOT_SET,
-     &kEndpointStatus},
-    {XmlFieldKind::Enumeration, IX_STR_JOINING_METHOD, XmlIntMember(&ix_endpoint_type::mJoiningMethod),
-     IX_CONFERENCE_JOINING_NOT_SET, &kJoiningMethods},
-    {XmlFieldKind::Child, IX_STR_JOINING_INFO, IX_CHILD_MEMBER(ix_endpoint_type, mJoiningInfo)},
-    {XmlFieldKind::Enumeration, IX_STR_DISCONNECTION_METHOD, XmlIntMember(&ix_endpoint_type::mDisconnectionMethod),
-     IX_CONFERENCE_DISCONNECTION_NOT_SET, &kDisconnectionMethods},
-    {XmlFieldKind::Child, IX_STR_DISCONNECTION_INFO, IX_CHILD_MEMBER(ix_endpoint_type, mDisconnectionInfo)},
-    {XmlFieldKind::ChildList, IX_STR_MEDIA, XmlListMember(&ix_endpoint_type::mMediaList)},
-    {XmlFieldKind::Child, IX_STR_CALL_INFO, IX_CHILD_MEMBER(ix_endpoint_type, mCallInfo)},
+    Attribute<&ix_endpoint_type::mEntity>(IX_STR_ENTITY),
+    Element<&ix_endpoint_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Child<&ix_endpoint_type::mReferred>(IX_STR_REFERRED),
+    Element<&ix_endpoint_type::mStatus>(IX_STR_STATUS, kEndpointStatus),
+    Element<&ix_endpoint_type::mJoiningMethod>(IX_STR_JOINING_METHOD, kJoiningMethods),
+    Child<&ix_endpoint_type::mJoiningInfo>(IX_STR_JOINING_INFO),
+    Element<&ix_endpoint_type::mDisconnectionMethod>(IX_STR_DISCONNECTION_METHOD, kDisconnectionMethods),
+    Child<&ix_endpoint_type::mDisconnectionInfo>(IX_STR_DISCONNECTION_INFO),
+    Children<&ix_endpoint_type::mMediaList, ix_media_type>(IX_STR_MEDIA),
+    Child<&ix_endpoint_type::mCallInfo>(IX_STR_CALL_INFO),
 };
 constexpr XmlField kUserFields[] = {
-    {XmlFieldKind::Text, IX_STR_ENTITY, XmlTextMember(&ix_user_type::mEntity)},
-    {XmlFieldKind::Text, IX_STR_DISPLAY_TEXT, XmlTextMember(&ix_user_type::mDisplayText)},
-    {XmlFieldKind::Child, IX_STR_ASSOCIATED_AORS, IX_CHILD_MEMBER(ix_user_type, mAssociatedAors)},
-    {XmlFieldKind::Child, IX_STR_ROLES, IX_CHILD_MEMBER(ix_user_type, mRoles)},
-    {XmlFieldKind::TextList, IX_STR_LANGUAGES, XmlListMember(&ix_user_type::mLanguages)},
-    {XmlFieldKind::Text, IX_STR_CASCADED_FOCUS, XmlTextMember(&ix_user_type::mCascadedFocus)},
-    {XmlFieldKind::ChildList, IX_STR_ENDPOINT, XmlListMember(&ix_user_type::mEndpointList)},
+    Attribute<&ix_user_type::mEntity>(IX_STR_ENTITY),
+    Element<&ix_user_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
+    Child<&ix_user_type::mAssociatedAors>(IX_STR_ASSOCIATED_AORS),
+    Child<&ix_user_type::mRoles>(IX_STR_ROLES),
+    Words<&ix_user_type::mLanguages>(IX_STR_LANGUAGES),
+    Element<&ix_user_type::mCascadedFocus>(IX_STR_CASCADED_FOCUS),
+    Children<&ix_user_type::mEndpointList, ix_endpoint_type>(IX_STR_ENDPOINT),
 };
 constexpr XmlField kUsersFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_USER, XmlListMember(&ix_users_type::mUserList)},
+    Children<&ix_users_type::mUserList, ix_user_type>(IX_STR_USER),
 };
 constexpr XmlField kSidebarsFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_ENTRY, XmlListMember(&ix_sidebars_by_val_type::mEntryList)},
+    Children<&ix_sidebars_by_val_type::mEntryList, ix_conference_type>(IX_STR_ENTRY),
 };
 constexpr XmlField kConferenceFields[] = {
-    {XmlFieldKind::Text, IX_STR_ENTITY, XmlTextMember(&ix_conference_type::mEntity)},
-    {XmlFieldKind::Unsigned, IX_STR_VERSION, XmlUnsignedMember(&ix_conference_type::mVersion)},
-    {XmlFieldKind::Child, IX_STR_CONFERENCE_DESCRIPTION, IX_CHILD_MEMBER(ix_conference_type, mConferenceDescription)},
-    {XmlFieldKind::Child, IX_STR_HOST_INFO, IX_CHILD_MEMBER(ix_conference_type, mHostInfo)},
-    {XmlFieldKind::Child, IX_STR_CONFERENCE_STATE, IX_CHILD_MEMBER(ix_conference_type, mConferenceState)},
-    {XmlFieldKind::Child, IX_STR_USERS, IX_CHILD_MEMBER(ix_conference_type, mUsers)},
-    {XmlFieldKind::Child, IX_STR_SIDEBARS_BY_REF, IX_CHILD_MEMBER(ix_conference_type, mSidebarsByRef)},
-    {XmlFieldKind::Child, IX_STR_SIDEBARS_BY_VAL, IX_CHILD_MEMBER(ix_conference_type, mSidebarsByVal)},
+    Dropped(IX_STR_XMLNS),
+    Attribute<&ix_conference_type::mEntity>(IX_STR_ENTITY),
+    Attribute<&ix_conference_type::mVersion>(IX_STR_VERSION),
+    Child<&ix_conference_type::mConferenceDescription>(IX_STR_CONFERENCE_DESCRIPTION),
+    Child<&ix_conference_type::mHostInfo>(IX_STR_HOST_INFO),
+    Child<&ix_conference_type::mConferenceState>(IX_STR_CONFERENCE_STATE),
+    Child<&ix_conference_type::mUsers>(IX_STR_USERS),
+    Child<&ix_conference_type::mSidebarsByRef>(IX_STR_SIDEBARS_BY_REF),
+    Child<&ix_conference_type::mSidebarsByVal>(IX_STR_SIDEBARS_BY_VAL),
 };
+
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLConferenceInfoDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in ConferenceInfoUnMarshaller::UnMarshall"});
+
+constexpr XmlWriterRow kWriters[] = {
+    {&ix_conference_type::kClass,
+     [](XmlFamilyMarshaller& self, XMLElement* root) -> int {
+         return static_cast<Conference_infoMarshall&>(self).AddConferenceInfoElementToXml(
+             ixAs<ix_conference_type>(root), IX_STR_CONFERENCE_INFO);
+     }},
+};
+
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info =
+        ixMarshallerInfo(kSource, kWriters, IX_MARSHALL_TEXTS("Conference_infoMarshall", "mConferenceInfoXml"));
+    info.entersFirst = true;
+    // Required: the text is spelt like this.
+    info.noRoot = {3, "<XML Module>: Conference_infoMarshall :: Marshall: Receiven NULL Object"};
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
+
+/// A conference deeper than this is past the capacity of the text, whatever it holds.
+constexpr int kMostDepth = IxXMLDocGenerator::kCapacity / sizeof "<sidebars-by-val><entry entity=\"\">";
+
+e_XmlStrRef BooleanName(int flag) { return flag == 1 ? IX_STR_TRUE : IX_STR_FALSE; }
+
+template <class Type, std::size_t count>
+constexpr XmlClass Container(const char* name, const char* type, const XmlField (&fields)[count]) {
+    return ixDerived(ixClass<Type>(name, type, kSource, fields), ix_conference_containerType::kClass);
+}
+
+template <class Type, std::size_t count>
+constexpr XmlClass Stateful(const char* name, const char* type, const XmlField (&fields)[count]) {
+    return ixDerived(ixClass<Type>(name, type, kSource, fields), ix_conference_statefulType::kClass);
+}
 
 }  // namespace
 
-/// The field table of a class, and the end of its objects, which follows from it.
-#define IX_CONFERENCE_FIELDS(type, base, fields)                                      \
-    static constexpr XmlFieldTable type##_table = {&base, fields, std::size(fields)}; \
-    type::~type() { XmlFields::Release(this, type##_table); }                         \
-    const XmlFieldTable* type::FieldTable() const { return &type##_table; }
+constexpr XmlClass ix_conference_containerType::kClass =
+    ixClass<ix_conference_containerType>("", "", kSource, kContainerFields);
+constexpr XmlClass ix_conference_statefulType::kClass = ixDerived(
+    ixClass<ix_conference_statefulType>("", "", kSource, kStatefulFields), ix_conference_containerType::kClass);
 
-IX_CONFERENCE_FIELDS(ix_execution_type, kContainerTable, kExecutionFields)
-IX_CONFERENCE_FIELDS(ix_uri_type, kContainerTable, kUriFields)
-IX_CONFERENCE_FIELDS(ix_uris_type, kStatefulTable, kUrisFields)
-IX_CONFERENCE_FIELDS(ix_conference_medium_type, kContainerTable, kMediumFields)
-IX_CONFERENCE_FIELDS(ix_conference_media_type, kContainerTable, kConferenceMediaFields)
-IX_CONFERENCE_FIELDS(ix_conference_description_type, kContainerTable, kDescriptionFields)
-IX_CONFERENCE_FIELDS(ix_host_type, kContainerTable, kHostFields)
-IX_CONFERENCE_FIELDS(ix_conference_state_type, kContainerTable, kConferenceStateFields)
-IX_CONFERENCE_FIELDS(ix_user_roles_type, kContainerTable, kRolesFields)
-IX_CONFERENCE_FIELDS(ix_sip_dialog_id_type, kContainerTable, kSipFields)
-IX_CONFERENCE_FIELDS(ix_call_type, kContainerTable, kCallFields)
-IX_CONFERENCE_FIELDS(ix_media_type, kContainerTable, kMediaFields)
-IX_CONFERENCE_FIELDS(ix_endpoint_type, kStatefulTable, kEndpointFields)
-IX_CONFERENCE_FIELDS(ix_user_type, kStatefulTable, kUserFields)
-IX_CONFERENCE_FIELDS(ix_users_type, kStatefulTable, kUsersFields)
-IX_CONFERENCE_FIELDS(ix_sidebars_by_val_type, kStatefulTable, kSidebarsFields)
-IX_CONFERENCE_FIELDS(ix_conference_type, kStatefulTable, kConferenceFields)
-
-ix_conference_containerType::~ix_conference_containerType() { XmlFields::Release(this, kContainerTable); }
-
-const XmlFieldTable* ix_conference_containerType::FieldTable() const { return &kContainerTable; }
-
-int ix_conference_containerType::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* pair) {
-    ix_AttributeValuePair* const extra = ixAsPair(pair);
-    return extra != nullptr ? addExtraAttribute(extra) : 0;
-}
-
-int ix_conference_containerType::addExtraAttribute(ix_AttributeValuePair* pair) {
-    return ixAppend(mExtraAttributeList, pair, kSourceFile, __LINE__);
-}
-
-const XmlFieldTable* ix_conference_statefulType::FieldTable() const { return &kStatefulTable; }
-
-int ix_conference_statefulType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_STATE)) return setStateValue(kStates.IndexOfPrefix(value));
-    return ix_conference_containerType::ProcessUnMarshallAttribute(attribute, value, pair);
-}
-
-int ix_execution_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_WHEN)) return setWhenValue(text);
-    if (ixEndNameIs(name, IX_STR_REASON)) return setReasonValue(text);
-    if (ixEndNameIs(name, IX_STR_BY)) return setByValue(text);
-    return Unknown(child);
-}
-
-int ix_uri_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_URI)) return setUriValue(text);
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixEndNameIs(name, IX_STR_PURPOSE)) return setPurposeValue(text);
-    if (ixNameIs(name, IX_STR_MODIFIED)) return ixTakeChild(mModified, child);
-    return Unknown(child);
-}
-
-int ix_uris_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_ENTRY)) return ixTakeInto<ix_uri_type>(mEntryList, child, kSourceFile, __LINE__);
-    return Unknown(child);
-}
-
-int ix_uris_type::addEntry(ix_uri_type* entry) { return ixAppend(mEntryList, entry, kSourceFile, __LINE__); }
-
-int ix_conference_medium_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixEndNameIs(name, IX_STR_TYPE)) return setTypeValue(text);
-    if (ixEndNameIs(name, IX_STR_STATUS)) return setStatusValue(kMediaStatus.IndexOfPrefix(text));
-    return Unknown(child);
-}
-
-int ix_conference_medium_type::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_LABEL)) return setLabelValue(value);
-    return ix_conference_containerType::ProcessUnMarshallAttribute(attribute, value, pair);
-}
-
-int ix_conference_media_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_ENTRY))
-        return ixTakeInto<ix_conference_medium_type>(mEntryList, child, kSourceFile, __LINE__);
-    return Unknown(child);
-}
-
-int ix_conference_media_type::addEntry(ix_conference_medium_type* entry) {
-    return ixAppend(mEntryList, entry, kSourceFile, __LINE__);
-}
-
-int ix_conference_description_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixEndNameIs(name, IX_STR_SUBJECT)) return setSubjectValue(text);
-    if (ixEndNameIs(name, IX_STR_FREE_TEXT)) return setFreeTextValue(text);
-    if (ixEndNameIs(name, IX_STR_KEYWORDS)) return SplitWords(mKeywords, text);
-    if (ixNameIs(name, IX_STR_CONF_URIS)) return ixTakeChild(mConfUris, child);
-    if (ixNameIs(name, IX_STR_SERVICE_URIS)) return ixTakeChild(mServiceUris, child);
-    if (ixEndNameIs(name, IX_STR_MAXIMUM_USER_COUNT)) return setMaximumUserCountValue(ixToUnsigned(text));
-    if (ixNameIs(name, IX_STR_AVAILABLE_MEDIA)) return ixTakeChild(mAvailableMedia, child);
-    return Unknown(child);
-}
-
-int ix_conference_description_type::addKeyword(const char* keyword) { return AppendWord(mKeywords, keyword); }
-
-int ix_host_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixEndNameIs(name, IX_STR_WEB_PAGE)) return setWebPageValue(text);
-    if (ixNameIs(name, IX_STR_URIS)) return ixTakeChild(mUris, child);
-    return Unknown(child);
-}
-
-int ix_conference_state_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_USER_COUNT)) return setUserCountValue(ixToUnsigned(text));
-    if (ixEndNameIs(name, IX_STR_ACTIVE)) return setActiveValue(ixNameIs(text, IX_STR_TRUE) ? 1 : 0);
-    if (ixEndNameIs(name, IX_STR_LOCKED)) return setLockedValue(ixNameIs(text, IX_STR_TRUE) ? 1 : 0);
-    return Unknown(child);
-}
-
-int ix_user_roles_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_ENTRY)) return addEntry(text);
-    return Unknown(child);
-}
-
-int ix_user_roles_type::addEntry(const char* role) { return AppendWord(mEntryList, role); }
-
-int ix_sip_dialog_id_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixEndNameIs(name, IX_STR_CALL_ID)) return setCallIdValue(text);
-    if (ixEndNameIs(name, IX_STR_FROM_TAG)) return setFromTagValue(text);
-    if (ixEndNameIs(name, IX_STR_TO_TAG)) return setToTagValue(text);
-    return Unknown(child);
-}
-
-int ix_call_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_SIP)) return ixTakeChild(mSip, child);
-    return Unknown(child);
-}
-
-int ix_media_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixEndNameIs(name, IX_STR_TYPE)) return setTypeValue(text);
-    if (ixEndNameIs(name, IX_STR_LABEL)) return setLabelValue(text);
-    if (ixEndNameIs(name, IX_STR_SRC_ID)) return setSrcIdValue(text);
-    if (ixEndNameIs(name, IX_STR_STATUS)) return setStatusValue(kMediaStatus.IndexOfPrefix(text));
-    return Unknown(child);
-}
-
-int ix_media_type::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_ID)) return setIdValue(value);
-    return ix_conference_containerType::ProcessUnMarshallAttribute(attribute, value, pair);
-}
-
-int ix_endpoint_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixNameIs(name, IX_STR_REFERRED)) return ixTakeChild(mReferred, child);
-    if (ixEndNameIs(name, IX_STR_STATUS)) return setStatusValue(kEndpointStatus.IndexOfPrefix(text));
-    if (ixEndNameIs(name, IX_STR_JOINING_METHOD)) return setJoiningMethodValue(kJoiningMethods.IndexOfPrefix(text));
-    if (ixNameIs(name, IX_STR_JOINING_INFO)) return ixTakeChild(mJoiningInfo, child);
-    if (ixEndNameIs(name, IX_STR_DISCONNECTION_METHOD)) {
-        return setDisconnectionMethodValue(kDisconnectionMethods.IndexOfPrefix(text));
-    }
-    if (ixNameIs(name, IX_STR_DISCONNECTION_INFO)) return ixTakeChild(mDisconnectionInfo, child);
-    if (ixNameIs(name, IX_STR_MEDIA)) return ixTakeInto<ix_media_type>(mMediaList, child, kSourceFile, __LINE__);
-    if (ixNameIs(name, IX_STR_CALL_INFO)) return ixTakeChild(mCallInfo, child);
-    return Unknown(child);
-}
-
-int ix_endpoint_type::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_ENTITY)) return setEntityValue(value);
-    return ix_conference_statefulType::ProcessUnMarshallAttribute(attribute, value, pair);
-}
-
-int ix_endpoint_type::addMedia(ix_media_type* media) { return ixAppend(mMediaList, media, kSourceFile, __LINE__); }
-
-int ix_user_type::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_DISPLAY_TEXT)) return setDisplayTextValue(text);
-    if (ixNameIs(name, IX_STR_ASSOCIATED_AORS)) return ixTakeChild(mAssociatedAors, child);
-    if (ixNameIs(name, IX_STR_ROLES)) return ixTakeChild(mRoles, child);
-    if (ixEndNameIs(name, IX_STR_LANGUAGES)) return SplitWords(mLanguages, text);
-    if (ixEndNameIs(name, IX_STR_CASCADED_FOCUS)) return setCascadedFocusValue(text);
-    if (ixNameIs(name, IX_STR_ENDPOINT))
-        return ixTakeInto<ix_endpoint_type>(mEndpointList, child, kSourceFile, __LINE__);
-    return Unknown(child);
-}
-
-int ix_user_type::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_ENTITY)) return setEntityValue(value);
-    return ix_conference_statefulType::ProcessUnMarshallAttribute(attribute, value, pair);
-}
-
-int ix_user_type::addLanguage(const char* language) { return AppendWord(mLanguages, language); }
-
-int ix_user_type::addEndpoint(ix_endpoint_type* endpoint) {
-    return ixAppend(mEndpointList, endpoint, kSourceFile, __LINE__);
-}
-
-int ix_users_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_USER)) return ixTakeInto<ix_user_type>(mUserList, child, kSourceFile, __LINE__);
-    return Unknown(child);
-}
-
-int ix_users_type::addUser(ix_user_type* user) { return ixAppend(mUserList, user, kSourceFile, __LINE__); }
-
-int ix_sidebars_by_val_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_ENTRY)) return ixTakeInto<ix_conference_type>(mEntryList, child, kSourceFile, __LINE__);
-    return Unknown(child);
-}
-
-int ix_sidebars_by_val_type::addEntry(ix_conference_type* entry) {
-    return ixAppend(mEntryList, entry, kSourceFile, __LINE__);
-}
-
-int ix_conference_type::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_CONFERENCE_DESCRIPTION)) return ixTakeChild(mConferenceDescription, child);
-    if (ixNameIs(name, IX_STR_HOST_INFO)) return ixTakeChild(mHostInfo, child);
-    if (ixNameIs(name, IX_STR_CONFERENCE_STATE)) return ixTakeChild(mConferenceState, child);
-    if (ixNameIs(name, IX_STR_USERS)) return ixTakeChild(mUsers, child);
-    if (ixNameIs(name, IX_STR_SIDEBARS_BY_REF)) return ixTakeChild(mSidebarsByRef, child);
-    if (ixNameIs(name, IX_STR_SIDEBARS_BY_VAL)) return ixTakeChild(mSidebarsByVal, child);
-    return Unknown(child);
-}
-
-int ix_conference_type::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_ENTITY)) return setEntityValue(value);
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_VERSION)) return setVersionValue(ixToUnsigned(value));
-    return ix_conference_statefulType::ProcessUnMarshallAttribute(attribute, value, pair);
-}
+// Required: the type names are spelt like this, all but two of them.
+constexpr XmlClass ix_execution_type::kClass =
+    Container<ix_execution_type>("ix_execution_type", "ConferneceInfo:ExecutionType", kExecutionFields);
+constexpr XmlClass ix_uri_type::kClass = Container<ix_uri_type>("ix_uri_type", "ConferneceInfo:UriType", kUriFields);
+constexpr XmlClass ix_uris_type::kClass =
+    Stateful<ix_uris_type>("ix_uris_type", "ConferneceInfo:UrisType", kUrisFields);
+constexpr XmlClass ix_conference_medium_type::kClass = Container<ix_conference_medium_type>(
+    "ix_conference_medium_type", "ConferneceInfo:ConferenceMediumType", kMediumFields);
+constexpr XmlClass ix_conference_media_type::kClass = Container<ix_conference_media_type>(
+    "ix_conference_media_type", "ConferneceInfo:ConferenceMediaType", kConferenceMediaFields);
+constexpr XmlClass ix_conference_description_type::kClass = Container<ix_conference_description_type>(
+    "ix_conference_description_type", "ConferneceInfo:ConferenceDescriptionType", kDescriptionFields);
+constexpr XmlClass ix_host_type::kClass =
+    Container<ix_host_type>("ix_host_type", "ConferneceInfo:HostType", kHostFields);
+constexpr XmlClass ix_conference_state_type::kClass = Container<ix_conference_state_type>(
+    "ix_conference_state_type", "ConferneceInfo:ConferenceStateType", kConferenceStateFields);
+constexpr XmlClass ix_user_roles_type::kClass =
+    Container<ix_user_roles_type>("ix_user_roles_type", "ConferenceInfo:UserRolesType", kRolesFields);
+constexpr XmlClass ix_sip_dialog_id_type::kClass =
+    Container<ix_sip_dialog_id_type>("ix_sip_dialog_id_type", "ConferenceInfo:SipDialogIdType", kSipFields);
+constexpr XmlClass ix_call_type::kClass =
+    Container<ix_call_type>("ix_call_type", "ConferneceInfo:CallType", kCallFields);
+constexpr XmlClass ix_media_type::kClass =
+    Container<ix_media_type>("ix_media_type", "ConferneceInfo:MediaType", kMediaFields);
+constexpr XmlClass ix_endpoint_type::kClass =
+    Stateful<ix_endpoint_type>("ix_endpoint_type", "ConferneceInfo:EndpointType", kEndpointFields);
+constexpr XmlClass ix_user_type::kClass =
+    Stateful<ix_user_type>("ix_user_type", "ConferneceInfo:UserType", kUserFields);
+constexpr XmlClass ix_users_type::kClass =
+    Stateful<ix_users_type>("ix_users_type", "ConferneceInfo:UsersType", kUsersFields);
+constexpr XmlClass ix_sidebars_by_val_type::kClass =
+    Stateful<ix_sidebars_by_val_type>("ix_sidebars_by_val_type", "ConferneceInfo:SidebarsByValType", kSidebarsFields);
+constexpr XmlClass ix_conference_type::kClass =
+    Stateful<ix_conference_type>("ix_conference_type", "ConferneceInfo:ConferenceType", kConferenceFields);
 
 XMLElement* ConferenceInfoDataBinder::CreateRootElement() { return CreateConferenceInfoType(); }
+ix_conference_type* ConferenceInfoDataBinder::CreateConferenceInfoType() { return ixNew<ix_conference_type>(kSource); }
+ix_user_roles_type* ConferenceInfoDataBinder::CreateUserRolesType() { return ixNew<ix_user_roles_type>(kSource); }
+ix_sip_dialog_id_type* ConferenceInfoDataBinder::CreateSIPDialogIDType() {
+    return ixNew<ix_sip_dialog_id_type>(kSource);
+}
+IxSingleElementList* ConferenceInfoDataBinder::CreateUserLanguagesType() { return ixNew<IxSingleElementList>(kSource); }
+ix_media_type* ConferenceInfoDataBinder::CreateMediaType() { return ixNew<ix_media_type>(kSource); }
+IxSingleElementList* ConferenceInfoDataBinder::CreateKeywordsType() { return ixNew<IxSingleElementList>(kSource); }
+ix_execution_type* ConferenceInfoDataBinder::CreateExecutionType() { return ixNew<ix_execution_type>(kSource); }
+ix_uri_type* ConferenceInfoDataBinder::CreateURIType() { return ixNew<ix_uri_type>(kSource); }
+ix_uris_type* ConferenceInfoDataBinder::CreateURIsType() { return ixNew<ix_uris_type>(kSource); }
+ix_conference_medium_type* ConferenceInfoDataBinder::CreateConferenceMediumType() {
+    return ixNew<ix_conference_medium_type>(kSource);
+}
+ix_conference_media_type* ConferenceInfoDataBinder::CreateConferenceMedaiType() {
+    return ixNew<ix_conference_media_type>(kSource);
+}
+ix_conference_description_type* ConferenceInfoDataBinder::CreateConferenceDescriptionType() {
+    return ixNew<ix_conference_description_type>(kSource);
+}
+ix_call_type* ConferenceInfoDataBinder::CreateCallType() { return ixNew<ix_call_type>(kSource); }
+ix_endpoint_type* ConferenceInfoDataBinder::CreateEndPointType() { return ixNew<ix_endpoint_type>(kSource); }
+ix_user_type* ConferenceInfoDataBinder::CreateUserType() { return ixNew<ix_user_type>(kSource); }
+ix_users_type* ConferenceInfoDataBinder::CreateUsersType() { return ixNew<ix_users_type>(kSource); }
+ix_host_type* ConferenceInfoDataBinder::CreateHostType() { return ixNew<ix_host_type>(kSource); }
+ix_conference_state_type* ConferenceInfoDataBinder::CreateConferenceStateType() {
+    return ixNew<ix_conference_state_type>(kSource);
+}
+ix_sidebars_by_val_type* ConferenceInfoDataBinder::CreateSideBarsByValueType() {
+    return ixNew<ix_sidebars_by_val_type>(kSource);
+}
 
-/// A creator of the binder factory.
-#define IX_CONFERENCE_CREATOR(operation, type) \
-    type* ConferenceInfoDataBinder::operation() { return IX_NEW(type); }
+ConferenceInfoUnMarshaller::ConferenceInfoUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
 
-IX_CONFERENCE_CREATOR(CreateConferenceInfoType, ix_conference_type)
-IX_CONFERENCE_CREATOR(CreateUserRolesType, ix_user_roles_type)
-IX_CONFERENCE_CREATOR(CreateSIPDialogIDType, ix_sip_dialog_id_type)
-IX_CONFERENCE_CREATOR(CreateUserLanguagesType, IxSingleElementList)
-IX_CONFERENCE_CREATOR(CreateMediaType, ix_media_type)
-IX_CONFERENCE_CREATOR(CreateKeywordsType, IxSingleElementList)
-IX_CONFERENCE_CREATOR(CreateExecutionType, ix_execution_type)
-IX_CONFERENCE_CREATOR(CreateURIType, ix_uri_type)
-IX_CONFERENCE_CREATOR(CreateURIsType, ix_uris_type)
-IX_CONFERENCE_CREATOR(CreateConferenceMediumType, ix_conference_medium_type)
-IX_CONFERENCE_CREATOR(CreateConferenceMedaiType, ix_conference_media_type)
-IX_CONFERENCE_CREATOR(CreateConferenceDescriptionType, ix_conference_description_type)
-IX_CONFERENCE_CREATOR(CreateCallType, ix_call_type)
-IX_CONFERENCE_CREATOR(CreateEndPointType, ix_endpoint_type)
-IX_CONFERENCE_CREATOR(CreateUserType, ix_user_type)
-IX_CONFERENCE_CREATOR(CreateUsersType, ix_users_type)
-IX_CONFERENCE_CREATOR(CreateHostType, ix_host_type)
-IX_CONFERENCE_CREATOR(CreateConferenceStateType, ix_conference_state_type)
-IX_CONFERENCE_CREATOR(CreateSideBarsByValueType, ix_sidebars_by_val_type)
+Conference_infoMarshall::Conference_infoMarshall() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
-Conference_infoMarshall::Conference_infoMarshall() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
+ConferenceInfoContext::ConferenceInfoContext()
+    : XmlFamilyContext(
+          ixFamily<Conference_infoMarshall, ConferenceInfoUnMarshaller, ConferenceInfoDataBinder>(kSource)) {}
 
 int Conference_infoMarshall::AddConferenceInfoElementToXml(ix_conference_type* conference, e_XmlStrRef name) {
-    ixLog(kSourceFile, kAddConferenceInfo);
-    if (conference == nullptr) return 0;
+    if (!Enter(conference, {2, "<XML Module>: AddConferenceInfoElementToXml"})) return 0;
     if (conference->mEntity == nullptr) {
-        ixLog(kSourceFile, kNoEntity);
-        return 0;
+        return Fail({4, "<XML Module>: AddConferenceInfoElementToXml entity attribute is mandatory"});
     }
     // Where nothing more can be written, there is no need to go deeper.
-    if (m_generator.Text() == nullptr || m_generator.IsTruncated()) return 1;
-    StartElementOpen(name);
-    if (name == IX_STR_CONFERENCE_INFO) {
-        AddAttribute(IX_STR_XMLNS,
-                     ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_CONFERENCE_INFO),
-                     Attribute::Open);
-    }
-    const char* const state = kStates.TextOf(conference->mState);
-    if (state != nullptr) AddAttribute(IX_STR_STATE, state, Attribute::Open);
-    if (conference->mVersion != 0) AddDecimalAttribute(IX_STR_VERSION, conference->mVersion, Attribute::Open);
-    AddAttributeList(conference->mExtraAttributeList);
-    AddAttribute(IX_STR_ENTITY, conference->mEntity, Attribute::Closing);
-    if (conference->mConferenceDescription != nullptr &&
-        AddConferenceDescriptionElementToXml(conference->mConferenceDescription) == 0) {
+    if (m_generator.IsTruncated() || m_depth >= kMostDepth) return 1;
+    ++m_depth;
+    const int result = AddConference(*conference, name);
+    --m_depth;
+    return result;
+}
+
+int Conference_infoMarshall::AddConference(const ix_conference_type& conference, e_XmlStrRef name) {
+    XmlStartTag tag(*this, name);
+    if (name == IX_STR_CONFERENCE_INFO) tag.Add(IX_STR_XMLNS, IX_STR_URN_IETF_PARAMS_XML_NS_CONFERENCE_INFO);
+    tag.Add(IX_STR_STATE, kStates.TextOf(conference.mState));
+    if (conference.mVersion != 0) tag.AddDecimal(IX_STR_VERSION, conference.mVersion);
+    tag.AddAll(conference.mExtraAttributeList);
+    tag.Add(IX_STR_ENTITY, conference.mEntity);
+    tag.Close();
+    if (conference.mConferenceDescription != nullptr &&
+        AddConferenceDescriptionElementToXml(conference.mConferenceDescription) == 0) {
         return 0;
     }
-    if (conference->mHostInfo != nullptr && AddHostInfoElementToXml(conference->mHostInfo) == 0) return 0;
-    if (conference->mConferenceState != nullptr) AddConferenceStateElementToXml(conference->mConferenceState);
-    if (conference->mUsers != nullptr && AddIUsersElementToXml(conference->mUsers) == 0) return 0;
-    if (conference->mSidebarsByRef != nullptr &&
-        AddUrisTypeElementToXml(conference->mSidebarsByRef, IX_STR_SIDEBARS_BY_REF) == 0) {
+    if (conference.mHostInfo != nullptr && AddHostInfoElementToXml(conference.mHostInfo) == 0) return 0;
+    if (conference.mConferenceState != nullptr) AddConferenceStateElementToXml(conference.mConferenceState);
+    if (conference.mUsers != nullptr && AddIUsersElementToXml(conference.mUsers) == 0) return 0;
+    if (conference.mSidebarsByRef != nullptr &&
+        AddUrisTypeElementToXml(conference.mSidebarsByRef, IX_STR_SIDEBARS_BY_REF) == 0) {
         return 0;
     }
-    if (conference->mSidebarsByVal != nullptr) AddSidebars(*conference->mSidebarsByVal);
+    if (conference.mSidebarsByVal != nullptr) AddSidebars(*conference.mSidebarsByVal);
     EndElement(name);
     return 1;
 }
 
-/// A start tag with the attributes that there are: state, entity, extra attributes.
-void Conference_infoMarshall::StartContainer(e_XmlStrRef name, const ix_conference_containerType& element,
-                                             const char* state, const char* entity) {
-    const bool hasExtras = LastAttribute(element.mExtraAttributeList) != nullptr;
-    if (state == nullptr && entity == nullptr && !hasExtras) {
-        StartElement(name);
-        return;
-    }
-    StartElementOpen(name);
-    const Attribute last = hasExtras ? Attribute::Open : Attribute::Closing;
-    if (state != nullptr) AddAttribute(IX_STR_STATE, state, entity != nullptr ? Attribute::Open : last);
-    if (entity != nullptr) AddAttribute(IX_STR_ENTITY, entity, last);
-    AddAttributeList(element.mExtraAttributeList, Attribute::Closing);
+/// A start tag with the attributes that there are.
+void Conference_infoMarshall::StartContainer(e_XmlStrRef name, const ix_conference_containerType& element, int state,
+                                             const char* entity) {
+    XmlStartTag tag(*this, name);
+    tag.Add(IX_STR_STATE, kStates.TextOf(state));
+    tag.Add(IX_STR_ENTITY, entity);
+    tag.AddAll(element.mExtraAttributeList);
+    tag.Close();
+}
+
+void Conference_infoMarshall::StartContainer(e_XmlStrRef name, const ix_conference_containerType& element) {
+    StartContainer(name, element, IX_CONFERENCE_STATE_NOT_SET, nullptr);
 }
 
 void Conference_infoMarshall::AddSidebars(const ix_sidebars_by_val_type& sidebars) {
-    StartContainer(IX_STR_SIDEBARS_BY_VAL, sidebars, kStates.TextOf(sidebars.mState));
+    StartContainer(IX_STR_SIDEBARS_BY_VAL, sidebars, sidebars.mState, nullptr);
     int index = 0;
-    for (auto* const sidebar : XmlEntries<ix_conference_type>(sidebars.mEntryList)) {
+    for (auto* const sidebar : XmlEntries<XMLElement>(sidebars.mEntryList)) {
         const IxXMLDocGenerator::Place before = m_generator.Here();
-        if (sidebar != nullptr && AddConferenceInfoElementToXml(sidebar, IX_STR_ENTRY) == 0) {
-            ixLog(kSourceFile, kSidebarFailed, index);
+        if (AddConferenceInfoElementToXml(ixAs<ix_conference_type>(sidebar), IX_STR_ENTRY) == 0) {
+            Log({2, "<XML Module>: Add Sidebars_by_val ElementToXml fail @ tempNum: %d "}, index);
             m_generator.CutBack(before);
         }
         ++index;
@@ -551,8 +322,7 @@ void Conference_infoMarshall::AddSidebars(const ix_sidebars_by_val_type& sidebar
 }
 
 int Conference_infoMarshall::AddConferenceDescriptionElementToXml(ix_conference_description_type* description) {
-    ixLog(kSourceFile, kAddDescription);
-    if (description == nullptr) return 0;
+    if (!Enter(description, {2, "<XML Module>: AddConferenceDescriptionElementToXml"})) return 0;
     StartContainer(IX_STR_CONFERENCE_DESCRIPTION, *description);
     AddTextElement(IX_STR_DISPLAY_TEXT, description->mDisplayText);
     AddTextElement(IX_STR_SUBJECT, description->mSubject);
@@ -577,12 +347,11 @@ int Conference_infoMarshall::AddConferenceDescriptionElementToXml(ix_conference_
 }
 
 int Conference_infoMarshall::AddConferenceMediaTypeElementToXml(ix_conference_media_type* media) {
-    ixLog(kSourceFile, kAddConferenceMedia);
-    if (media == nullptr) return 0;
+    if (!Enter(media, {2, "<XML Module>: AddConferenceMediaTypeElementToXml"})) return 0;
     StartContainer(IX_STR_AVAILABLE_MEDIA, *media);
     int index = 0;
-    for (auto* const medium : XmlEntries<ix_conference_medium_type>(media->mEntryList)) {
-        if (medium != nullptr && AddMediumEntry(medium, index) == 0) return 0;
+    for (auto* const medium : XmlEntries<XMLElement>(media->mEntryList)) {
+        if (AddMediumEntry(ixAs<ix_conference_medium_type>(medium), index) == 0) return 0;
         ++index;
     }
     EndElement(IX_STR_AVAILABLE_MEDIA);
@@ -590,24 +359,25 @@ int Conference_infoMarshall::AddConferenceMediaTypeElementToXml(ix_conference_me
 }
 
 int Conference_infoMarshall::AddMediumEntry(ix_conference_medium_type* medium, int index) {
-    if (medium->mLabel == nullptr) {
-        ixLog(kSourceFile, kNoLabel, index);
-        return 0;
+    if (medium != nullptr) {
+        if (medium->mLabel == nullptr) {
+            return Fail({4, "<XML Module>: AddConferenceMediaTypeElementToXml: label attribute mandatory tempNum:%d"},
+                        index);
+        }
+        XmlStartTag tag(*this, IX_STR_ENTRY);
+        tag.AddAll(medium->mExtraAttributeList);
+        tag.Add(IX_STR_LABEL, medium->mLabel);
+        tag.Close();
     }
-    StartElementOpen(IX_STR_ENTRY);
-    AddAttributeList(medium->mExtraAttributeList);
-    AddAttribute(IX_STR_LABEL, medium->mLabel, Attribute::Closing);
     if (AddConferenceMediumTypeElementToXml(medium) == 0) {
-        ixLog(kSourceFile, kMediumFailed, index);
-        return 0;
+        return Fail({2, "<XML Module>: AddConferenceMediaTypeElementToXml tempNum: %d "}, index);
     }
     EndElement(IX_STR_ENTRY);
     return 1;
 }
 
 int Conference_infoMarshall::AddConferenceMediumTypeElementToXml(ix_conference_medium_type* medium) {
-    ixLog(kSourceFile, kAddMedium);
-    if (medium == nullptr) return 0;
+    if (!Enter(medium, {2, "<XML Module>: AddConferenceMediumTypeElementToXml"})) return 0;
     AddTextElement(IX_STR_DISPLAY_TEXT, medium->mDisplayText);
     AddTextElement(IX_STR_TYPE, medium->mType);
     AddTextElement(IX_STR_STATUS, kMediaStatus.TextOf(medium->mStatus));
@@ -615,8 +385,7 @@ int Conference_infoMarshall::AddConferenceMediumTypeElementToXml(ix_conference_m
 }
 
 int Conference_infoMarshall::AddHostInfoElementToXml(ix_host_type* host) {
-    ixLog(kSourceFile, kAddHostInfo);
-    if (host == nullptr) return 0;
+    if (!Enter(host, {2, "<XML Module>: AddHostInfoElementToXml"})) return 0;
     StartContainer(IX_STR_HOST_INFO, *host);
     AddTextElement(IX_STR_DISPLAY_TEXT, host->mDisplayText);
     AddTextElement(IX_STR_WEB_PAGE, host->mWebPage);
@@ -626,22 +395,20 @@ int Conference_infoMarshall::AddHostInfoElementToXml(ix_host_type* host) {
 }
 
 int Conference_infoMarshall::AddConferenceStateElementToXml(ix_conference_state_type* state) {
-    ixLog(kSourceFile, kAddState);
-    if (state == nullptr) return 0;
+    if (!Enter(state, {2, "<XML Module>: AddConferenceStateElementToXml"})) return 0;
     StartContainer(IX_STR_CONFERENCE_STATE, *state);
     if (state->mUserCount != 0) AddDecimalElement(IX_STR_USER_COUNT, state->mUserCount);
-    AddTextElement(IX_STR_ACTIVE, BooleanText(state->mActive));
-    AddTextElement(IX_STR_LOCKED, BooleanText(state->mLocked));
+    AddTextElement(IX_STR_ACTIVE, ixString(BooleanName(state->mActive)));
+    AddTextElement(IX_STR_LOCKED, ixString(BooleanName(state->mLocked)));
     EndElement(IX_STR_CONFERENCE_STATE);
     return 1;
 }
 
 int Conference_infoMarshall::AddIUsersElementToXml(ix_users_type* users) {
-    ixLog(kSourceFile, kAddUsers);
-    if (users == nullptr) return 0;
-    StartContainer(IX_STR_USERS, *users, kStates.TextOf(users->mState));
-    if (AddChildList(users->mUserList, IX_OLD_WRITER(Conference_infoMarshall, AddUserElementToXml, ix_user_type),
-                     kUserFailed) == 0) {
+    if (!Enter(users, {2, "<XML Module>: AddIUsersElementToXml"})) return 0;
+    StartContainer(IX_STR_USERS, *users, users->mState, nullptr);
+    if (AddChildren<&Conference_infoMarshall::AddUserElementToXml>(
+            users->mUserList, {2, "<XML Module>: AddIUsersElementToXml tempNum: %d "}) == 0) {
         return 0;
     }
     EndElement(IX_STR_USERS);
@@ -649,9 +416,8 @@ int Conference_infoMarshall::AddIUsersElementToXml(ix_users_type* users) {
 }
 
 int Conference_infoMarshall::AddUserElementToXml(ix_user_type* user) {
-    ixLog(kSourceFile, kAddUser);
-    if (user == nullptr) return 0;
-    StartContainer(IX_STR_USER, *user, kStates.TextOf(user->mState), user->mEntity);
+    if (!Enter(user, {2, "<XML Module>: AddUserElementToXkjml"})) return 0;
+    StartContainer(IX_STR_USER, *user, user->mState, user->mEntity);
     AddTextElement(IX_STR_DISPLAY_TEXT, user->mDisplayText);
     if (user->mAssociatedAors != nullptr &&
         AddUrisTypeElementToXml(user->mAssociatedAors, IX_STR_ASSOCIATED_AORS) == 0) {
@@ -660,8 +426,7 @@ int Conference_infoMarshall::AddUserElementToXml(ix_user_type* user) {
     if (user->mRoles != nullptr) AddRoles(*user->mRoles);
     AddWords(IX_STR_LANGUAGES, user->mLanguages);
     AddTextElement(IX_STR_CASCADED_FOCUS, user->mCascadedFocus);
-    if (AddChildList(user->mEndpointList,
-                     IX_OLD_WRITER(Conference_infoMarshall, AddEndPointElementToXml, ix_endpoint_type)) == 0) {
+    if (AddChildren<&Conference_infoMarshall::AddEndPointElementToXml>(user->mEndpointList) == 0) {
         return 0;
     }
     EndElement(IX_STR_USER);
@@ -680,7 +445,7 @@ void Conference_infoMarshall::AddWords(e_XmlStrRef name, const IxSingleElementLi
     for (const auto* const word : XmlEntries<const char>(words)) {
         if (word == nullptr) continue;
         if (started) {
-            m_generator.ixXmlSetData(ix_xml_common_array_definition::getStringName(IX_STR_BLANK));
+            m_generator.ixXmlSetData(ixString(IX_STR_BLANK));
         } else {
             StartElement(name);
             started = true;
@@ -691,9 +456,8 @@ void Conference_infoMarshall::AddWords(e_XmlStrRef name, const IxSingleElementLi
 }
 
 int Conference_infoMarshall::AddEndPointElementToXml(ix_endpoint_type* endpoint) {
-    ixLog(kSourceFile, kAddEndPoint);
-    if (endpoint == nullptr) return 0;
-    StartContainer(IX_STR_ENDPOINT, *endpoint, kStates.TextOf(endpoint->mState), endpoint->mEntity);
+    if (!Enter(endpoint, {2, "<XML Module>: AddEndPointElementToXml"})) return 0;
+    StartContainer(IX_STR_ENDPOINT, *endpoint, endpoint->mState, endpoint->mEntity);
     AddTextElement(IX_STR_DISPLAY_TEXT, endpoint->mDisplayText);
     AddExecution(IX_STR_REFERRED, endpoint->mReferred);
     AddTextElement(IX_STR_STATUS, kEndpointStatus.TextOf(endpoint->mStatus));
@@ -701,8 +465,8 @@ int Conference_infoMarshall::AddEndPointElementToXml(ix_endpoint_type* endpoint)
     AddExecution(IX_STR_JOINING_INFO, endpoint->mJoiningInfo);
     AddTextElement(IX_STR_DISCONNECTION_METHOD, kDisconnectionMethods.TextOf(endpoint->mDisconnectionMethod));
     AddExecution(IX_STR_DISCONNECTION_INFO, endpoint->mDisconnectionInfo);
-    if (AddChildList(endpoint->mMediaList, IX_OLD_WRITER(Conference_infoMarshall, AddMediaElementToXml, ix_media_type),
-                     kMediaFailed) == 0) {
+    if (AddChildren<&Conference_infoMarshall::AddMediaElementToXml>(
+            endpoint->mMediaList, {2, "<XML Module>: issue in Media Element number [tempNum: %d] "}) == 0) {
         return 0;
     }
     if (endpoint->mCallInfo != nullptr) AddCallInfo(*endpoint->mCallInfo);
@@ -724,15 +488,14 @@ void Conference_infoMarshall::AddCallInfo(const ix_call_type& info) {
 }
 
 int Conference_infoMarshall::AddMediaElementToXml(ix_media_type* media) {
-    ixLog(kSourceFile, kAddMedia);
-    if (media == nullptr) return 0;
+    if (!Enter(media, {2, "<XML Module>: AddMediaElementToXml"})) return 0;
     if (media->mId == nullptr) {
-        ixLog(kSourceFile, kNoId);
-        return 0;
+        return Fail({4, "<XML Module>: AddMediaElementToXml: id attribute mandatory "});
     }
-    StartElementOpen(IX_STR_MEDIA);
-    AddAttributeList(media->mExtraAttributeList);
-    AddAttribute(IX_STR_ID, media->mId, Attribute::Closing);
+    XmlStartTag tag(*this, IX_STR_MEDIA);
+    tag.AddAll(media->mExtraAttributeList);
+    tag.Add(IX_STR_ID, media->mId);
+    tag.Close();
     AddTextElement(IX_STR_DISPLAY_TEXT, media->mDisplayText);
     AddTextElement(IX_STR_TYPE, media->mType);
     AddTextElement(IX_STR_LABEL, media->mLabel);
@@ -743,8 +506,7 @@ int Conference_infoMarshall::AddMediaElementToXml(ix_media_type* media) {
 }
 
 int Conference_infoMarshall::AddSipElementToXml(ix_sip_dialog_id_type* sip) {
-    ixLog(kSourceFile, kAddSip);
-    if (sip == nullptr) return 0;
+    if (!Enter(sip, {2, "<XML Module>: AddSipElementToXml"})) return 0;
     StartContainer(IX_STR_SIP, *sip);
     AddTextElement(IX_STR_DISPLAY_TEXT, sip->mDisplayText);
     AddTextElement(IX_STR_CALL_ID, sip->mCallId);
@@ -755,8 +517,7 @@ int Conference_infoMarshall::AddSipElementToXml(ix_sip_dialog_id_type* sip) {
 }
 
 int Conference_infoMarshall::AddExecutionTypeElementToXml(ix_execution_type* execution) {
-    ixLog(kSourceFile, kAddExecution);
-    if (execution == nullptr) return 0;
+    if (!Enter(execution, {2, "<XML Module>: AddExecutionTypeElementToXml"})) return 0;
     AddTextElement(IX_STR_WHEN, execution->mWhen);
     AddTextElement(IX_STR_REASON, execution->mReason);
     AddTextElement(IX_STR_BY, execution->mBy);
@@ -764,10 +525,10 @@ int Conference_infoMarshall::AddExecutionTypeElementToXml(ix_execution_type* exe
 }
 
 int Conference_infoMarshall::AddUrisTypeElementToXml(ix_uris_type* uris, e_XmlStrRef name) {
-    ixLog(kSourceFile, kAddUris);
-    if (uris == nullptr) return 0;
-    StartContainer(name, *uris, kStates.TextOf(uris->mState));
-    if (AddChildList(uris->mEntryList, IX_OLD_WRITER(Conference_infoMarshall, AddUriEntry, ix_uri_type), kUriFailed) == 0) {
+    if (!Enter(uris, {2, "<XML Module>: AddUrisTypeElementToXml"})) return 0;
+    StartContainer(name, *uris, uris->mState, nullptr);
+    if (AddChildren<&Conference_infoMarshall::AddUriEntry>(
+            uris->mEntryList, {2, "<XML Module>: AddUrisTypeElementToXml tempNum: %d "}) == 0) {
         return 0;
     }
     EndElement(name);
@@ -775,15 +536,14 @@ int Conference_infoMarshall::AddUrisTypeElementToXml(ix_uris_type* uris, e_XmlSt
 }
 
 int Conference_infoMarshall::AddUriEntry(ix_uri_type* uri) {
-    StartContainer(IX_STR_ENTRY, *uri);
-    const int result = AddUriTypeElementToXml(uri);
+    if (uri != nullptr) StartContainer(IX_STR_ENTRY, *uri);
+    if (AddUriTypeElementToXml(uri) == 0) return 0;
     EndElement(IX_STR_ENTRY);
-    return result;
+    return 1;
 }
 
 int Conference_infoMarshall::AddUriTypeElementToXml(ix_uri_type* uri) {
-    ixLog(kSourceFile, kAddUri);
-    if (uri == nullptr) return 0;
+    if (!Enter(uri, {2, "<XML Module>: AddUriTypeElementToXml"})) return 0;
     AddTextElement(IX_STR_URI, uri->mUri);
     AddTextElement(IX_STR_DISPLAY_TEXT, uri->mDisplayText);
     AddTextElement(IX_STR_PURPOSE, uri->mPurpose);
@@ -791,15 +551,13 @@ int Conference_infoMarshall::AddUriTypeElementToXml(ix_uri_type* uri) {
     return 1;
 }
 
-IX_OLD_FAMILY(ConferenceInfoContext, Conference_infoMarshall, ConferenceInfoUnMarshaller, ConferenceInfoDataBinder);
-
 namespace {
 
 /// Appends a new object to the list of `owner`, or deletes it. @return it, or NULL without memory.
 template <class Owner, class Child>
 Child* AddNew(Owner* owner, int (Owner::*add)(Child*), Child* child) {
     if (owner != nullptr && child != nullptr && (owner->*add)(child) != 0) return child;
-    IX_DELETE(child);
+    ixDelete(child);
     return nullptr;
 }
 
@@ -837,6 +595,6 @@ char* TestConference_infoMarshall() {
     ix_conference_type* conference = binder.CreateConferenceInfoType();
     const bool complete = conference != nullptr && Assemble(binder, *conference) != 0;
     char* const text = complete ? __strdup(marshaller.Marshall(conference)) : nullptr;
-    IX_DELETE(conference);
+    ixDelete(conference);
     return text;
 }

@@ -153,13 +153,17 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     const XmlAttributePolicy policy = m_info.attributes;
     XMLElement* const receiver = policy == XmlAttributePolicy::Top ? Top() : m_started.own;
     if (receiver == nullptr) return 0;
-    const bool isOwn = row != nullptr && row->made == receiver->Class();
-    if (isOwn && XmlHooks::AttributeRow(*row->made, XmlName(attribute, std::strlen(attribute))) != nullptr) {
-        return value != nullptr ? KnownAttribute(*receiver, attribute, value) : 0;
-    }
+    if (Knows(row, *receiver, attribute)) return value != nullptr ? KnownAttribute(*receiver, attribute, value) : 0;
     if (policy == XmlAttributePolicy::OwnNoPairs) return 0;
     if (policy == XmlAttributePolicy::RootPairs && (row == nullptr || row->role != XmlContainerRow::Root)) return 0;
     return OtherAttribute(*receiver, attribute, value);
+}
+
+/// True when `receiver` stands for the element of `row` and has a row for `attribute`. Only a root drops attributes.
+bool XmlFamilyDecoder::Knows(const XmlContainerRow* row, const XMLElement& receiver, const char* attribute) {
+    if (row == nullptr || row->made != receiver.Class()) return false;
+    const XmlField* const known = XmlHooks::AttributeRow(*row->made, XmlName(attribute, std::strlen(attribute)));
+    return known != nullptr && (known->role != XmlRole::Dropped || row->role == XmlContainerRow::Root);
 }
 
 int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) { return 0; }

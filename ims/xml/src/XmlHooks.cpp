@@ -178,9 +178,10 @@ XmlAnswer XmlHooks::OfferAttribute(XMLElement& element, const XmlClass& descript
     const XmlAnswers& answers = description.answers;
     ixLog(description.source, answers.attributeEntered);
     const XmlField* const known = AttributeRow(description, name);
-    if (known != nullptr) {
+    const bool isDropped = known != nullptr && known->role == XmlRole::Dropped;
+    if (known != nullptr && !(isDropped && pair != nullptr)) {
         if (pair != nullptr) return XmlAnswer::Refused;
-        if (known->role == XmlRole::Dropped || value == nullptr) return XmlAnswer::Ignored;
+        if (isDropped || value == nullptr) return XmlAnswer::Ignored;
         return TakenIf(StoreValue(element, *known, value));
     }
     const XmlField* const others = pair != nullptr ? RowOfRole(description, XmlRole::Attributes) : nullptr;
