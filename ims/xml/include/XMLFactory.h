@@ -15,7 +15,7 @@
 class XMLFile;
 
 /// Numbers of the schemas.
-enum eXMLSchemaID {
+enum eXMLSchemaID : int {
     IX_XML_SCHEMA_IS_COMPOSING = 0,
     IX_XML_SCHEMA_RESOURCE_LISTS = 1,
     IX_XML_SCHEMA_CONFERENCE_INFO = 2,

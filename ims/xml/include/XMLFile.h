@@ -7,7 +7,7 @@
 
 /// What a file is opened for: `Read` as it is, `Write` from nothing (a file that is there is emptied), `ReadWrite` as
 /// it is, to be overwritten from its beginning.
-enum eXMLFileAccessMode { eXMLFileRead = 0, eXMLFileWrite = 1, eXMLFileReadWrite = 2 };
+enum eXMLFileAccessMode : int { eXMLFileRead = 0, eXMLFileWrite = 1, eXMLFileReadWrite = 2 };
 
 /// A thin wrapper over the platform layer's IO device. Every failure is logged, and a result of 0 or NULL.
 ///
@@ -36,7 +36,7 @@ class IX_XML_EXPORT XMLFile : public XmlHeapObject {
     int CloseFile();
 
   private:
-    unsigned int Open(int access, const XmlLogText& failed, const XmlLogText* opened);
+    unsigned int Open(int access, const XmlLogText& failed, const XmlLogText& opened);
     void FreeBuffer();
 
     char* m_pFileName;

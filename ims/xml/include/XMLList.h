@@ -47,11 +47,16 @@ class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
 
     /// Moves all nodes of `other` to the end of this list, in order.
     void TakeNodesOf(IxSingleElementList& other);
+    /// True when another list has taken the nodes of this one: unlike a list that has become empty, it is no news for
+    /// the log.
+    bool WasTaken() const { return m_bTaken; }
+
+    unsigned short m_iListCount = 0;  ///< The number of entries, modulo 65536; to be read only.
 
   private:
     IxSingleElementNode* m_pHead = nullptr;
-    unsigned short m_iListCount = 0;
     IxSingleElementNode* m_pLast = nullptr;
+    bool m_bTaken = false;
 };
 
 /// The first node, or NULL for an empty list and for none. Unlike `GetPtrToListHead` it does not log an empty list.

@@ -64,6 +64,9 @@ class IX_XML_EXPORT BuddyLinkList : public XmlHeapObject {
     BuddyLinkList(const BuddyLinkList&) = delete;
     BuddyLinkList& operator=(const BuddyLinkList&) = delete;
 
+    /// A new node, registered under `source` and `line`; NULL without memory.
+    static BuddyLinkList* Create(void* data, const char* source, int line);
+
     /// Makes a new node with `data` the next of this one; a node that was next before is no longer linked. To append at
     /// the end, call it on `SeekEnd()`. @return the node, or NULL without memory.
     BuddyLinkList* Append(void* data);

@@ -2,36 +2,19 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLList";
-
-constexpr XmlLogText kCreated = {3, kSchemaCode, 35, "<XML Module>: IxSingleElementList::IxSingleElementList"};
-// Required: the destructor logs the constructor's text.
-constexpr XmlLogText kDestroyed = {3, kSchemaCode, 56, "<XML Module>: IxSingleElementList::IxSingleElementList"};
-constexpr XmlLogText kAdd = {3, kSchemaCode, 82, "<XML Module>: IxSingleElementList::Add"};
-constexpr XmlLogText kCount = {3, kSchemaCode, 100, "<XML Module>: m_iListCount: %d"};
-constexpr XmlLogText kCountOfFirst = {3, kSchemaCode, 117, "<XML Module>: m_iListCount: %d"};
-constexpr XmlLogText kNoNode = {4, kSchemaCode, 105, "<XML Module>: IxSingleElementList:Add pTravNode Buffer is NULL"};
-constexpr XmlLogText kNoFirstNode = {4, kSchemaCode, 122,
-                                     "<XML Module>: IxSingleElementList:Add m_pHead Buffer is NULL"};
-constexpr XmlLogText kRemove = {3, kSchemaCode, 142, "<XML Module>: IxSingleElementList::Remove"};
-constexpr XmlLogText kRemoveFromEmpty = {4, kSchemaCode, 146,
-                                         "<XML Module> IxSingleElementList::Remove: Head itself is null"};
-constexpr XmlLogText kRemoveNotFound = {4, kSchemaCode, 178,
-                                        "<XML Module> IxSingleElementList::Remove: Entry not found in the list"};
 // Required: the two pointer operations log the text of GetKeyAtIndex.
 constexpr char kEmptyText[] =
     "IxSingleElementList::GetKeyAtIndex: Head itself is null and No item is there to be removed";
-constexpr XmlLogText kIndexInEmpty = {4, kSchemaCode, 198, kEmptyText};
-constexpr XmlLogText kHeadOfEmpty = {4, kSchemaCode, 238, kEmptyText};
-constexpr XmlLogText kEndOfEmpty = {4, kSchemaCode, 265, kEmptyText};
-constexpr XmlLogText kInvalidIndex = {4, kSchemaCode, 206, "IxSingleElementList::GetKeyAtIndex: Invalid index"};
 
 }  // namespace
 
-IxSingleElementList::IxSingleElementList() { ixLog(kSourceFile, kCreated); }
+IxSingleElementList::IxSingleElementList() {
+    ixLog(kSource, {3, "<XML Module>: IxSingleElementList::IxSingleElementList", 35});
+}
 
 IxSingleElementList::~IxSingleElementList() {
-    ixLog(kSourceFile, kDestroyed);
+    // Required: the destructor logs the constructor's text.
+    ixLog(kSource, {3, "<XML Module>: IxSingleElementList::IxSingleElementList", 56});
     while (m_pHead != nullptr) {
         IxSingleElementNode* const next = m_pHead->next;
         __free(m_pHead);
@@ -40,11 +23,12 @@ IxSingleElementList::~IxSingleElementList() {
 }
 
 unsigned int IxSingleElementList::Add(void* key) {
-    ixLog(kSourceFile, kAdd);
+    ixLog(kSource, {3, "<XML Module>: IxSingleElementList::Add", 82});
     const bool first = m_pHead == nullptr;
     auto* const node = static_cast<IxSingleElementNode*>(__malloc(sizeof(IxSingleElementNode)));
     if (node == nullptr) {
-        ixLog(kSourceFile, first ? kNoFirstNode : kNoNode);
+        ixLog(kSource, first ? XmlLogText(4, "<XML Module>: IxSingleElementList:Add m_pHead Buffer is NULL", 122)
+                             : XmlLogText(4, "<XML Module>: IxSingleElementList:Add pTravNode Buffer is NULL", 105));
         return 0;
     }
     node->key = key;
@@ -52,14 +36,17 @@ unsigned int IxSingleElementList::Add(void* key) {
     (first ? m_pHead : m_pLast->next) = node;
     m_pLast = node;
     ++m_iListCount;
-    ixLog(kSourceFile, first ? kCountOfFirst : kCount, static_cast<int>(m_iListCount));
+    ixLog(kSource,
+          first ? XmlLogText(3, "<XML Module>: m_iListCount: %d", 117)
+                : XmlLogText(3, "<XML Module>: m_iListCount: %d", 100),
+          static_cast<int>(m_iListCount));
     return 1;
 }
 
 unsigned int IxSingleElementList::Remove(void* key) {
-    ixLog(kSourceFile, kRemove);
+    ixLog(kSource, {3, "<XML Module>: IxSingleElementList::Remove", 142});
     if (m_pHead == nullptr) {
-        ixLog(kSourceFile, kRemoveFromEmpty);
+        ixLog(kSource, {4, "<XML Module> IxSingleElementList::Remove: Head itself is null", 146});
         return 0;
     }
     IxSingleElementNode* before = nullptr;
@@ -71,18 +58,18 @@ unsigned int IxSingleElementList::Remove(void* key) {
         --m_iListCount;
         return 1;
     }
-    ixLog(kSourceFile, kRemoveNotFound);
+    ixLog(kSource, {4, "<XML Module> IxSingleElementList::Remove: Entry not found in the list", 178});
     return 0;
 }
 
 void* IxSingleElementList::GetKeyAtIndex(unsigned short index) const {
     if (m_pHead == nullptr) {
-        ixLog(kSourceFile, kIndexInEmpty);
+        ixLog(kSource, {4, kEmptyText, 198});
         return nullptr;
     }
     // Required: the index one past the end passes this check; its walk ends at no node, without a message.
     if (m_iListCount < index) {
-        ixLog(kSourceFile, kInvalidIndex);
+        ixLog(kSource, {4, "IxSingleElementList::GetKeyAtIndex: Invalid index", 206});
         return nullptr;
     }
     const IxSingleElementNode* node = m_pHead;
@@ -91,13 +78,13 @@ void* IxSingleElementList::GetKeyAtIndex(unsigned short index) const {
 }
 
 IxSingleElementNode* IxSingleElementList::GetPtrToListHead() const {
-    if (m_pHead == nullptr) ixLog(kSourceFile, kHeadOfEmpty);
+    if (m_pHead == nullptr) ixLog(kSource, {4, kEmptyText, 238});
     return m_pHead;
 }
 
 // Required: NULL in every case; LastNode() is the operation that answers.
 IxSingleElementNode* IxSingleElementList::GetPtrToListEnd() const {
-    if (m_pHead == nullptr) ixLog(kSourceFile, kEndOfEmpty);
+    if (m_pHead == nullptr) ixLog(kSource, {4, kEmptyText, 265});
     return nullptr;
 }
 
@@ -106,6 +93,7 @@ void IxSingleElementList::TakeNodesOf(IxSingleElementList& other) {
     (m_pHead == nullptr ? m_pHead : m_pLast->next) = other.m_pHead;
     m_pLast = other.m_pLast;
     m_iListCount = static_cast<unsigned short>(m_iListCount + other.m_iListCount);
+    other.m_bTaken = true;
     other.m_pHead = nullptr;
     other.m_pLast = nullptr;
     other.m_iListCount = 0;

@@ -1,18 +1,10 @@
 #include "XMLStack.h"
 
-namespace {
-
-const char kSourceFile[] = "ims/xml/src/XMLStack";
-
-constexpr XmlLogText kOverflow = {2, kSchemaCode, 15, "stack overflow\n"};
-constexpr XmlLogText kUnderflow = {2, kSchemaCode, 29, "stack underflow\n"};
-constexpr XmlLogText kEmpty = {2, kSchemaCode, 41, "stack is empty\n"};
-
-}  // namespace
+namespace {}  // namespace
 
 void XmlCodeGenStack::push(void* item) {
     if (m_iTop == kCapacity - 1) {
-        ixLog(kSourceFile, kOverflow);
+        ixLog(kSource, {2, "stack overflow\n", 15});
         return;
     }
     m_items[++m_iTop] = item;
@@ -20,7 +12,7 @@ void XmlCodeGenStack::push(void* item) {
 
 void XmlCodeGenStack::pop() {
     if (empty()) {
-        ixLog(kSourceFile, kUnderflow);
+        ixLog(kSource, {2, "stack underflow\n", 29});
         return;
     }
     --m_iTop;
@@ -28,7 +20,7 @@ void XmlCodeGenStack::pop() {
 
 void* XmlCodeGenStack::top() const {
     if (empty()) {
-        ixLog(kSourceFile, kEmpty);
+        ixLog(kSource, {2, "stack is empty\n", 41});
         return nullptr;
     }
     return m_items[m_iTop];

@@ -1,11 +1,5 @@
 #include "XmlCommon.h"
 
-namespace {
-
-const char kSourceFile[] = "ims/xml/src/XmlCommon";
-
-}  // namespace
-
 void XmlCommon::TrimRightSingle(char* text) {
     const std::size_t length = __strlen(text);
     if (length > 0 && text[length - 1] == ' ') text[length - 1] = '\0';
@@ -42,8 +36,13 @@ bool XmlWorkText::Grow(std::size_t size) {
     return true;
 }
 
+BuddyLinkList* BuddyLinkList::Create(void* data, const char* source, int line) {
+    void* const node = new (std::nothrow) BuddyLinkList(data);
+    return static_cast<BuddyLinkList*>(ixTrack(kTokenizerModule, source, line, node, sizeof(BuddyLinkList)));
+}
+
 BuddyLinkList* BuddyLinkList::Append(void* data) {
-    BuddyLinkList* const node = IX_TRACKED_NEW(kTokenizerModule, kSourceFile, 22, BuddyLinkList, (data));
+    BuddyLinkList* const node = Create(data, kSource, 22);
     if (node != nullptr) m_pNext = node;
     return node;
 }
@@ -68,7 +67,7 @@ void BuddyLinkList::FreeList(void (*callback)(void*)) {
     while (node != nullptr) {
         BuddyLinkList* const next = node->m_pNext;
         if (callback != nullptr) callback(node->m_pData);
-        IX_TRACKED_DELETE(kTokenizerModule, node);
+        ixDelete(node, kTokenizerModule);
         node = next;
     }
 }

@@ -7,48 +7,12 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XmlDecoder";
+/// A line with the event number of the tokenizer and a source line that is fixed.
+constexpr XmlLogText Line(int level, int line, const char* text) { return {level, kDecoderCode, line, text}; }
 
 /// Nodes of the open names are registered as if `BuddyLinkList::Append` had made them.
 const char kNodeSourceFile[] = "ims/xml/src/XmlCommon";
 constexpr int kNodeLine = 22;
-
-constexpr XmlLogText kNoMemoryForName = {2, kDecoderCode, 121, "XmlDecoder::PushElement"};
-constexpr XmlLogText kDecode = {2, kDecoderCode, 180, "XmlDecoder::n_count = %d"};
-constexpr XmlLogText kNoText = {2, kDecoderCode, 183, "XmlDecoder::Decode n_strXML is null"};
-constexpr XmlLogText kAlreadyComplete = {2, kDecoderCode, 189,
-                                         "XmlDecoder::Decode m_DecodeState = IX_XML_PARSE_COMPLETE ret IX_XML_SUCCESS"};
-constexpr XmlLogText kNoMemoryForEndName = {
-    2, kDecoderCode, 323, "<XML Decoder>XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"};
-constexpr XmlLogText kEndTagRejected = {
-    3, kDecoderCode, 331, "<XML Decoder>:ProcessElement(pStrEndElement, start) failed when pStrEndElement=\"%s\""};
-constexpr XmlLogText kMismatch = {
-    3, kDecoderCode, 342, "<XML Decoder>:stack mismatch happened when stored value is \"%s\" and ret:IX_XML_ERROR"};
-constexpr XmlLogText kNothingOpen = {3, kDecoderCode, 360, "<XML Decoder>:stack is empty when decodeBegin is not"};
-constexpr XmlLogText kSelfClosingFailed = {
-    3, kDecoderCode, 374, "<XML Decoder>:Decoder Failed in DecodeAttributes and ret:IX_XML_PARSE_ERROR"};
-constexpr XmlLogText kStartTagFailed = {3, kDecoderCode, 401, "<XML Decoder>:Decoder Failed in DecodeAttributes"};
-constexpr XmlLogText kNothingBehindTag = {
-    3, kDecoderCode, 428, "<XML Decoder>:Decoder Failed as stack is not empty at end, reason: IX_XML_INCOMPLETE"};
-constexpr XmlLogText kPushFailed = {
-    3, kDecoderCode, 439, "<XML Decoder>:Decoder Failed as stack is not empty at end, reason: IX_XML_PARSE_ERROR"};
-constexpr XmlLogText kComplete = {3, kDecoderCode, 450, "<XML Decoder>:Decoder Success"};
-constexpr XmlLogText kTagCutOff = {3, kDecoderCode, 459, "<XML Decoder>:IX_XML_PARSE_CONTINUE ret:IX_XML_INCOMPLETE "};
-constexpr XmlLogText kBufferTooSmall = {4, kBufferCheckCode, 467,
-                                        "ixDplMemsmove - src1_size buffer size less than src2_size size"};
-constexpr XmlLogText kNoMoreTags = {3, kDecoderCode, 476, "<XML Decoder>:IX_XML_PARSE_CONTINUE ret:IX_XML_INCOMPLETE"};
-constexpr XmlLogText kNoTagContent = {2, kDecoderCode, 501, "XmlDecoder::DecodeAttributes n_strAttrList is null"};
-constexpr XmlLogText kNoMemoryForTag = {2, kDecoderCode, 510,
-                                        "XmlDecoder:: pStrAttrCheck: Malloc unable to allocate memory"};
-// Required: this one line has the event number of the schema families.
-constexpr XmlLogText kNoMemoryForList = {2, kSchemaCode, 540,
-                                         "XmlDecoder:: Malloc failed, Unable to validate attributeList"};
-constexpr XmlLogText kValidated = {2, kDecoderCode, 547, "XmlDecoder:: DecodeAttributes %d"};
-constexpr XmlLogText kListInvalid = {2, kDecoderCode, 552, "XmlDecoder:: DecodeAttributes - Attribute list invalid"};
-constexpr XmlLogText kNoMemoryForSelfEnd = {2, kDecoderCode, 627,
-                                            "XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"};
-constexpr XmlLogText kNoToken = {2, kDecoderCode, 844, "XmlDecoder::N_strtok incomming params are null"};
-constexpr XmlLogText kNoMemoryToUnescape = {2, kDecoderCode, 929, "XmlDecoder::DecodeAttributes  OUT OF MEMORY!!!! "};
 
 /// What a step of the scan says to `Decode`, beside IX_XML_ERROR and IX_XML_INCOMPLETE (return it, state kept).
 enum Step { kGoOn = 2, kTagDone = 3, kSyntaxError = 4 };
@@ -154,7 +118,7 @@ XmlDecoder::~XmlDecoder() { ResetXmlDecoder(); }
 
 void XmlDecoder::InitXmlDecoder() {
     if (m_pElementStack == nullptr) {
-        m_pElementStack = IX_TRACKED_NEW(kTokenizerModule, kSourceFile, 100, BuddyLinkList, (nullptr));
+        m_pElementStack = BuddyLinkList::Create(nullptr, kSource, 100);
     }
     FreePending();
     m_DecodeState = IX_XML_PARSE_INIT;
@@ -173,7 +137,7 @@ void XmlDecoder::ResetXmlDecoder() {
     FreePending();
     if (m_pElementStack == nullptr) return;
     FreeOpenNames();
-    IX_TRACKED_DELETE(kTokenizerModule, m_pElementStack);
+    ixDelete(m_pElementStack, kTokenizerModule);
     m_pElementStack = nullptr;
 }
 
@@ -201,7 +165,7 @@ bool XmlDecoder::AppendToPending(const char* text, std::size_t length) {
 
 /// Keeps the pending text from `rest` on for the next call. The "<" at `begin` has no ">" behind it so far.
 int XmlDecoder::KeepFrom(char* rest, char* begin) {
-    ixLog(kSourceFile, kTagCutOff);
+    ixLog(kSource, Line(3, 459, "<XML Decoder>:IX_XML_PARSE_CONTINUE ret:IX_XML_INCOMPLETE "));
     m_DecodeState = IX_XML_PARSE_CONTINUE;
     const auto offset = static_cast<std::size_t>(rest - m_pPending);
     m_tagBegin = static_cast<std::size_t>(begin - rest);
@@ -210,7 +174,8 @@ int XmlDecoder::KeepFrom(char* rest, char* begin) {
     if (offset == 0) return IX_XML_INCOMPLETE;
     // Required: cannot happen with a well-formed buffer; a buffer that is not must not be used any further.
     if (m_pendingLength + 1 > m_pendingSize) {
-        ixLog(kSourceFile, kBufferTooSmall);
+        ixLog(kSource,
+              XmlLogText(4, kBufferCheckCode, 467, "ixDplMemsmove - src1_size buffer size less than src2_size size"));
         std::exit(EXIT_FAILURE);
     }
     __memmove(m_pPending, rest, m_pendingLength + 1);
@@ -218,13 +183,13 @@ int XmlDecoder::KeepFrom(char* rest, char* begin) {
 }
 
 int XmlDecoder::Decode(const char* text, int length) {
-    ixLog(kSourceFile, kDecode, length);
+    ixLog(kSource, Line(2, 180, "XmlDecoder::n_count = %d"), length);
     if (text == nullptr || length <= 0) {
-        ixLog(kSourceFile, kNoText);
+        ixLog(kSource, Line(2, 183, "XmlDecoder::Decode n_strXML is null"));
         return IX_XML_ERROR;
     }
     if (m_DecodeState == IX_XML_PARSE_COMPLETE) {
-        ixLog(kSourceFile, kAlreadyComplete);
+        ixLog(kSource, Line(2, 189, "XmlDecoder::Decode m_DecodeState = IX_XML_PARSE_COMPLETE ret IX_XML_SUCCESS"));
         return IX_XML_SUCCESS;
     }
     if (m_DecodeState == IX_XML_PARSE_ERROR) return IX_XML_ERROR;
@@ -244,7 +209,7 @@ int XmlDecoder::Decode(const char* text, int length) {
             m_DecodeState = IX_XML_PARSE_CONTINUE;
             m_pPending[0] = '\0';
             m_pendingLength = 0;
-            ixLog(kSourceFile, kNoMoreTags);
+            ixLog(kSource, Line(3, 476, "<XML Decoder>:IX_XML_PARSE_CONTINUE ret:IX_XML_INCOMPLETE"));
             return IX_XML_INCOMPLETE;
         }
         if (behind <= begin) behind = begin + 1;
@@ -268,7 +233,7 @@ int XmlDecoder::Decode(const char* text, int length) {
         }
         if (step == kTagDone && !HasOpenElements()) {
             m_DecodeState = IX_XML_PARSE_COMPLETE;
-            ixLog(kSourceFile, kComplete);
+            ixLog(kSource, Line(3, 450, "<XML Decoder>:Decoder Success"));
             return IX_XML_SUCCESS;
         }
     }
@@ -293,14 +258,18 @@ int XmlDecoder::DecodeDeclaration(const char* content, const char* end) {
 int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
     const char* const name = begin + 2;
     if (!HasOpenElements()) {
-        ixLog(kSourceFile, kNothingOpen);
+        ixLog(kSource, Line(3, 360, "<XML Decoder>:stack is empty when decodeBegin is not"));
         return IX_XML_ERROR;
     }
     const OpenName& last = LastOpenName();
     const char* const open = static_cast<const char*>(last.node.m_pData);
     const auto length = static_cast<std::size_t>(end - name);
     if (open == nullptr || last.length != length || !SameBytes(open, name, length)) {
-        if (open != nullptr) ixLog(kSourceFile, kMismatch, open);
+        if (open != nullptr)
+            ixLog(
+                kSource,
+                Line(3, 342, "<XML Decoder>:stack mismatch happened when stored value is \"%s\" and ret:IX_XML_ERROR"),
+                open);
         return IX_XML_ERROR;
     }
     *begin = '\0';
@@ -309,10 +278,13 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
         // buffer as it is needed.
         char* const endName = begin + 1;
         if (!m_endName.Reserve(length + 2)) {
-            ixLog(kSourceFile, kNoMemoryForEndName);
+            ixLog(kSource, Line(2, 323, "<XML Decoder>XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"));
             return IX_XML_ERROR;
         }
-        if (m_pSchemaDecoder->ProcessElement(endName, text) != 0) ixLog(kSourceFile, kEndTagRejected, endName);
+        if (m_pSchemaDecoder->ProcessElement(endName, text) != 0)
+            ixLog(kSource,
+                  Line(3, 331, "<XML Decoder>:ProcessElement(pStrEndElement, start) failed when pStrEndElement=\"%s\""),
+                  endName);
     }
     DropLastOpenName();
     return kTagDone;
@@ -325,7 +297,7 @@ int XmlDecoder::DecodeSelfClosingTag(char* content, char* end) {
     const int result = SplitAttributes(content, end - 1, &name);
     m_iSelfClosing = 0;
     if (result != IX_XML_ERROR) return kTagDone;
-    ixLog(kSourceFile, kSelfClosingFailed);
+    ixLog(kSource, Line(3, 374, "<XML Decoder>:Decoder Failed in DecodeAttributes and ret:IX_XML_PARSE_ERROR"));
     return kSyntaxError;
 }
 
@@ -333,7 +305,7 @@ int XmlDecoder::DecodeStartTag(char* content, char* end) {
     TagName name;
     const int result = SplitAttributes(content, end, &name);
     if (result == IX_XML_ERROR) {
-        ixLog(kSourceFile, kStartTagFailed);
+        ixLog(kSource, Line(3, 401, "<XML Decoder>:Decoder Failed in DecodeAttributes"));
         return kSyntaxError;
     }
     if (m_pSchemaDecoder != nullptr) {
@@ -341,13 +313,15 @@ int XmlDecoder::DecodeStartTag(char* content, char* end) {
         m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
     }
     if (!PushName(name.text, name.length)) {
-        ixLog(kSourceFile, kPushFailed);
+        ixLog(kSource,
+              Line(3, 439, "<XML Decoder>:Decoder Failed as stack is not empty at end, reason: IX_XML_PARSE_ERROR"));
         return kSyntaxError;
     }
     // Required: kept although skipping white space never yields NULL here.
     if (XmlCommon::SkipSpaces(end + 1) == nullptr) {
         m_DecodeState = IX_XML_PARSE_CONTINUE;
-        ixLog(kSourceFile, kNothingBehindTag);
+        ixLog(kSource,
+              Line(3, 428, "<XML Decoder>:Decoder Failed as stack is not empty at end, reason: IX_XML_INCOMPLETE"));
         return IX_XML_INCOMPLETE;
     }
     return kTagDone;
@@ -355,7 +329,7 @@ int XmlDecoder::DecodeStartTag(char* content, char* end) {
 
 int XmlDecoder::DecodeAttributes(char* tagContent) {
     if (tagContent == nullptr) {
-        ixLog(kSourceFile, kNoTagContent);
+        ixLog(kSource, Line(2, 501, "XmlDecoder::DecodeAttributes n_strAttrList is null"));
         return IX_XML_ERROR;
     }
     TagName name;
@@ -366,7 +340,7 @@ int XmlDecoder::DecodeAttributes(char* tagContent) {
 int XmlDecoder::SplitAttributes(char* content, char* end, TagName* name) {
     // Unescaping works on a copy of a value. Its memory is taken before the first event of the tag.
     if (!m_unescapeCopy.Reserve(static_cast<std::size_t>(end - content) + 1)) {
-        ixLog(kSourceFile, kNoMemoryForTag);
+        ixLog(kSource, Line(2, 510, "XmlDecoder:: pStrAttrCheck: Malloc unable to allocate memory"));
         return IX_XML_ERROR;
     }
     char* rest = nullptr;
@@ -384,13 +358,14 @@ int XmlDecoder::SplitAttributes(char* content, char* end, TagName* name) {
     }
     // Required: memory for a copy of the list is taken here, and its failure told, although the check needs no copy.
     if (!m_attributeList.Reserve(static_cast<std::size_t>(end - rest) + 1)) {
-        ixLog(kSourceFile, kNoMemoryForList);
+        // Required: this one line has the event number of the schema families.
+        ixLog(kSource, {2, "XmlDecoder:: Malloc failed, Unable to validate attributeList", 540});
         return IX_XML_ERROR;
     }
     const int valid = ValidateList(rest, end);
-    ixLog(kSourceFile, kValidated, valid);
+    ixLog(kSource, Line(2, 547, "XmlDecoder:: DecodeAttributes %d"), valid);
     if (valid != 0) {
-        ixLog(kSourceFile, kListInvalid);
+        ixLog(kSource, Line(2, 552, "XmlDecoder:: DecodeAttributes - Attribute list invalid"));
         return IX_XML_ERROR;
     }
     return m_pSchemaDecoder != nullptr ? ReportAttributes(*name, rest, end) : 0;
@@ -428,7 +403,7 @@ int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end) {
 int XmlDecoder::ReportSelfClosingEnd(const TagName& name, char* rest) {
     m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
     if (!m_endName.Reserve(name.length + 2)) {
-        ixLog(kSourceFile, kNoMemoryForSelfEnd);
+        ixLog(kSource, Line(2, 627, "XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"));
         return IX_XML_ERROR;
     }
     char* const endName = m_endName.Text();
@@ -468,7 +443,7 @@ bool XmlDecoder::PushName(const char* name, std::size_t length) {
     OpenName* const open = isLong && text == nullptr ? nullptr : NextOpenName();
     if (open == nullptr) {
         FreeElement(text);
-        ixLog(kSourceFile, kNoMemoryForName);
+        ixLog(kSource, Line(2, 121, "XmlDecoder::PushElement"));
         return false;
     }
     if (!isLong && name != nullptr) text = open->text;
@@ -523,8 +498,7 @@ BuddyLinkList* XmlDecoder::PopElement() {
     const OpenName& last = LastOpenName();
     char* const text = __strdup(static_cast<const char*>(last.node.m_pData));
     const bool copied = text != nullptr || last.node.m_pData == nullptr;
-    BuddyLinkList* const node =
-        copied ? IX_TRACKED_NEW(kTokenizerModule, kNodeSourceFile, kNodeLine, BuddyLinkList, (text)) : nullptr;
+    BuddyLinkList* const node = copied ? BuddyLinkList::Create(text, kNodeSourceFile, kNodeLine) : nullptr;
     if (node == nullptr) {
         FreeElement(text);
         return nullptr;
@@ -548,7 +522,7 @@ void XmlDecoder::FreeOpenNames() {
 
 char* XmlDecoder::N_strtok(char* text, const char* delimiters, char** rest) {
     if (text == nullptr || delimiters == nullptr) {
-        ixLog(kSourceFile, kNoToken);
+        ixLog(kSource, Line(2, 844, "XmlDecoder::N_strtok incomming params are null"));
         return nullptr;
     }
     return CutToken(text, ByteSet(delimiters, kMostDelimiters), rest);
@@ -578,7 +552,7 @@ void XmlDecoder::UnescapeXmlString(char* text, const char* entity, char replacem
     if (first == nullptr) return;
     const std::size_t size = __strlen(text) + 1;
     if (!m_unescapeCopy.Reserve(size)) {
-        ixLog(kSourceFile, kNoMemoryToUnescape);
+        ixLog(kSource, Line(2, 929, "XmlDecoder::DecodeAttributes  OUT OF MEMORY!!!! "));
         return;
     }
     std::memcpy(m_unescapeCopy.Text(), text, size);

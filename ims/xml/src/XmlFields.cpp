@@ -22,8 +22,7 @@ void DeleteText(void* entry, IxSingleElementList& /*list*/) { FreeElement(entry)
 /// Hands every entry to `end`, which may append to the list, then deletes the list.
 void DeleteList(IxSingleElementList* list, void (*end)(void* entry, IxSingleElementList& list)) {
     if (list == nullptr) return;
-    // A list that was emptied into another one is no news for the log.
-    IxSingleElementNode* node = list->LastNode() != nullptr ? list->GetPtrToListHead() : nullptr;
+    const IxSingleElementNode* node = list->WasTaken() ? nullptr : list->GetPtrToListHead();
     for (; node != nullptr; node = node->next) {
         if (node->key != nullptr) end(node->key, *list);
     }

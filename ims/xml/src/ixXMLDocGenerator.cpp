@@ -4,10 +4,6 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/ixXMLDocGenerator";
-
-constexpr XmlLogText kNoMemoryToEscape = {2, kSchemaCode, 880, "IxXMLDocGenerator :: escapeString malloc failed"};
-
 constexpr char kQuote[] = "&quot;";
 constexpr std::size_t kQuoteLength = sizeof kQuote - 1;
 
@@ -215,7 +211,7 @@ char* IxXMLDocGenerator::escapeString(const char* value) const {
     for (const char* at = value; *at != '\0'; ++at) size += *at == '"' ? kQuoteLength : 1;
     char* const escaped = static_cast<char*>(__malloc(size));
     if (escaped == nullptr) {
-        ixLog(kSourceFile, kNoMemoryToEscape);
+        ixLog(kSource, {2, "IxXMLDocGenerator :: escapeString malloc failed", 880});
         return nullptr;
     }
     char* to = escaped;
