@@ -26,7 +26,7 @@ std::size_t CountList(XmlFieldKind kind, const IxSingleElementList& list) {
 
 std::size_t CountItems(const XMLElement& element) {
     std::size_t items = 1;
-    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+    for (const XmlFieldTable* table = ixRowsOf(element); table != nullptr; table = table->base) {
         for (const XmlField* field = table->fields; field != table->fields + table->count; ++field) {
             if (!XmlFields::IsSet(element, *field)) continue;
             switch (field->kind) {

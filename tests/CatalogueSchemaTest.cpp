@@ -119,10 +119,10 @@ class CatalogueTest : public XmlTest {
 };
 
 TEST_F(CatalogueTest, ContainersAreFiledPushedAndPopped) {
-    const OwnedElement root(Decode(
-        "<folder auid=\"a\" size=\"12kB\" other=\"dropped\">"
-        "<op:term><title>one</title><op:term><title>two</title></op:term><title>uno</title></op:term>"
-        "<op:term><title>three</title></op:term></folder>"));
+    const OwnedElement root(
+        Decode("<folder auid=\"a\" size=\"12kB\" other=\"dropped\">"
+               "<op:term><title>one</title><op:term><title>two</title></op:term><title>uno</title></op:term>"
+               "<op:term><title>three</title></op:term></folder>"));
     ASSERT_NE(root.get(), nullptr);
     EXPECT_EQ(root.as<ix_catalogue>()->mSize, 12);
     const auto* const first = static_cast<ix_term*>(root.as<ix_catalogue>()->mTermList->GetKeyAtIndex(0));

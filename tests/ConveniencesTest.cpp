@@ -1,6 +1,7 @@
 // What the headers offer to applications around the object model: owners, casts, lists as ranges, words, escaped texts.
 #include "XMLConferenceInfo.h"
 #include "XMLReginfo.h"
+#include "XmlFields.h"
 #include "XmlMarkup.h"
 #include "XmlTest.h"
 
@@ -45,7 +46,7 @@ TEST_F(ConveniencesTest, FieldsAreFoundByNameAndEnumerationsHaveWords) {
     const XmlField* const field = XmlFields::Find(*root, "version");
     ASSERT_NE(field, nullptr);
     EXPECT_EQ(XmlFields::Number(*root, *field), 0);
-    const XmlOwned<ix_registration> unset(IX_TRACKED_NEW(kSchemaModule, "tests", __LINE__, ix_registration, ()));
+    const XmlOwned<ix_registration> unset(ixNew<ix_registration>("test"));
     EXPECT_EQ(XmlFields::Word(*unset, "state"), nullptr) << "not set";
 }
 

@@ -289,7 +289,6 @@ TEST_F(GruuTest, MarshallerNamesWhatFailed) {
         {&shortened,
          "(null)",
          {"<XML Module>: GruuMarshaller :: Marshall: obj is pub-gruu", "<XML Module>: AddTempGruuElementToXml",
-          "<XML Module>: AddTempGruuElementToXml: Uri is a mandatory attribute",
           "<XML Module>: GruuMarshaller XML Failed at AddTempGruuElementToXml!"}},
         {&other,
          "<?xml version=\"1.0\" encoding=\"UTF-8\"?>",

@@ -109,7 +109,7 @@ TEST_F(BootstrappingTest, OtherElementsAreLoggedAndOtherObjectsKept) {
     EXPECT_EQ(Offer(*info, "key", nullptr, child), 1);
     EXPECT_EQ(info->mAnyElementList->GetCount(), 1);
     EXPECT_EQ(Offer(*info, "/btid", "x", nullptr) + Offer(*info, "/btid", nullptr, nullptr), 2);
-    EXPECT_EQ(info->mBtid, nullptr);
+    EXPECT_STREQ(info->mBtid, "x");
     EXPECT_EQ(NewLinesOf("XMLBootstrappingInfo"), Strings());
     EXPECT_EQ(info->setAnyElementListValue(nullptr), 1);
 }
@@ -214,6 +214,7 @@ TEST_F(TermsTest, AFailedTermFailsTheDocument) {
     EXPECT_EQ(marshaller->Marshall(info), nullptr);
     lines.pop_back();
     lines.insert(lines.begin() + 1, "3 " + mark + "RcsTermsInfoMarshaller :: Marshall: Deleting mRcsTermsInfoXml");
+    lines.push_back("2 " + mark + "AddTermElementToXml");
     lines.push_back("2 " + mark + "AddTermElementToXml XML Failed!");
     lines.push_back("2 " + mark + "RcsTermsInfoMarshaller XML Failed!");
     EXPECT_EQ(NewLinesOf("XMLRcsTermsInfo"), lines);

@@ -26,9 +26,23 @@ class MessagingTest : public FamilyTest {};
 
 TEST_F(MessagingTest, DecodersRefuseEventsWithoutNames) {
     XMLImdnDecoder imdn;
-    ExpectNamelessEventsRefused(imdn, -1);
     XMLIsComposingDecoder composing;
-    ExpectNamelessEventsRefused(composing, -1);
+    const struct {
+        XmlDecoderSchema& decoder;
+        std::string name;
+    } logging[] = {{imdn, "XMLImdnDecoder"}, {composing, "XMLIsComposingDecoder"}};
+    for (const auto& c : logging) {
+        ExpectNamelessEventsRefused(c.decoder, -1);
+        const std::string prefix = "<XML Module>" + c.name + " :: ";
+        const std::string noMemory = c.name + " :: XMLRemoveNameSpaceTag: Malloc unable to allocate memory";
+        const Strings expected = {prefix + "ProcessElement: n_strElement is NULL",
+                                  prefix + "ProcessAttribute: n_strElement is NULL",
+                                  noMemory,
+                                  prefix + "ProcessElement: m_strDup or m_PassName is NULL",
+                                  noMemory,
+                                  prefix + "ProcessAttribute: m_strDup is NULL"};
+        EXPECT_EQ(RefusedEvents(c.decoder), expected);
+    }
     XMLFileDecoder file;
     ExpectNamelessEventsRefused(file, -1);
     XMLMediaControlDecoder media;
@@ -127,17 +141,17 @@ TEST_F(ImdnTest, AStartTagIsClosedWhateverItsAttributeListHolds) {
     imdn->setDisplayNotificationValue(display);
     display->setStatusValue(status);
     status->setDisplayedValue(binder.CreateDisplayedElement());
-    const char kSourceFile[] = "test";
-    imdn->setAnyAttributeListValue(IX_NEW(IxSingleElementList));
-    status->setAnyAttributeListValue(IX_NEW(IxSingleElementList));
+    imdn->setAnyAttributeListValue(ixNew<IxSingleElementList>("test"));
+    status->setAnyAttributeListValue(ixNew<IxSingleElementList>("test"));
     const std::string rest = "\n<displayed/></status></display-notification>";
     EXPECT_EQ(Write(IX_XML_SCHEMA_IMDN, root.get()), Document("\n<display-notification>\n<status>" + rest));
     // Entries that cannot be written, the last one among them.
-    imdn->addAnyAttribute(ixCreatePair("a", "b", kSourceFile, 1));
-    imdn->addAnyAttribute(ixCreatePair(nullptr, "b", kSourceFile, 1));
-    status->addAnyAttribute(nullptr);
+    imdn->addAnyAttribute(ixCreatePair("a", "b", "test", 1));
+    imdn->addAnyAttribute(ixCreatePair(nullptr, "b", "test", 1));
+    EXPECT_EQ(status->addAnyAttribute(nullptr), 0);
+    status->mAnyAttributeList->Add(nullptr);
     EXPECT_EQ(Write(IX_XML_SCHEMA_IMDN, root.get()),
-              Document("\n<display-notification>\n<status >" + rest, "  a=\"b\""));
+              Document("\n<display-notification>\n<status>" + rest, "  a=\"b\""));
 }
 
 TEST_F(ImdnTest, ABuiltTreeIsTheDecodedOne) {
@@ -176,7 +190,7 @@ TEST_F(ImdnTest, LogsWhatItHasNoPlaceFor) {
     ClearLog();
     const OwnedElement root(
         Decode(IX_XML_SCHEMA_IMDN,
-               "<imdn xmlns=\"x\"><subject>s</subject><a:note>n</a:note><proessing-notification/><status "
+               "<imdn xmlns=\"x\"><subject xmlns=\"z\">s</subject><a:note>n</a:note><proessing-notification/><status "
                "xmlns=\"y\"/></imdn>"));
     const Strings expected = {"2 Cannot accommodate the element note with value (null)",
                               "2 Cannot accommodate the element /note with value n",
@@ -184,7 +198,7 @@ TEST_F(ImdnTest, LogsWhatItHasNoPlaceFor) {
                               "2 Cannot accommodate the element /proessing-notification with value "};
     EXPECT_EQ(LevelsAndTexts(LogOf("XMLImdn")), expected);
     // Only the root's own namespace is left out.
-    EXPECT_EQ(root.as<ix_imdn>()->mAnyAttributeList, nullptr);
+    EXPECT_EQ(Pairs(root.as<ix_imdn>()->mAnyAttributeList), Strings{"xmlns=z"});
     EXPECT_EQ(TreeOf(root.get()).at("/any/0/attributes/0/name"_json_pointer), "xmlns");
 }
 
@@ -204,9 +218,11 @@ TEST_F(ImdnTest, HooksTakeTheirOwnClassesOnly) {
     EXPECT_EQ(OfferAttribute(status, "a", "v"), 1);
     EXPECT_EQ(imdn.mAnyAttributeList, nullptr);
     // An element of another kind is kept.
-    const char kSourceFile[] = "test";
-    EXPECT_EQ(Offer(imdn, "proessing-notification", nullptr, IX_NEW(ix_processing_notification)), 1);
-    EXPECT_EQ(Offer(status, "delivered", nullptr, IX_NEW(ix_string)), 1);
+    EXPECT_EQ(Offer(imdn, "proessing-notification", nullptr, ixNew<ix_processing_notification>("test")), 1);
+    EXPECT_EQ(Offer(status, "delivered", nullptr, ixNew<ix_string>("test")), 1);
+    EXPECT_EQ(Offer(status, "delivered", nullptr, ixNew<ix_stored>("test")), 1);
+    EXPECT_EQ(status.mDelivered, nullptr);
+    EXPECT_NE(status.mStored, nullptr);
     EXPECT_EQ(imdn.mAnyElementList->GetCount(), 1);
     EXPECT_EQ(status.mAnyElementList->GetCount(), 1);
 }
@@ -305,14 +321,13 @@ TEST_F(IsComposingTest, SaysWhatIsNotPresent) {
 }
 
 TEST_F(IsComposingTest, KeepsElementsOfOtherSchemas) {
-    const char kSourceFile[] = "test";
     ix_isComposing root;
     ix_string known;
-    EXPECT_EQ(Offer(root, "state", nullptr, &known), 1);
+    EXPECT_EQ(Offer(root, "state", nullptr, &known), 0);
     EXPECT_EQ(Offer(root, "/state", nullptr, nullptr), 1);
     EXPECT_EQ(root.mState, nullptr);
     EXPECT_EQ(root.mAnyElementList, nullptr);
-    EXPECT_EQ(Offer(root, "other", nullptr, IX_NEW(ix_string)), 1);
+    EXPECT_EQ(Offer(root, "other", nullptr, ixNew<ix_string>("test")), 1);
     ASSERT_NE(root.mAnyElementList, nullptr);
     EXPECT_EQ(root.mAnyElementList->GetCount(), 1);
 }
@@ -360,6 +375,27 @@ TEST_F(FileTransferTest, OneMissingUrlFailsTheDocument) {
     EXPECT_EQ(LevelsAndTexts(Log()), expected);
 }
 
+// A list of a caller's own may hold another element, or none.
+TEST_F(FileTransferTest, AnEntryOfAnotherClassFailsTheDocument) {
+    for (XMLElement* const entry :
+         {static_cast<XMLElement*>(ixNew<ix_ns_ft_data>("test")), static_cast<XMLElement*>(nullptr)}) {
+        ix_file file;
+        auto* const list = ixNew<IxSingleElementList>("test");
+        ASSERT_EQ(list->Add(entry), 1);
+        EXPECT_EQ(file.setFileInfoListValue(list), 1);
+        ClearLog();
+        EXPECT_EQ(Write(IX_XML_SCHEMA_FILE, &file), "(null)");
+        const Strings expected = {
+            "3 <XML Module>: FileMarshaller :: Marshall",
+            "2 <XML Module>: AddFileElementToXml",
+            "2 <XML Module>: AddFileInfoElementToXml",
+            "2 <XML Module>: FileMarshaller XML Failed at AddFileInfoElementToXml!",
+            "2 <XML Module>: FileMarshaller XML Failed!",
+        };
+        EXPECT_EQ(LevelsAndTexts(Log()), expected);
+    }
+}
+
 TEST_F(FileTransferTest, OnlyTheFirstOfTwoRootsInARowIsRead) {
     EXPECT_EQ(Convert(IX_XML_SCHEMA_FILE,
                       "<file><file-info type=\"thumbnail\"/></file><file><file-info type=\"file\"/></file>"),
@@ -393,9 +429,9 @@ TEST_F(FileTransferTest, HooksAnswerAsTheyMust) {
         {file, "data", &data, 1},
         {info, "data", &other, 0},
         {info, "data", &nameless, 1},
-        {info, "data", nullptr, 1},
+        {info, "data", nullptr, 0},
         {info, "file-info", &info, 1},
-        {info, "/file-size", &other, 1},
+        {info, "/file-size", &other, 0},
         {info, "file-size", nullptr, 1},
     });
     EXPECT_EQ(file.mFileInfoList, nullptr);
@@ -469,7 +505,10 @@ TEST_F(MediaControlTest, ARequestThatIsNotPresentFailsTheDocument) {
     EXPECT_EQ(LevelsAndTexts(Log()), expected);
     request->setPresentValue(1);
     request->setNameValue(nullptr);
-    EXPECT_EQ(Write(IX_XML_SCHEMA_MEDIA_CONTROL, root.get()), "(null)");
+    // Required: one without a name writes nothing.
+    EXPECT_EQ(
+        Write(IX_XML_SCHEMA_MEDIA_CONTROL, root.get()),
+        kDeclaration + "<media_control>\n<vc_primitive>\n<to_encoder></to_encoder></vc_primitive></media_control>");
     EXPECT_EQ(MediaControlMarshaller().AddEmptyElementToXml(nullptr), 0);
     EXPECT_EQ(Log().back().text, "MediaControlMarshaller::AddEmptyElementToXml: Received empty element is NULL");
 }

@@ -6,8 +6,6 @@
 
 namespace {
 
-const char kSourceFile[] = "tests/NamespaceTest";
-
 constexpr char kSimservs[] = "http://uri.etsi.org/ngn/params/xml/simservs/xcap";
 constexpr char kCommonPolicy[] = "urn:ietf:params:xml:ns:common-policy";
 constexpr char kOmaCommonPolicy[] = "urn:oma:xml:xdm:common-policy";
@@ -32,8 +30,7 @@ class NamespaceTest : public XmlTest {
             ix_schema_namespace_retrieval binder;
             IxSingleElementList* list = nullptr;
             for (const Declaration& declaration : declarations) {
-                ixAppend(list, ixCreatePair(declaration.first, declaration.second, kSourceFile, __LINE__), kSourceFile,
-                         __LINE__);
+                ixAppend(list, ixCreatePair(declaration.first, declaration.second, "test", __LINE__), "test", __LINE__);
             }
             binder.setNameSpaceInfo(list);
             EXPECT_EQ(decoder.SetNameSpaceBinderInfo(&binder), 1);
@@ -90,13 +87,13 @@ TEST_F(NamespaceTest, ABinderWithoutNamespacesChangesNothing) {
     EXPECT_EQ(decoder.SetNameSpaceBinderInfo(nullptr), 1);
     EXPECT_EQ(decoder.SetNameSpaceBinderInfo(&binder), 1);
     EXPECT_EQ(decoder.SetNameSpaceBinderInfo(&other), 1);
-    ix_AttributeValuePair* const pair = ixCreatePair("x", kSimservs, kSourceFile, __LINE__);
-    ixAppend(binder.mNameSpaceInfo, pair, kSourceFile, __LINE__);
+    ix_AttributeValuePair* const pair = ixCreatePair("x", kSimservs, "test", __LINE__);
+    ixAppend(binder.mNameSpaceInfo, pair, "test", __LINE__);
     binder.mNameSpaceInfo->Remove(pair);
     EXPECT_EQ(decoder.SetNameSpaceBinderInfo(&binder), 1);
     EXPECT_EQ(decoder.XMLChangeNamespaceTag("x:a"), 1);
     EXPECT_STREQ(decoder.MappedTag(), "x:a");
-    IX_DELETE(pair);
+    ixDelete(pair);
 }
 
 TEST_F(NamespaceTest, PrefixesAreRemoved) {
@@ -134,7 +131,7 @@ TEST_F(NamespaceTest, FailedAllocationsAreLoggedAndLeaveNoResult) {
         {"/x:" + tag, 2, Line(2, 6053, 183, kMapped)},
     };
     ix_schema_namespace_retrieval binder;
-    ixAppend(binder.mNameSpaceInfo, ixCreatePair("x", kSimservs, kSourceFile, __LINE__), kSourceFile, __LINE__);
+    ixAppend(binder.mNameSpaceInfo, ixCreatePair("x", kSimservs, "test", __LINE__), "test", __LINE__);
     for (const auto& row : table) {
         XMLCommunicationWaitingDecoder decoder;
         decoder.SetNameSpaceBinderInfo(&binder);
@@ -183,8 +180,7 @@ TEST_F(NamespaceTest, ACutNamespaceTableIsLoggedByTheRowThatFailed) {
         EXPECT_EQ(Log(), lines) << failing;
         ix_schema_namespace_retrieval binder;
         for (const Declaration& row : {Declaration{"x", kSimservs}, {"y", kCommonPolicy}, {"z", kOmaCommonPolicy}}) {
-            ixAppend(binder.mNameSpaceInfo, ixCreatePair(row.first, row.second, kSourceFile, __LINE__), kSourceFile,
-                     __LINE__);
+            ixAppend(binder.mNameSpaceInfo, ixCreatePair(row.first, row.second, "test", __LINE__), "test", __LINE__);
         }
         decoder.SetNameSpaceBinderInfo(&binder);
         const char* const tags[] = {"x:a", "y:a", "z:a"};

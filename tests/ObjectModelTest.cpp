@@ -7,17 +7,13 @@
 
 namespace {
 
-const char kSourceFile[] = "tests/ObjectModelTest";
-
 /// An element with one field of each owning kind, that nests through its list and through its child.
-class NestingElement : public XMLElement {
+class NestingElement : public XmlDescribedElement {
   public:
-    ~NestingElement() override;
-    const char* ClassName() const override { return "nesting"; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Nesting"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    static const XmlClass kClass;
+
+    NestingElement() : XmlDescribedElement(kClass) {}
+    ~NestingElement() override { ixRelease(*this, kClass); }
 
     char* mText = nullptr;
     int mNumber = 0;
@@ -27,25 +23,19 @@ class NestingElement : public XMLElement {
     IxSingleElementList* mPairs = nullptr;
 };
 
-XMLElement* ReadChild(const XMLElement& parent) { return static_cast<const NestingElement&>(parent).mChild; }
-
 constexpr XmlField kFields[] = {
-    {XmlFieldKind::Text, IX_STR_NAME, XmlTextMember(&NestingElement::mText)},
-    {XmlFieldKind::Number, IX_STR_SIZE, XmlIntMember(&NestingElement::mNumber)},
-    {XmlFieldKind::Child, IX_STR_FILE, &ReadChild},
-    {XmlFieldKind::ChildList, IX_STR_FOLDER, XmlListMember(&NestingElement::mChildren)},
-    {XmlFieldKind::TextList, IX_STR_NOTE, XmlListMember(&NestingElement::mTexts)},
-    {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&NestingElement::mPairs), 0, nullptr, "attributes"},
+    XmlRow::Element<&NestingElement::mText>(IX_STR_NAME),
+    XmlRow::Attribute<&NestingElement::mNumber>(IX_STR_SIZE),
+    XmlRow::Child<&NestingElement::mChild>(IX_STR_FILE),
+    XmlRow::Children<&NestingElement::mChildren, NestingElement>(IX_STR_FOLDER),
+    XmlRow::Texts<&NestingElement::mTexts>(IX_STR_NOTE),
+    XmlRow::Attributes<&NestingElement::mPairs>(),
 };
-constexpr XmlFieldTable kTable = {nullptr, kFields, 6};
-
-NestingElement::~NestingElement() { XmlFields::Release(this, kTable); }
-
-const XmlFieldTable* NestingElement::FieldTable() const { return &kTable; }
+constexpr XmlClass NestingElement::kClass = ixClass<NestingElement>("nesting", "Nesting", "test", kFields);
 
 NestingElement* NewNesting(NestingElement* parent = nullptr) {
-    NestingElement* const element = IX_NEW(NestingElement);
-    if (parent != nullptr) ixAppend(parent->mChildren, element, kSourceFile, __LINE__);
+    NestingElement* const element = ixNew<NestingElement>("test");
+    if (parent != nullptr) ixAppend(parent->mChildren, element, "test", __LINE__);
     return element;
 }
 
@@ -57,8 +47,8 @@ NestingElement* NewTree() {
     tree->mChild = NewNesting();
     NewNesting(tree)->mChild = NewNesting();
     NewNesting(tree);
-    ixAppend(tree->mTexts, __strdup("one"), kSourceFile, __LINE__);
-    ixAppend(tree->mPairs, ixCreatePair("a", "1", kSourceFile, __LINE__), kSourceFile, __LINE__);
+    ixAppend(tree->mTexts, __strdup("one"), "test", __LINE__);
+    ixAppend(tree->mPairs, ixCreatePair("a", "1", "test", __LINE__), "test", __LINE__);
     return tree;
 }
 
@@ -162,9 +152,9 @@ TEST_F(ObjectModelTest, TheMarkerIsMadeOnceAndRegisteredAtItsLine) {
 
 TEST_F(ObjectModelTest, ListsOfElementsGoWithAllEntriesAroundANullOne) {
     IxSingleElementList* list = nullptr;
-    ixAppend(list, NewTree(), kSourceFile, __LINE__);
-    ixAppend(list, nullptr, kSourceFile, __LINE__);
-    ixAppend(list, NewNesting(), kSourceFile, __LINE__);
+    ixAppend(list, NewTree(), "test", __LINE__);
+    ixAppend(list, nullptr, "test", __LINE__);
+    ixAppend(list, NewNesting(), "test", __LINE__);
     ix_xml_common_methods::DeleteElementList(list);
     EXPECT_EQ(ixDplHostLedger().liveObjects, 0U);
     ix_xml_common_methods::DeleteElementList(nullptr);
@@ -228,7 +218,7 @@ TEST_F(ObjectModelTest, AnEmptyListEqualsNoList) {
     NestingElement with;
     const NestingElement without;
     char entry[] = "x";
-    ixAppend(with.mTexts, entry, kSourceFile, __LINE__);
+    ixAppend(with.mTexts, entry, "test", __LINE__);
     EXPECT_TRUE(XmlFields::IsSet(with, kFields[4]));
     EXPECT_FALSE(XmlFields::Equal(&with, &without));
     with.mTexts->Remove(entry);

@@ -27,7 +27,7 @@ class ProvisioningTest : public FamilyTest, public testing::WithParamInterface<D
     static std::string Tree(const std::string& content, const std::string& attributes = "") {
         const OwnedElement root(DecodeInRoot(content, attributes));
         std::string text = TreeOf(root.get()).dump();
-        for (const char* const name : {GetParam().className, ix_characteristic::kClassName, ix_parm::kClassName}) {
+        for (const char* const name : {GetParam().className, ix_characteristic::kClass.name, ix_parm::kClass.name}) {
             const std::string entry = "\"class\":\"" + std::string(name) + '"';
             for (std::size_t at = text.find(entry); at != std::string::npos; at = text.find(entry)) {
                 text.erase(at, entry.size() + (text[at + entry.size()] == ',' ? 1 : 0));

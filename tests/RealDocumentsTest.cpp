@@ -91,7 +91,7 @@ TEST_F(RealDocumentsTest, DeclareTheirNamespaces) {
             EXPECT_EQ(root.get() == nullptr, notTaken.count(name) != 0) << file;
             const auto expected = declarations.find(name);
             if (root.get() != nullptr && expected != declarations.end()) {
-                const XmlField& field = root.get()->FieldTable()->fields[0];
+                const XmlField& field = ixRowsOf(*root.get())->fields[0];
                 EXPECT_EQ(XmlFields::List(*root.get(), field)->GetCount(), expected->second) << file;
             }
         }

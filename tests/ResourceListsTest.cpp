@@ -10,8 +10,6 @@
 
 namespace {
 
-const char kSourceFile[] = "tests/ResourceListsTest";
-
 class ListsTest : public FamilyTest {
   protected:
     struct Case {
@@ -113,6 +111,24 @@ TEST_F(ListsTest, EventsWithoutNamesAreRejected) {
                                   "3 <XML Module>" + decoder + " :: ProcessAttribute: n_strElement is NULL"};
         EXPECT_EQ(NewLinesOf(c.file), expected);
     }
+}
+
+// What stands in a text, objects among it, reaches neither the text nor the element around it.
+TEST_F(ListsTest, ATextIsItsOwn) {
+    constexpr eXMLSchemaID lists = IX_XML_SCHEMA_RESOURCE_LISTS;
+    constexpr eXMLSchemaID services = IX_XML_SCHEMA_RLS_SERVICES;
+    const std::string list =
+        "<resource-lists><list name=\"l\"><display-name><display-name>b</display-name><entry uri=\"u\">"
+        "<display-name>c</display-name></entry>a</display-name><entry uri=\"v\"/></list></resource-lists>";
+    const std::string service =
+        "<rls-services><service><packages><package><package>b</package><display-name>c</display-name>a</package>"
+        "<package>d</package></packages></service></rls-services>";
+    ExpectFields({
+        {lists, list.c_str(), "/list/0/display-name/text", "a"},
+        {lists, list.c_str(), "/list/0/children/0/uri", "v"},
+        {services, service.c_str(), "/service/0/packages/package/0/text", "a"},
+        {services, service.c_str(), "/service/0/packages/package/1/text", "d"},
+    });
 }
 
 // The stack of objects under construction holds the root and 99 lists; the end tags of the lists past it pop others.
@@ -222,12 +238,12 @@ TEST_F(ListsTest, AnEmptyListOfAttributesLeavesTheStartTagOpen) {
          {static_cast<ix_listMemberType*>(list), static_cast<ix_listMemberType*>(list->mChildren->GetKeyAtIndex(0))}) {
         auto* const pair = static_cast<ix_AttributeValuePair*>(member->getAnyAttributeValue()->GetKeyAtIndex(0));
         ASSERT_EQ(member->mAnyAttribute->Remove(pair), 1U);
-        IX_DELETE(pair);
+        ixDelete(pair);
     }
     const std::string text = Write(IX_XML_SCHEMA_RESOURCE_LISTS, root.get());
     EXPECT_EQ(text.substr(text.find("\n<list")), "\n<list \n<entry  uri=\"u\" </entry></list></resource-lists>");
     // Where there are entries, but none that can be written, the tag is closed.
-    ASSERT_EQ(list->addAnyAttribute(ixCreatePair(nullptr, "v", kSourceFile, __LINE__)), 1);
+    ASSERT_EQ(list->addAnyAttribute(ixCreatePair(nullptr, "v", "test", __LINE__)), 1);
     ASSERT_EQ(static_cast<ix_entryType*>(list->mChildren->GetKeyAtIndex(0))->mAnyAttribute->Add(nullptr), 1U);
     const std::string closed = Write(IX_XML_SCHEMA_RESOURCE_LISTS, root.get());
     EXPECT_EQ(closed.substr(closed.find("\n<list")), "\n<list>\n<entry  uri=\"u\"></entry></list></resource-lists>");
@@ -237,11 +253,11 @@ TEST_F(ListsTest, AnEmptyListOfAttributesLeavesTheStartTagOpen) {
 TEST_F(ListsTest, WithoutMemoryForItsFirstEntryThereIsNoList) {
     const OwnedElement root(Decode(IX_XML_SCHEMA_RESOURCE_LISTS, "<resource-lists><list/></resource-lists>"));
     auto* const list = static_cast<ix_listType*>(root.as<ix_resource_lists>()->mListList->GetKeyAtIndex(0));
-    ix_AttributeValuePair* const pair = ixCreatePair("a", "1", kSourceFile, __LINE__);
+    ix_AttributeValuePair* const pair = ixCreatePair("a", "1", "test", __LINE__);
     ixDplHostFailAllocation(2);
     EXPECT_EQ(list->addAnyAttribute(pair), 0);
     ixDplHostStopCounting();
-    IX_DELETE(pair);
+    ixDelete(pair);
     EXPECT_NE(Write(IX_XML_SCHEMA_RESOURCE_LISTS, root.get()).find("\n<list></list>"), std::string::npos);
 }
 
@@ -260,11 +276,8 @@ TEST_F(ListsTest, AChildIsWrittenByTheBeginningOfItsClassName) {
     } cases[] = {
         {"ix_list", {"2 <XML Module>: AddListElementToXml"}},
         {"ix_ext", {"2 <XML Module>: AddExternalElementToXml"}},
-        {"ix_entryT",
-         {"2 <XML Module>: AddEntryElementToXml", "4 <XML Module>: AddEntryElementToXml Uri mandatory attribute"}},
-        {"ix_entry_",
-         {"2 <XML Module>: AddEntryRefElementToXml",
-          "4 <XML Module>: AddEntryRefElementToXml attribute: ref mandatory attribute"}},
+        {"ix_entryT", {"2 <XML Module>: AddEntryElementToXml"}},
+        {"ix_entry_", {"2 <XML Module>: AddEntryRefElementToXml"}},
         {"ix_listTypes", {}},
         {nullptr, {}},
     };
@@ -274,7 +287,7 @@ TEST_F(ListsTest, AChildIsWrittenByTheBeginningOfItsClassName) {
         ASSERT_EQ(child.setValueValue(c.name), 1);
         ix_listType list;
         EXPECT_EQ(list.addChild(&child), 0);
-        ASSERT_EQ(ixAppend(list.mChildren, &child, kSourceFile, __LINE__), 1);
+        ASSERT_EQ(ixAppend(list.mChildren, &child, "test", __LINE__), 1);
         Marshaller marshaller;
         ClearLog();
         EXPECT_EQ(marshaller.AddListElementToXml(&list), 1);
@@ -286,6 +299,50 @@ TEST_F(ListsTest, AChildIsWrittenByTheBeginningOfItsClassName) {
     }
 }
 
+// Whatever an application puts into a list, the writers go on or fail; none of them crashes.
+TEST_F(ListsTest, ForeignEntriesAreWrittenAsIfTheyWereMissing) {
+    struct Named : ix_string {
+        const char* ClassName() const override { return mValue; }
+    };
+    const auto foreign = [](const char* className) -> XMLElement* {
+        auto* const element = ixNew<Named>(kSource);
+        EXPECT_EQ(element->setValueValue(className), 1);
+        return element;
+    };
+    // NULL, an object of another class, one without a class name, and one that only bears the right one.
+    for (int kind = 0; kind < 4; ++kind) {
+        SCOPED_TRACE(kind);
+        const auto entry = [&](const char* right) {
+            const char* const names[] = {nullptr, "ix_string", nullptr, right};
+            return kind != 0 ? foreign(names[kind]) : nullptr;
+        };
+        const OwnedElement lists(Decode(IX_XML_SCHEMA_RESOURCE_LISTS, "<resource-lists><list/></resource-lists>"));
+        IxSingleElementList* const outer = lists.as<ix_resource_lists>()->mListList;
+        auto* const list = static_cast<ix_listType*>(outer->GetKeyAtIndex(0));
+        ASSERT_EQ(list->addChild(m_binder.CreateExternalType()), 1);
+        ASSERT_EQ(list->mChildren->Add(entry("ix_entryType")), 1U);
+        ASSERT_EQ(outer->Add(entry("ix_listType")), 1U);
+        ClearLog();
+        const std::string text = Write(IX_XML_SCHEMA_RESOURCE_LISTS, lists.get());
+        EXPECT_EQ(text.substr(text.find("\n<list")), "\n<list>\n<external></external></list></resource-lists>");
+        EXPECT_TRUE(Logged("<XML Module>: AddResource_listsElementToXml tempNum: 1 "));
+        const OwnedElement services(
+            Decode(IX_XML_SCHEMA_RLS_SERVICES,
+                   "<rls-services><service uri=\"u\"><packages><package/></packages></service></rls-services>"));
+        IxSingleElementList* const all = services.as<ix_rls_services>()->mServiceList;
+        auto* const service = static_cast<ix_ns_rls_services_serviceType*>(all->GetKeyAtIndex(0));
+        ASSERT_EQ(all->Add(entry("ix_ns_rls_services_serviceType")), 1U);
+        ClearLog();
+        EXPECT_EQ(Write(IX_XML_SCHEMA_RLS_SERVICES, services.get()), "(null)");
+        EXPECT_TRUE(Logged("<XML Module>: AddServiceElementToXml XML Failed!"));
+        ASSERT_EQ(service->mPackages->mPackageList->Add(entry("ix_ns_rls_services_packageType")), 1U);
+        ClearLog();
+        EXPECT_EQ(Write(IX_XML_SCHEMA_RLS_SERVICES, services.get()), "(null)");
+        EXPECT_TRUE(Logged("<XML Module>: AddPackageElementToXml XML Failed!"));
+        EXPECT_TRUE(Logged("<XML Module>: AddPackagesElementToXml XML Failed!"));
+    }
+}
+
 TEST_F(ListsTest, ListsPassToTheElementAndReplaceTheEarlierOne) {
     const OwnedElement owner(m_binder.CreateListType());
     auto* const list = owner.as<ix_listType>();
@@ -293,13 +350,13 @@ TEST_F(ListsTest, ListsPassToTheElementAndReplaceTheEarlierOne) {
         ix_entryType* const entry = m_binder.CreateEntryType();
         ASSERT_EQ(entry->setUriValue(uri), 1);
         IxSingleElementList* children = nullptr;
-        ASSERT_EQ(ixAppend(children, entry, kSourceFile, __LINE__), 1);
+        ASSERT_EQ(ixAppend(children, entry, "test", __LINE__), 1);
         EXPECT_EQ(list->setChildrenValue(children), 1);
         IxSingleElementList* others = nullptr;
-        ASSERT_EQ(ixAppend(others, m_binder.CreateRootElement(), kSourceFile, __LINE__), 1);
+        ASSERT_EQ(ixAppend(others, m_binder.CreateRootElement(), "test", __LINE__), 1);
         EXPECT_EQ(list->setAnyElementListValue(others), 1);
         IxSingleElementList* pairs = nullptr;
-        ASSERT_EQ(ixAppend(pairs, ixCreatePair("u", uri, kSourceFile, __LINE__), kSourceFile, __LINE__), 1);
+        ASSERT_EQ(ixAppend(pairs, ixCreatePair("u", uri, "test", __LINE__), "test", __LINE__), 1);
         EXPECT_EQ(list->setAnyAttributeValue(pairs), 1);
     }
     EXPECT_EQ(TreeOf(list).dump(),

@@ -77,7 +77,9 @@ TEST_F(IdentityPresentationTest, EveryStepIsLogged) {
 }
 
 TEST_F(IdentityPresentationTest, TheSimservTypeTakesWhatItsClassesIgnore) {
-    ix_terminating_identity_presentation service;
+    class Service : public ix_ns_xcap_simservType {
+    } service;
+    ix_terminating_identity_presentation tip;
     char active[] = "active";
     char no[] = "false";
     char other[] = "other";
@@ -87,19 +89,50 @@ TEST_F(IdentityPresentationTest, TheSimservTypeTakesWhatItsClassesIgnore) {
       public:
         const char* ClassName() const override { return nullptr; }
     } nameless;
-    EXPECT_EQ(service.ProcessUnMarshallAttribute(other, no, &nameless), 1);
+    EXPECT_EQ(service.ProcessUnMarshallAttribute(other, no, &nameless), 0);
     EXPECT_EQ(service.mExtensionList, nullptr);
-    EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(nullptr, no, nullptr), 1);
-    EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(active, other, nullptr), 1);
+    EXPECT_EQ(service.ProcessUnMarshall(nullptr, no, nullptr), 1);
+    EXPECT_EQ(service.ProcessUnMarshall(active, other, nullptr), 1);
     EXPECT_EQ(service.mActive, 1);
-    EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(active, no, nullptr), 1);
+    EXPECT_EQ(service.ProcessUnMarshall(active, no, nullptr), 1);
     EXPECT_EQ(service.mActive, 0);
-    EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(active, no, &service), 0);
-    EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(other, no, nullptr), 1);
+    EXPECT_EQ(service.ProcessUnMarshall(active, no, &service), 0);
+    EXPECT_EQ(service.ProcessUnMarshall(other, no, nullptr), 1);
     EXPECT_EQ(Log().back().text, "Cannot accommodate the element other with value false");
     auto* const child = static_cast<ix_string*>(ixTrack(14, "test", 1, new ix_string, sizeof(ix_string)));
-    EXPECT_EQ(service.ix_ns_xcap_simservType::ProcessUnMarshall(other, no, child), 1);
+    EXPECT_EQ(tip.ProcessUnMarshall(other, no, child), 1);
+    EXPECT_EQ(tip.mAnyList, nullptr);
+    EXPECT_EQ(service.ProcessUnMarshall(other, no, child), 1);
     EXPECT_EQ(service.mAnyList->GetCount(), 1);
+}
+
+TEST_F(IdentityPresentationTest, TheAttributesAreRegisteredUnderTheServicesOwnFile) {
+    const struct {
+        eXMLSchemaID id;
+        std::string root;
+        std::string source;
+    } cases[] = {
+        {IX_XML_SCHEMA_COMMUNICATION_WAITING, "communication-waiting", "ims/xml/src/XMLCommunicationWaiting"},
+        {IX_XML_SCHEMA_OIP, "originating-identity-presentation", "ims/xml/src/XMLOriginatingIdentityPresentation"},
+        {IX_XML_SCHEMA_TIP, "terminating-identity-presentation", "ims/xml/src/XMLTerminatingIdentityPresentation"},
+        {kDiversion, "communication-diversion", "ims/xml/src/XMLCommunicationDiversion"},
+        {kBarring, "outgoing-communication-barring", "ims/xml/src/XMLCommunicationBarring"},
+    };
+    for (const auto& c : cases) {
+        const OwnedElement root(Decode(c.id, "<" + c.root + " xmlns=\"x\"/>"));
+        ASSERT_NE(root.get(), nullptr);
+        struct Search {
+            const void* list;
+            std::string found;
+        } search = {static_cast<ix_ns_xcap_simservType*>(root.get())->mExtensionList, ""};
+        ixDplHostVisitLedger(
+            [](const ixDplHostBlock& block, void* context) {
+                auto* const looked = static_cast<Search*>(context);
+                if (block.pointer == looked->list) looked->found = block.source;
+            },
+            &search);
+        EXPECT_EQ(search.found, c.source);
+    }
 }
 
 class RulesTest : public FamilyTest {
@@ -370,12 +403,82 @@ TEST_F(RulesTest, AFieldSetTwiceLeavesItsFirstValue) {
         EXPECT_STREQ(rule.mId, "second");
     }
     EXPECT_EQ(ixDplHostLedger().liveHeapBlocks, 1U);
+    {
+        ix_ns_common_policy_ruleset earlier;
+        ix_outgoing_communication_barring barring;
+        EXPECT_EQ(barring.setRulesetValue(&earlier), 1);
+        EXPECT_EQ(barring.setRulesetValue(CommunicationBarringDataBinder().CreateRuleSetElement()), 1);
+        EXPECT_EQ(barring.setRulesetValue(nullptr), 1);
+        EXPECT_NE(barring.mRuleset, nullptr);
+    }
     EXPECT_EQ(Field(kDiversion, "<cp:rule><cp:conditions/><cp:conditions><busy/></cp:conditions></cp:rule>",
                     "/conditions/any/0/name"),
               "busy");
     ExpectLeftBehind(1);
     EXPECT_EQ(Field(kBarring, "<incoming-communication-barring active=\"no\" ss:active=\"false\"/>", "/active"),
               "true");
+}
+
+// What an application puts into a list by mistake is taken for nothing, and no writer looks into it.
+TEST_F(RulesTest, ForeignEntriesEndTheListsThatMayFail) {
+    ix_string foreign;
+    const auto listOf = [](std::initializer_list<void*> entries) {
+        auto* const list = static_cast<IxSingleElementList*>(
+            ixTrack(14, "test", 1, new IxSingleElementList, sizeof(IxSingleElementList)));
+        for (void* entry : entries) list->Add(entry);
+        return list;
+    };
+    const auto borrowed = [](IxSingleElementList*& list) {
+        IxSingleElementList* const own = list;
+        list = nullptr;
+        ixDelete(own);
+    };
+    ix_ns_common_policy_ruleset ruleset;
+    ix_ns_common_policy_conditionsType conditions;
+    ix_ns_common_policy_identityType identity;
+    ix_ns_common_policy_oneType one;
+    ix_ns_common_policy_manyType many;
+    ix_ns_common_policy_validityType validity;
+    ix_ns_common_policy_extensibleType actions;
+    const struct {
+        XMLElement* root;
+        IxSingleElementList*& list;
+        void* entry;
+        const char* written;
+    } cases[] = {
+        {&ruleset, ruleset.mRuleList, &foreign, "(null)"},
+        {&ruleset, ruleset.mRuleList, nullptr, "(null)"},
+        {&conditions, conditions.mIdentityList, &foreign, "(null)"},
+        {&conditions, conditions.mSphereList, nullptr, "(null)"},
+        {&conditions, conditions.mValidityList, &one, "(null)"},
+        {&conditions, conditions.mOtherConditionsList, &foreign, "<cp:conditions></cp:conditions>"},
+        {&actions, actions.mElementList, nullptr, "<cp:actions></cp:actions>"},
+    };
+    for (const auto& c : cases) {
+        for (const eXMLSchemaID id : {kDiversion, kBarring}) {
+            c.list = listOf({c.entry});
+            EXPECT_EQ(Write(id, c.root), c.written) << c.root->ClassName();
+            borrowed(c.list);
+        }
+    }
+    EXPECT_TRUE(Logged("<XML Module>: AddRuleSetElementToXml Rule ID mandatory"));
+    // The walk over `many` and its exceptions cannot fail; a date of another class is one without a text.
+    conditions.mIdentityList = listOf({&identity});
+    identity.mManyList = listOf({&foreign, nullptr, &many});
+    many.mExceptList = listOf({&foreign, nullptr});
+    conditions.mValidityList = listOf({&validity});
+    validity.mFromList = listOf({&one});
+    validity.mUntilList = listOf({nullptr});
+    EXPECT_EQ(Write(kDiversion, &conditions),
+              "<cp:conditions>\n<cp:identity>\n<cp:many </cp:many></cp:identity>\n<cp:validity>\n<cp:from></cp:from>\n"
+              "<cp:until></cp:until></cp:validity></cp:conditions>");
+    identity.mOneList = listOf({&many});
+    EXPECT_EQ(Write(kDiversion, &conditions), "(null)");
+    for (IxSingleElementList** list :
+         {&conditions.mIdentityList, &conditions.mValidityList, &identity.mManyList, &identity.mOneList,
+          &many.mExceptList, &validity.mFromList, &validity.mUntilList}) {
+        borrowed(*list);
+    }
 }
 
 TEST_F(RulesTest, BarringNeedsADirectionAndSaysWhatItDoes) {
@@ -456,7 +559,7 @@ TEST_F(RulesTest, DecodersRefuseEventsWithoutNames) {
     /// Calls what a decoder derived from it might call before there was any element.
     class Diversion : public XMLCommunicationDiversionDecoder {
       public:
-        int OtherElementFirst(char* name) { return OtherElement(name, nullptr); }
+        int OtherElementFirst(char* name) { return OtherElement(XmlTag(name), nullptr); }
     } diversion;
     XMLCommunicationBarringDecoder barring;
     const struct {
@@ -682,7 +785,8 @@ TEST_F(SimservsTest, EveryStepIsLogged) {
     ixTrack(14, "test", 1, other, sizeof *other);
     root.as<ix_Simservs>()->addService(factory->CreateRootElement());
     root.as<ix_Simservs>()->addService(other);
-    root.as<ix_Simservs>()->addService(nullptr);
+    EXPECT_EQ(root.as<ix_Simservs>()->addService(nullptr), 0);
+    root.as<ix_Simservs>()->mServiceList->Add(nullptr);
     const OwnedContext oip(IX_XML_SCHEMA_OIP);
     root.as<ix_Simservs>()->addService(oip->createBinderFactory()->CreateRootElement());
     ClearLog();

@@ -113,6 +113,8 @@ TEST_F(XcapErrorTest, EveryValueInUseIsWrittenAndAMissingOneLogged) {
     failure->setExistsListValue(binder.CreateList());
     failure->addExists(first);
     failure->mExistsList->Add(nullptr);
+    failure->mExistsList->Add(binder.CreateNo_parentElement());
+    EXPECT_EQ(failure->addExists(nullptr), 0);
     failure->addExists(binder.CreateExistsElement());
     ClearLog();
     const std::string written = Write(IX_XML_SCHEMA_XCAP_ERROR, &root);
@@ -126,6 +128,8 @@ TEST_F(XcapErrorTest, EveryValueInUseIsWrittenAndAMissingOneLogged) {
                            "2 Xcap_ErrorMarshall::AddExistsElementToXml",
                            "2 Xcap_ErrorMarshall::AddExistsElementToXml",
                            "2 AddExistsElementToXml tempNum: 1 ",
+                           "2 Xcap_ErrorMarshall::AddExistsElementToXml",
+                           "2 AddExistsElementToXml tempNum: 2 ",
                            "2 Xcap_ErrorMarshall::AddExistsElementToXml",
                            "2 Xcap_ErrorMarshall XML " + written};
     EXPECT_EQ(Said("XMLXcapError"), lines);
@@ -255,7 +259,8 @@ TEST_F(XcapTest, HooksRefuseWhatTheyCannotKeep) {
                    {folder, "/error-code", nullptr, 1, "kept"},
                    {folder, "/error-code", nullptr, 1},
                    {folder, "/error-code", &entry, 0, "other"},
-                   {folder, "error-code", nullptr, 1, "other"}});
+                   {folder, "error-code", nullptr, 1, "other"},
+                   {folder, "error-code", &entry, 1, "other"}});
     ix_AttributeValuePair pair;
     const struct {
         XMLElement& to;
@@ -271,7 +276,7 @@ TEST_F(XcapTest, HooksRefuseWhatTheyCannotKeep) {
         char value[] = "17";
         char other[] = "18";
         EXPECT_EQ(c.to.ProcessUnMarshallAttribute(name, value, nullptr), 1);
-        EXPECT_EQ(c.to.ProcessUnMarshallAttribute(name, nullptr, nullptr), 1);  // only a size takes it, as 0
+        EXPECT_EQ(c.to.ProcessUnMarshallAttribute(name, nullptr, nullptr), 1);
         EXPECT_EQ(c.to.ProcessUnMarshallAttribute(name, other, &pair), c.answerWithPair);
         char unknown[] = "unknown";
         EXPECT_EQ(c.to.ProcessUnMarshallAttribute(unknown, other, nullptr), 1);
@@ -284,8 +289,8 @@ TEST_F(XcapTest, HooksRefuseWhatTheyCannotKeep) {
     EXPECT_EQ(trees, nlohmann::ordered_json::parse(R"([
         {"class": "ix_xcap_error"}, {"class": "ix_no_parent", "phrase": "17", "ancestor": "kept"},
         {"class": "ix_uniqueness_failure"}, {"class": "ix_exists", "field": "17"}, {"class": "ix_xcap_directory"},
-        {"class": "ix_folder", "error-code": "kept", "auid": "17"},
-        {"class": "ix_entry", "uri": "17", "etag": "17", "last-modified": "17"}])"));
+        {"class": "ix_folder", "auid": "17", "error-code": "kept"},
+        {"class": "ix_entry", "uri": "17", "last-modified": "17", "size": 17, "etag": "17"}])"));
 }
 
 TEST_F(XcapTest, BadInputGivesAClearAnswer) {

@@ -41,7 +41,7 @@ void FamilyTest::ExpectTakesItsChildOnly(XMLElement& element, const std::string&
     EXPECT_EQ(Offer(element, name.c_str(), nullptr, &nameless), 1);
     EXPECT_EQ(Offer(element, (name + "s").c_str(), nullptr, &other), 1);
     EXPECT_EQ(Offer(element, nullptr, nullptr, nullptr), 1);
-    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+    for (const XmlFieldTable* table = ixRowsOf(element); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) EXPECT_FALSE(XmlFields::IsSet(element, table->fields[i])) << i;
     }
 }

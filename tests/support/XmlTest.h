@@ -64,6 +64,12 @@ std::string ReadFile(const std::string& path);
 /// The files of a folder and its sub-folders, sorted; empty when there is no such folder.
 std::vector<std::string> FilesBelow(const std::string& folder);
 
+/// Appends to a list, which is created on first use. @return 1, or 0 without memory.
+inline int ixAppend(IxSingleElementList*& list, void* entry, const char* source, int line) {
+    if (list == nullptr) list = ixNew<IxSingleElementList>(source, line);
+    return list != nullptr && list->Add(entry) != 0 ? 1 : 0;
+}
+
 /// A context that deletes itself.
 class OwnedContext {
   public:

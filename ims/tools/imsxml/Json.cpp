@@ -59,7 +59,7 @@ void AddFields(Json& object, const XMLElement& element, const XmlFieldTable& tab
 
 Json ToJson(const XMLElement& element) {
     Json object = {{"class", TextOrNull(element.ClassName())}};
-    const XmlFieldTable* const table = element.FieldTable();
+    const XmlFieldTable* const table = ixRowsOf(element);
     if (table != nullptr) AddFields(object, element, *table);
     return object;
 }

@@ -3,9 +3,9 @@
 #ifndef IX_BOOTSTRAPPING_INFO_H
 #define IX_BOOTSTRAPPING_INFO_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLBootstrappingInfoDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLBootstrappingInfoDecoder : public XmlFamilyDecoder {
   public:
     XMLBootstrappingInfoDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_CW_INDICATION_H
 #define IX_CW_INDICATION_H
 
-#include "XmlOldFamily.h"
+#include "XMLImsBody.h"
 
-class IX_XML_EXPORT XMLCWIndicationDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLCWIndicationDecoder : public XmlImsBodyDecoder {
   public:
     XMLCWIndicationDecoder();
 };

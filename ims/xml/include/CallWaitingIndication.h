@@ -3,15 +3,15 @@
 #ifndef IX_CALL_WAITING_INDICATION_H
 #define IX_CALL_WAITING_INDICATION_H
 
-#include "XmlOldFamily.h"
+#include "XMLImsBody.h"
 
-class IX_XML_EXPORT XMLCallWaitingIndicationDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLCallWaitingIndicationDecoder : public XmlImsBodyDecoder {
   public:
     XMLCallWaitingIndicationDecoder();
 
   protected:
     /// The end of the indication, which is never on the stack, goes to the object on top like that of any element.
-    int EndElement(char* name, char* text) override;
+    int EndElement(const XmlTag& tag, char* text) override;
 };
 
 #endif

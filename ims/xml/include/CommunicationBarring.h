@@ -3,9 +3,9 @@
 #ifndef IX_COMMUNICATION_BARRING_H
 #define IX_COMMUNICATION_BARRING_H
 
-#include "XmlOldFamily.h"
+#include "SimservsRules.h"
 
-class IX_XML_EXPORT XMLCommunicationBarringDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLCommunicationBarringDecoder : public XmlRuleDecoder {
   public:
     XMLCommunicationBarringDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_FT_H
 #define IX_FT_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLFileDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLFileDecoder : public XmlFamilyDecoder {
   public:
     XMLFileDecoder();
 };

@@ -3,15 +3,15 @@
 #ifndef IX_GRUU_H
 #define IX_GRUU_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLGruuDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLGruuDecoder : public XmlFamilyDecoder {
   public:
     XMLGruuDecoder();
 
   protected:
     /// Elements other than the two roots are ignored.
-    int OtherElement(char* name, char* text) override;
+    int OtherElement(const XmlTag& /*tag*/, char* /*text*/) override { return 0; }
 };
 
 #endif

@@ -3,9 +3,9 @@
 #ifndef IX_IMDN_H
 #define IX_IMDN_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLImdnDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLImdnDecoder : public XmlFamilyDecoder {
   public:
     XMLImdnDecoder();
 };

@@ -3,11 +3,15 @@
 #ifndef IX_IS_COMPOSING_H
 #define IX_IS_COMPOSING_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLIsComposingDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLIsComposingDecoder : public XmlFamilyDecoder {
   public:
     XMLIsComposingDecoder();
+
+  protected:
+    /// Offers the attribute as if it were an element.
+    int OtherAttribute(XMLElement& receiver, char* attribute, char* value) override;
 };
 
 #endif

@@ -3,9 +3,9 @@
 #ifndef IX_ORIGINATING_IDENTITY_PRESENTATION_H
 #define IX_ORIGINATING_IDENTITY_PRESENTATION_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLOIPDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLOIPDecoder : public XmlFamilyDecoder {
   public:
     XMLOIPDecoder();
 };

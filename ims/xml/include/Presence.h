@@ -3,9 +3,9 @@
 #ifndef IX_PRESENCE_H
 #define IX_PRESENCE_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLPresenceDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLPresenceDecoder : public XmlFamilyDecoder {
   public:
     XMLPresenceDecoder();
 
@@ -16,18 +16,11 @@ class IX_XML_EXPORT XMLPresenceDecoder : public XmlOldFamilyDecoder {
     XMLElement* ProcessAnyElement(char* name, char* data);
 
   protected:
-    int StartElement(char* name) override;
-    int EndElement(char* name, char* text) override;
-    int OtherElement(char* name, char* text) override;
+    int StartElement(const XmlTag& tag) override;
+    int EndElement(const XmlTag& tag, char* text) override;
 
   private:
-    /// Where an element comes from.
-    enum Origin { Pidf, Extension, Unknown };
-
-    Origin OriginOf(const char* name) const;
-    void LogOutside(const char* name) const;
-
-    XmlOldRowIndex m_names;
+    int ForeignElement(const XmlTag& tag, char* text);
 };
 
 #endif

@@ -3,9 +3,9 @@
 #ifndef IX_RCS_TERMS_INFO_H
 #define IX_RCS_TERMS_INFO_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLRcsTermsInfoDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLRcsTermsInfoDecoder : public XmlFamilyDecoder {
   public:
     XMLRcsTermsInfoDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_REGINFO_DECODER_H
 #define IX_REGINFO_DECODER_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLReginfoDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLReginfoDecoder : public XmlFamilyDecoder {
   public:
     XMLReginfoDecoder();
 
@@ -15,9 +15,12 @@ class IX_XML_EXPORT XMLReginfoDecoder : public XmlOldFamilyDecoder {
     XMLElement* ProcessAnyElement(char* name, char* text);
 
   protected:
-    int EndElement(char* name, char* text) override;
-    int OtherElement(char* name, char* text) override;
+    int EndElement(const XmlTag& tag, char* text) override;
+    int OtherElement(const XmlTag& tag, char* text) override;
     int OtherAttribute(XMLElement& receiver, char* attribute, char* value) override;
+
+  private:
+    XMLElement* AnyElement(const XmlTag& tag);
 };
 
 #endif

@@ -3,9 +3,9 @@
 #ifndef IX_RESOURCE_LISTS_H
 #define IX_RESOURCE_LISTS_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLResourceListsDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLResourceListsDecoder : public XmlFamilyDecoder {
   public:
     XMLResourceListsDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_RLS_SERVICES_H
 #define IX_RLS_SERVICES_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLRlsServicesDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLRlsServicesDecoder : public XmlFamilyDecoder {
   public:
     XMLRlsServicesDecoder();
 };

@@ -3,14 +3,14 @@
 #ifndef IX_SIMSERVS_H
 #define IX_SIMSERVS_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLSimservsDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLSimservsDecoder : public XmlFamilyDecoder {
   public:
     XMLSimservsDecoder();
 
   protected:
-    int StartElement(char* name) override;
+    int StartElement(const XmlTag& tag) override;
 };
 
 #endif

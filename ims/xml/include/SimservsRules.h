@@ -5,26 +5,30 @@
 
 #include "XMLSimservsXcap.h"
 
-/// Containers and attributes of rules, their conditions and actions, to be shared by `XmlOldDecoderInfo::shared`.
+/// Containers of rules, their conditions and actions, to be shared by `XmlDecoderInfo::shared`.
 ///
-/// Elements of common-policy must have the canonical prefix `cp`, those of the services may have `ss`. What is none of
-/// them goes to the object on top of the stack, under its local name.
-extern IX_XML_EXPORT const XmlOldDecoderInfo kRuleDecoderInfo;
+/// Elements of common-policy must have the canonical prefix `cp`, those of the services may have `ss`.
+extern IX_XML_EXPORT const XmlContainerTable kRuleContainers;
 
-/// What the decoders of these services share; the log lines are their own.
-/// @param pairLine source line under which attribute pairs are registered.
-/// @param containers the roots, and what the service has in its rules besides the shared elements.
-/// @param attributes those of the roots.
-template <std::size_t containerCount, std::size_t attributeCount>
-constexpr XmlOldDecoderInfo ixRuleServiceDecoderInfo(const char* source, int pairLine,
-                                                  const XmlOldContainerRow (&containers)[containerCount],
-                                                  const XmlOldAttributeRow (&attributes)[attributeCount]) {
-    XmlOldDecoderInfo info = ixServiceDecoderInfo(source, pairLine, containers, attributes);
-    info.handsOnLocalNames = true;
-    info.takesFragments = true;
-    info.attributePolicy = XmlOldAttributePolicy::RootPairs;
-    info.shared = &kRuleDecoderInfo;
-    return info;
+/// What the decoders of these services share.
+/// @param info the roots, and what the service has in its rules besides the shared elements.
+/// @param texts the log lines of the service.
+constexpr XmlDecoderInfo ixRuleServiceDecoderInfo(const XmlDecoderInfo& info, const XmlDecoderTexts& texts) {
+    XmlDecoderInfo shared = ixServiceDecoderInfo(info, texts);
+    shared.attributes = XmlAttributePolicy::RootPairs;
+    shared.shared = &kRuleContainers;
+    return shared;
 }
+
+/// Base of these decoders.
+class IX_XML_EXPORT XmlRuleDecoder : public XmlFamilyDecoder {
+  protected:
+    using XmlFamilyDecoder::XmlFamilyDecoder;
+
+    /// What is no container goes to the object on top of the stack under its local name.
+    int OtherElement(const XmlTag& tag, char* text) override;
+    /// The outermost container is the result: a part of a document, too. A root inside of one is a part like any other.
+    bool IsResult(const XmlContainerRow& row) const override;
+};
 
 #endif

@@ -3,9 +3,9 @@
 #ifndef IX_TERMINATING_IDENTITY_PRESENTATION_H
 #define IX_TERMINATING_IDENTITY_PRESENTATION_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLTIPDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLTIPDecoder : public XmlFamilyDecoder {
   public:
     XMLTIPDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_VOLTE_CONFIG_INFO_H
 #define IX_VOLTE_CONFIG_INFO_H
 
-#include "XmlOldFamily.h"
+#include "XMLCharacteristic.h"
 
-class IX_XML_EXPORT XMLVolteConfigInfoDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLVolteConfigInfoDecoder : public XmlCharacteristicDecoder {
   public:
     XMLVolteConfigInfoDecoder();
 };

@@ -3,9 +3,9 @@
 #ifndef IX_WAP_PROVISIONING_DOC_H
 #define IX_WAP_PROVISIONING_DOC_H
 
-#include "XmlOldFamily.h"
+#include "XMLCharacteristic.h"
 
-class IX_XML_EXPORT XMLWapProvisioningDocDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLWapProvisioningDocDecoder : public XmlCharacteristicDecoder {
   public:
     XMLWapProvisioningDocDecoder();
 };

@@ -9,33 +9,25 @@
 #ifndef IX_XML_BOOTSTRAPPING_INFO_H
 #define IX_XML_BOOTSTRAPPING_INFO_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// The element `BootstrappingInfo`.
-class IX_XML_EXPORT ix_bootstrappinginfo : public XMLObject {
+class IX_XML_EXPORT ix_bootstrappinginfo : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_bootstrappinginfo";
+    static const XmlClass kClass;
 
-    ~ix_bootstrappinginfo() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "BootstrappingInfo"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_bootstrappinginfo() : XmlDescribedObject(kClass) {}
+    ~ix_bootstrappinginfo() override { ixRelease(*this, kClass); }
 
     /// Copies `btid`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setBtidValue(const char* btid) { return ixSetText(mBtid, btid); }
     /// Copies `lifetime`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setLifetimeValue(const char* lifetime) { return ixSetText(mLifetime, lifetime); }
     /// Takes over a list of elements in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
-    /// Appends `element`, which then belongs to the root. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addAnyElement(XMLElement* element);
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
+    /// Appends `element`, which then belongs to the root. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
 
     char* mBtid = nullptr;      ///< Owned; the identifier of the bootstrapping transaction. NULL: not set.
     char* mLifetime = nullptr;  ///< Owned; date and time of its expiry, as in the text. NULL: not set.
@@ -48,29 +40,27 @@ class IX_XML_EXPORT BootstrappingInfoDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT BootstrappingInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT BootstrappingInfoUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    BootstrappingInfoUnMarshaller();
 };
 
 /// Writes the XML declaration and the document. A text that is not set is logged and left out.
-class IX_XML_EXPORT BootstrappingInfoMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT BootstrappingInfoMarshaller : public XmlFamilyMarshaller {
   public:
     BootstrappingInfoMarshaller();
 
     /// @return 1, or 0 for NULL.
     int AddBootstrappingInfoElementToXml(ix_bootstrappinginfo* element);
-    /// Nothing for NULL. @return 1.
+    /// @return 1, or 0 for NULL.
     int AddBtidElementToXml(const char* btid);
-    /// Nothing for NULL. @return 1.
+    /// @return 1, or 0 for NULL.
     int AddLifetimeElementToXml(const char* lifetime);
 };
 
-class IX_XML_EXPORT BootstrappingInfoContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT BootstrappingInfoContext : public XmlFamilyContext {
+  public:
+    BootstrappingInfoContext();
 };
 
 #endif

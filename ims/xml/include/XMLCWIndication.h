@@ -15,41 +15,32 @@
 #include "XMLImsBody.h"
 
 /// The element `alternative-service`.
-class IX_XML_EXPORT ix_alternative_service : public XMLElement {
+class IX_XML_EXPORT ix_alternative_service : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_alternative_service";
+    static const XmlClass kClass;
 
-    ~ix_alternative_service() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "AlternativeService"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_alternative_service() : XmlDescribedElement(kClass) {}
+    ~ix_alternative_service() override { ixRelease(*this, kClass); }
 
     /// @name Each copies its text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     /// @{
-    int setActionValue(const char* action) { return ixSetText(mAction, action); }
     int setTypeValue(const char* type) { return ixSetText(mType, type); }
     int setReasonValue(const char* reason) { return ixSetText(mReason, reason); }
+    int setActionValue(const char* action) { return ixSetText(mAction, action); }
     /// @}
 
-    char* mAction = nullptr;  ///< Owned; what is to be done. NULL: not set.
     char* mType = nullptr;    ///< Owned; the kind of service. NULL: not set.
     char* mReason = nullptr;  ///< Owned; why, for people. NULL: not set.
+    char* mAction = nullptr;  ///< Owned; what is to be done. NULL: not set.
 };
 
 /// The element `ims-3gpp`.
 class IX_XML_EXPORT ix_ims_3gpp : public ix_imsBodyType {
   public:
-    static constexpr char kClassName[] = "ix_ims_3gpp";
+    static const XmlClass kClass;
 
-    ~ix_ims_3gpp() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Ims3gpp"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ims_3gpp() : ix_imsBodyType(kClass) {}
+    ~ix_ims_3gpp() override { ixRelease(*this, kClass); }
 
     /// Takes over the service in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setAlternativeServiceValue(ix_alternative_service* service) { return ixSetChild(mAlternativeService, service); }
@@ -58,9 +49,6 @@ class IX_XML_EXPORT ix_ims_3gpp : public ix_imsBodyType {
 
     ix_alternative_service* mAlternativeService = nullptr;  ///< Owned; NULL: not set.
     char* mServiceInfo = nullptr;                           ///< Owned; NULL: not set.
-
-  protected:
-    const char* SourceFile() const override;
 };
 
 /// Creates the elements of the schema; each creator yields NULL without memory.
@@ -71,9 +59,9 @@ class IX_XML_EXPORT CWIndicationDataBinder : public XMLObjectFactory {
     ix_alternative_service* CreateAlternativeServiceElement();
 };
 
-class IX_XML_EXPORT CWIndicationUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT CWIndicationUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    CWIndicationUnMarshaller();
 };
 
 /// Writes the document without XML declaration.
@@ -88,11 +76,9 @@ class IX_XML_EXPORT CWIndicationMarshaller : public XmlImsBodyMarshaller {
     /// @}
 };
 
-class IX_XML_EXPORT CWIndicationContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT CWIndicationContext : public XmlFamilyContext {
+  public:
+    CWIndicationContext();
 };
 
 #endif

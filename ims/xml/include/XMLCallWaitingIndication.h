@@ -14,18 +14,12 @@
 #include "XMLImsBody.h"
 
 /// The element `action`: what the caller is told.
-class IX_XML_EXPORT ix_ns_call_waiting_indication_action : public XMLElement {
+class IX_XML_EXPORT ix_ns_call_waiting_indication_action : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_call_waiting_indication_action";
+    static const XmlClass kClass;
 
-    ~ix_ns_call_waiting_indication_action() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Action"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_call_waiting_indication_action() : XmlDescribedElement(kClass) {}
+    ~ix_ns_call_waiting_indication_action() override { ixRelease(*this, kClass); }
 
     /// Takes over the indication in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setCallWaitingIndicationValue(ix_empty_element_type* indication) {
@@ -36,18 +30,12 @@ class IX_XML_EXPORT ix_ns_call_waiting_indication_action : public XMLElement {
 };
 
 /// The element `alternative-service`.
-class IX_XML_EXPORT ix_ns_call_waiting_indication_alternative_service : public XMLElement {
+class IX_XML_EXPORT ix_ns_call_waiting_indication_alternative_service : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_call_waiting_indication_alternative_service";
+    static const XmlClass kClass;
 
-    ~ix_ns_call_waiting_indication_alternative_service() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "AlternativeService"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_call_waiting_indication_alternative_service() : XmlDescribedElement(kClass) {}
+    ~ix_ns_call_waiting_indication_alternative_service() override { ixRelease(*this, kClass); }
 
     /// Takes over the action in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setActionValue(ix_ns_call_waiting_indication_action* action) { return ixSetChild(mAction, action); }
@@ -58,13 +46,10 @@ class IX_XML_EXPORT ix_ns_call_waiting_indication_alternative_service : public X
 /// The element `3gpp-ims`.
 class IX_XML_EXPORT ix_3gpp_ims : public ix_imsBodyType {
   public:
-    static constexpr char kClassName[] = "ix_3gpp_ims";
+    static const XmlClass kClass;
 
-    ~ix_3gpp_ims() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "3gppIms"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_3gpp_ims() : ix_imsBodyType(kClass) {}
+    ~ix_3gpp_ims() override { ixRelease(*this, kClass); }
 
     /// Takes over the service in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setAlternativeServiceValue(ix_ns_call_waiting_indication_alternative_service* service) {
@@ -72,9 +57,6 @@ class IX_XML_EXPORT ix_3gpp_ims : public ix_imsBodyType {
     }
 
     ix_ns_call_waiting_indication_alternative_service* mAlternativeService = nullptr;  ///< Owned; NULL: not set.
-
-  protected:
-    const char* SourceFile() const override;
 };
 
 /// Creates the elements of the schema; each creator yields NULL without memory.
@@ -88,13 +70,13 @@ class IX_XML_EXPORT CallWaitingIndicationDataBinder : public XMLObjectFactory {
     ix_empty_element_type* CreateCallWaitingIndicationElement();
 };
 
-class IX_XML_EXPORT CallWaitingIndicationUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT CallWaitingIndicationUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    CallWaitingIndicationUnMarshaller();
 };
 
 /// Writes the document without XML declaration. An element without its child is written empty; an indication that is
-/// not present fails the whole document.
+/// not present fails the whole document, and one without a name writes nothing.
 class IX_XML_EXPORT CallWaitingIndicationMarshaller : public XmlImsBodyMarshaller {
   public:
     CallWaitingIndicationMarshaller();
@@ -104,16 +86,14 @@ class IX_XML_EXPORT CallWaitingIndicationMarshaller : public XmlImsBodyMarshalle
     int Add3gppImsElementToXml(ix_3gpp_ims* element);
     int AddAlternativeServiceElementToXml(ix_ns_call_waiting_indication_alternative_service* service);
     int AddActionElementToXml(ix_ns_call_waiting_indication_action* action);
-    /// Fails, too, when the indication is not present or has no name.
+    /// Fails, too, when the indication is not present.
     int AddCallWaitingIndicationElementToXml(ix_empty_element_type* indication);
     /// @}
 };
 
-class IX_XML_EXPORT CallWaitingIndicationContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT CallWaitingIndicationContext : public XmlFamilyContext {
+  public:
+    CallWaitingIndicationContext();
 };
 
 #endif

@@ -10,19 +10,15 @@
 #define IX_XML_CAPS_H
 
 #include "XmlElementSupport.h"
-#include "XmlFields.h"
 
 /// The content of `supported` and `notsupported` inside `duplex`: kinds of duplex, each there or not.
-class IX_XML_EXPORT ix_ns_caps_duplextypes : public XMLElement {
+class IX_XML_EXPORT ix_ns_caps_duplextypes : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_caps_duplextypes";
+    static const XmlClass kClass;
 
-    ~ix_ns_caps_duplextypes() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "DuplexTypes"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_ns_caps_duplextypes() : XmlDescribedElement(kClass) {}
+    ~ix_ns_caps_duplextypes() override { ixRelease(*this, kClass); }
+    /// Takes the text at the end tag of a kind as that kind; any object becomes one of the other children.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Each takes over its object in place of the earlier one, which is deleted; NULL: the kind is not there.
@@ -32,10 +28,10 @@ class IX_XML_EXPORT ix_ns_caps_duplextypes : public XMLElement {
     int setReceiveOnlyValue(ix_string* receiveOnly) { return ixSetChild(mReceiveOnly, receiveOnly); }
     int setSendOnlyValue(ix_string* sendOnly) { return ixSetChild(mSendOnly, sendOnly); }
     /// Takes over the list in place of the earlier one, which is deleted; NULL: none. @return 1.
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
-    /// Appends an element, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addAnyElement(XMLElement* element);
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
+    /// Appends an element, which then belongs to this one. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
 
     /// @name The kinds of duplex, with the text of their element, usually empty. Owned; NULL: not there.
     /// @{
@@ -48,17 +44,12 @@ class IX_XML_EXPORT ix_ns_caps_duplextypes : public XMLElement {
 };
 
 /// The element `duplex`: which kinds of duplex a service supports.
-class IX_XML_EXPORT ix_ns_caps_duplextype : public XMLElement {
+class IX_XML_EXPORT ix_ns_caps_duplextype : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_caps_duplextype";
+    static const XmlClass kClass;
 
-    ~ix_ns_caps_duplextype() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "DuplexType"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_caps_duplextype() : XmlDescribedElement(kClass) {}
+    ~ix_ns_caps_duplextype() override { ixRelease(*this, kClass); }
 
     /// Each takes over its object in place of the earlier one, which is deleted; NULL: none. @return 1.
     int setSupportedValue(ix_ns_caps_duplextypes* supported) { return ixSetChild(mSupported, supported); }
@@ -69,18 +60,13 @@ class IX_XML_EXPORT ix_ns_caps_duplextype : public XMLElement {
 };
 
 /// The element `servcaps`: what the service of a tuple is capable of.
-class IX_XML_EXPORT ix_ns_caps_servcaps : public XMLElement {
+class IX_XML_EXPORT ix_ns_caps_servcaps : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_caps_servcaps";
+    static const XmlClass kClass;
     static constexpr int kNotSet = 2;
 
-    ~ix_ns_caps_servcaps() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "ServcapsType"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_caps_servcaps() : XmlDescribedElement(kClass) {}
+    ~ix_ns_caps_servcaps() override { ixRelease(*this, kClass); }
 
     /// @return 1.
     int setAudioValue(int audio) { return ixSetNumber(mAudio, audio); }

@@ -15,30 +15,22 @@
 #ifndef IX_XML_CHARACTERISTIC_H
 #define IX_XML_CHARACTERISTIC_H
 
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
-
-/// The names of the two elements.
-inline constexpr char kCharacteristicName[] = "characteristic";
-inline constexpr char kParmName[] = "parm";
+#include "XmlFamily.h"
 
 /// The element `parm`: one setting.
-class IX_XML_EXPORT ix_parm : public XMLElement {
+class IX_XML_EXPORT ix_parm : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_parm";
+    static const XmlClass kClass;
 
-    ~ix_parm() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Parm"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_parm() : XmlDescribedElement(kClass) {}
+    ~ix_parm() override { ixRelease(*this, kClass); }
+    /// As the rows say; an attribute comes as an element does.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Copies `name`; NULL changes nothing. @return 1, or 0 without memory, the earlier name kept.
-    int setParmName(const char* name);
+    int setParmName(const char* name) { return name != nullptr ? ixSetText(mName, name) : 1; }
     /// Copies `value`; NULL changes nothing. @return 1, or 0 without memory, the earlier value kept.
-    int setParmValue(const char* value);
+    int setParmValue(const char* value) { return value != nullptr ? ixSetText(mValue, value) : 1; }
     /// The name, which stays with the element; NULL: not set.
     char* getParmName() const { return mName; }
     /// The value, which stays with the element; NULL: not set.
@@ -49,31 +41,30 @@ class IX_XML_EXPORT ix_parm : public XMLElement {
 };
 
 /// The element `characteristic`: a group of settings.
-class IX_XML_EXPORT ix_characteristic : public XMLElement {
+class IX_XML_EXPORT ix_characteristic : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_characteristic";
+    static const XmlClass kClass;
 
-    ~ix_characteristic() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Characteristic"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_characteristic() : XmlDescribedElement(kClass) {}
+    ~ix_characteristic() override { ixRelease(*this, kClass); }
+    /// As the rows say; an attribute comes as an element does.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Copies `type`; NULL changes nothing. @return 1, or 0 without memory, the earlier type kept.
-    int setTypeValue(const char* type);
+    int setTypeValue(const char* type) { return type != nullptr ? ixSetText(mType, type) : 1; }
     /// Takes over a list of `ix_parm`s, in place of an earlier one, which is deleted. NULL clears the field. @return 1.
-    int setParmList(IxSingleElementList* list);
-    /// Appends `parm`, which then belongs to the element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addParm(ix_parm* parm);
+    int setParmList(IxSingleElementList* list) { return ixSetList(*this, mParmList, list); }
+    /// Appends `parm`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addParm(ix_parm* parm) { return ixAdd(*this, mParmList, parm); }
     /// Takes over a list of `ix_characteristic`s, in place of an earlier one, which is deleted. NULL clears the field.
     /// @return 1.
-    int setCharacteristicList(IxSingleElementList* list);
-    /// Appends `characteristic`, which then belongs to the element. @return 1, or 0 without memory, when it stays with
-    /// the caller.
-    int addCharacteristic(ix_characteristic* characteristic);
+    int setCharacteristicList(IxSingleElementList* list) { return ixSetList(*this, mCharacteristicList, list); }
+    /// Appends `characteristic`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
+    int addCharacteristic(ix_characteristic* characteristic) {
+        return ixAdd(*this, mCharacteristicList, characteristic);
+    }
     /// The list, which stays with the element; NULL: none.
     IxSingleElementList* getCharacteristicList() const { return mCharacteristicList; }
 
@@ -82,30 +73,34 @@ class IX_XML_EXPORT ix_characteristic : public XMLElement {
     IxSingleElementList* mCharacteristicList = nullptr;  ///< Owned `ix_characteristic`s, the same; NULL: none.
 };
 
-/// The root of both documents.
-class IX_XML_EXPORT ix_characteristicDocType : public XMLObject {
+/// The root of both documents, each of which derives its own.
+class IX_XML_EXPORT ix_characteristicDocType : public XmlDescribedObject {
   public:
-    ~ix_characteristicDocType() override;
-    const char* BaseClassName() const override { return "XMLObject"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
+    static const XmlClass kClass;
+
+    ~ix_characteristicDocType() override { ixRelease(*this, kClass); }
+    /// As the rows say; an attribute comes as an element does, and a `parm` is refused.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Copies `version`; NULL changes nothing. @return 1, or 0 without memory, the earlier version kept.
-    int setVersionValue(const char* version);
+    int setVersionValue(const char* version) { return version != nullptr ? ixSetText(mVersion, version) : 1; }
     /// Takes over a list of `ix_characteristic`s, in place of an earlier one, which is deleted. NULL clears the field.
     /// @return 1.
-    int setCharacteristicList(IxSingleElementList* list);
-    /// Appends `characteristic`, which then belongs to the element. @return 1, or 0 without memory, when it stays with
-    /// the caller.
-    int addCharacteristic(ix_characteristic* characteristic);
+    int setCharacteristicList(IxSingleElementList* list) { return ixSetList(*this, mCharacteristicList, list); }
+    /// Appends `characteristic`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
+    int addCharacteristic(ix_characteristic* characteristic) {
+        return ixAdd(*this, mCharacteristicList, characteristic);
+    }
     /// The list, which stays with the element; NULL: none.
     IxSingleElementList* getCharacteristicList() const { return mCharacteristicList; }
 
     char* mVersion = nullptr;                            ///< Owned; NULL: not set.
     IxSingleElementList* mCharacteristicList = nullptr;  ///< Owned `ix_characteristic`s in the order of the text; NULL:
                                                          ///< none.
+
+  protected:
+    explicit ix_characteristicDocType(const XmlClass& description) : XmlDescribedObject(description) {}
 };
 
 /// What the binder factories of both documents create below the root.
@@ -125,30 +120,14 @@ class IX_XML_EXPORT XmlCharacteristicMarshaller : public XMLMarshaller {
     int Reserved() override { return 0; }
 };
 
-/// Its `createMarshaller` answers NULL.
-class IX_XML_EXPORT XmlCharacteristicContext : public XmlOldFamilyContext {
+/// What the decoders of both documents share.
+class IX_XML_EXPORT XmlCharacteristicDecoder : public XmlFamilyDecoder {
+  public:
+    /// Offers every attribute to the object on top of the stack as if it were an element.
+    int ProcessAttribute(char* element, char* attribute, char* value) override;
+
   protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override { return nullptr; }
+    using XmlFamilyDecoder::XmlFamilyDecoder;
 };
-
-/// @name Decoder and unmarshaller, as far as they do not depend on the root
-/// @{
-
-constexpr XmlOldContainerRow kCharacteristicRow = {XmlOldKnownName::Of(kCharacteristicName), XmlOldContainerRow::Child,
-                                                IX_OLD_OBJECT(ix_characteristic)};
-constexpr XmlOldContainerRow kParmRow = {XmlOldKnownName::Of(kParmName), XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_parm)};
-
-/// @param containers the row of the root and the two rows above.
-template <std::size_t count>
-constexpr XmlOldDecoderInfo ixCharacteristicDecoderInfo(const char* source, const XmlOldContainerRow (&containers)[count]) {
-    XmlOldDecoderInfo info;
-    info.source = source;
-    // Required: an attribute is offered as if it were an element, and to whatever object is on top of the stack.
-    info.attributePolicy = XmlOldAttributePolicy::AsElements;
-    info.containers = containers;
-    info.containerCount = count;
-    return info;
-}
-/// @}
 
 #endif

@@ -1,6 +1,6 @@
 /// @file
-/// The object model: the abstract bases of every element class, attribute pairs, and the table of fixed strings (element
-/// and attribute names, literal values, prefixes, namespace URIs).
+/// The object model: the abstract bases of every element class, attribute pairs, and the table of fixed strings
+/// (element and attribute names, literal values, prefixes, namespace URIs).
 #ifndef IX_XML_COMMON_DEF_H
 #define IX_XML_COMMON_DEF_H
 
@@ -9,7 +9,6 @@
 
 class XMLAttribute;
 struct XmlClass;
-struct XmlFieldTable;
 
 /// One XML element as an object. A document in memory is a tree of these; a parent owns its children, its lists and its
 /// texts, and deleting the root (`XMLFactory::DeleteElement`) frees the whole tree.
@@ -39,9 +38,6 @@ class IX_XML_EXPORT XMLElement : public XmlHeapObject {
     /// object with both texts that this element may take over.
     /// @return 1 handled or ignored, 0 refused; a refused pair stays with the caller.
     virtual int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair);
-
-    /// The fields of the class (XmlFields.h), or NULL when it has none to show.
-    virtual const XmlFieldTable* FieldTable() const;
 
     /// The description of the class, or NULL when it has none.
     const XmlClass* Class() const { return m_pClass; }

@@ -5,38 +5,27 @@
 /// - Namespace: urn:ietf:params:xml:ns:common-policy, canonical prefix `cp`.
 ///
 /// Each class takes its children and attributes by local name. A child of a class that does not belong to its name is
-/// refused; what has no place at all is logged.
+/// refused, and so is anything else that a ruleset or a rule has no place for; the other classes log it, or pass over
+/// it.
 ///
 /// Required: setting a field a second time, by setter or by a document that has a child or an attribute twice, does not
 /// free the earlier value (`ixOverwriteWithText`, `ixOverwriteChild`). Each field is meant to be set once.
 #ifndef IX_XML_COMMON_POLICY_H
 #define IX_XML_COMMON_POLICY_H
 
-#include "XMLCommonDef.h"
 #include "XmlElementSupport.h"
-#include "XmlFields.h"
-
-/// What the classes of this file share.
-class IX_XML_EXPORT ix_ns_common_policy_type : public XMLElement {
-  public:
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
-};
 
 /// Actions or transformations of a rule: any elements, in document order.
-class IX_XML_EXPORT ix_ns_common_policy_extensibleType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_extensibleType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_extensibleType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_extensibleType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:ExtensibleType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_common_policy_extensibleType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_extensibleType() override { ixRelease(*this, kClass); }
 
-    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addElement(XMLElement* element);
+    /// Appends an element, which then belongs to the list. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addElement(XMLElement* element) { return ixAdd(*this, mElementList, element); }
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setElementValue(IxSingleElementList* list) { return ixOverwriteChild(mElementList, list); }
 
@@ -44,15 +33,12 @@ class IX_XML_EXPORT ix_ns_common_policy_extensibleType : public ix_ns_common_pol
 };
 
 /// The element `except`: whom a `many` does not match.
-class IX_XML_EXPORT ix_ns_common_policy_exceptType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_exceptType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_exceptType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_exceptType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:ExceptType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_common_policy_exceptType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_exceptType() override { ixRelease(*this, kClass); }
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
     int setDomainValue(const char* domain) { return ixOverwriteWithText(mDomain, domain); }
@@ -63,22 +49,18 @@ class IX_XML_EXPORT ix_ns_common_policy_exceptType : public ix_ns_common_policy_
 };
 
 /// The element `one`: exactly one identity.
-class IX_XML_EXPORT ix_ns_common_policy_oneType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_oneType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_oneType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_oneType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:OneType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_common_policy_oneType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_oneType() override { ixRelease(*this, kClass); }
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
     int setIdValue(const char* id) { return ixOverwriteWithText(mId, id); }
-    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addExtension(XMLElement* element);
+    /// Appends an element, which then belongs to the list. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addExtension(XMLElement* element) { return ixAdd(*this, mExtensionList, element); }
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setExtensionValue(IxSingleElementList* list) { return ixOverwriteChild(mExtensionList, list); }
 
@@ -87,27 +69,23 @@ class IX_XML_EXPORT ix_ns_common_policy_oneType : public ix_ns_common_policy_typ
 };
 
 /// The element `many`: every identity, or every one of a domain, with exceptions.
-class IX_XML_EXPORT ix_ns_common_policy_manyType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_manyType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_manyType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_manyType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:ManyType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_common_policy_manyType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_manyType() override { ixRelease(*this, kClass); }
 
-    /// Appends an exception, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addExcept(ix_ns_common_policy_exceptType* except);
+    /// Appends an exception, which then belongs to this element. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
+    int addExcept(ix_ns_common_policy_exceptType* except) { return ixAdd(*this, mExceptList, except); }
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setExceptValue(IxSingleElementList* list) { return ixOverwriteChild(mExceptList, list); }
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
     int setDomainValue(const char* domain) { return ixOverwriteWithText(mDomain, domain); }
-    /// Appends an element, which then belongs to the list. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addExtension(XMLElement* element);
+    /// Appends an element, which then belongs to the list. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addExtension(XMLElement* element) { return ixAdd(*this, mExtensionList, element); }
     int setExtensionValue(IxSingleElementList* list) { return ixOverwriteChild(mExtensionList, list); }
 
     IxSingleElementList* mExceptList = nullptr;     ///< Owned `ix_ns_common_policy_exceptType`s; NULL: none.
@@ -116,21 +94,18 @@ class IX_XML_EXPORT ix_ns_common_policy_manyType : public ix_ns_common_policy_ty
 };
 
 /// The element `identity`: who a rule is about.
-class IX_XML_EXPORT ix_ns_common_policy_identityType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_identityType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_identityType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_identityType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:IdentityType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_common_policy_identityType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_identityType() override { ixRelease(*this, kClass); }
 
-    /// Appends a child, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addOne(ix_ns_common_policy_oneType* one);
-    int addMany(ix_ns_common_policy_manyType* many);
-    int addExtension(XMLElement* element);
+    /// Appends a child, which then belongs to this element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addOne(ix_ns_common_policy_oneType* one) { return ixAdd(*this, mOneList, one); }
+    int addMany(ix_ns_common_policy_manyType* many) { return ixAdd(*this, mManyList, many); }
+    int addExtension(XMLElement* element) { return ixAdd(*this, mExtensionList, element); }
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setOneValue(IxSingleElementList* list) { return ixOverwriteChild(mOneList, list); }
     int setManyValue(IxSingleElementList* list) { return ixOverwriteChild(mManyList, list); }
@@ -142,15 +117,12 @@ class IX_XML_EXPORT ix_ns_common_policy_identityType : public ix_ns_common_polic
 };
 
 /// The element `sphere`: the state that the user is in, such as "work".
-class IX_XML_EXPORT ix_ns_common_policy_sphereType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_sphereType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_sphereType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_sphereType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:SphereType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_common_policy_sphereType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_sphereType() override { ixRelease(*this, kClass); }
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
     int setValueValue(const char* value) { return ixOverwriteWithText(mValue, value); }
@@ -159,20 +131,18 @@ class IX_XML_EXPORT ix_ns_common_policy_sphereType : public ix_ns_common_policy_
 };
 
 /// The element `validity`: periods in which a rule holds. The n-th entries of both lists are one period.
-class IX_XML_EXPORT ix_ns_common_policy_validityType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_validityType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_validityType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_validityType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:ValidityType"; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_ns_common_policy_validityType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_validityType() override { ixRelease(*this, kClass); }
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Appends a date and time, which then belongs to this element. @return 1, or 0 without memory, when it stays with
     /// the caller.
-    int addFrom(ix_string* from);
-    int addUntil(ix_string* until);
+    int addFrom(ix_string* from) { return ixAdd(*this, mFromList, from); }
+    int addUntil(ix_string* until) { return ixAdd(*this, mUntilList, until); }
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setFromValue(IxSingleElementList* list) { return ixOverwriteChild(mFromList, list); }
     int setUntilValue(IxSingleElementList* list) { return ixOverwriteChild(mUntilList, list); }
@@ -182,22 +152,19 @@ class IX_XML_EXPORT ix_ns_common_policy_validityType : public ix_ns_common_polic
 };
 
 /// The element `conditions`: when a rule applies.
-class IX_XML_EXPORT ix_ns_common_policy_conditionsType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_conditionsType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_conditionsType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_conditionsType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:ConditionsType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_common_policy_conditionsType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_conditionsType() override { ixRelease(*this, kClass); }
 
-    /// Appends a condition, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addIdentity(ix_ns_common_policy_identityType* identity);
-    int addSphere(ix_ns_common_policy_sphereType* sphere);
-    int addValidity(ix_ns_common_policy_validityType* validity);
-    int addOtherCondition(XMLElement* condition);
+    /// Appends a condition, which then belongs to this element. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
+    int addIdentity(ix_ns_common_policy_identityType* identity) { return ixAdd(*this, mIdentityList, identity); }
+    int addSphere(ix_ns_common_policy_sphereType* sphere) { return ixAdd(*this, mSphereList, sphere); }
+    int addValidity(ix_ns_common_policy_validityType* validity) { return ixAdd(*this, mValidityList, validity); }
+    int addOtherCondition(XMLElement* condition) { return ixAdd(*this, mOtherConditionsList, condition); }
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setIdentityValue(IxSingleElementList* list) { return ixOverwriteChild(mIdentityList, list); }
     int setSphereValue(IxSingleElementList* list) { return ixOverwriteChild(mSphereList, list); }
@@ -212,16 +179,12 @@ class IX_XML_EXPORT ix_ns_common_policy_conditionsType : public ix_ns_common_pol
 };
 
 /// The element `rule`.
-class IX_XML_EXPORT ix_ns_common_policy_ruleType : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_ruleType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_ruleType";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_ruleType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:RuleType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_common_policy_ruleType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_ruleType() override { ixRelease(*this, kClass); }
 
     /// Copies the text; NULL is ignored. @return 1, or 0 without memory.
     int setIdValue(const char* id) { return ixOverwriteWithText(mId, id); }
@@ -239,19 +202,16 @@ class IX_XML_EXPORT ix_ns_common_policy_ruleType : public ix_ns_common_policy_ty
 };
 
 /// The element `ruleset`.
-class IX_XML_EXPORT ix_ns_common_policy_ruleset : public ix_ns_common_policy_type {
+class IX_XML_EXPORT ix_ns_common_policy_ruleset : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_common_policy_ruleset";
+    static const XmlClass kClass;
 
-    ~ix_ns_common_policy_ruleset() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommonPolicy:Ruleset"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_common_policy_ruleset() : XmlDescribedElement(kClass) {}
+    ~ix_ns_common_policy_ruleset() override { ixRelease(*this, kClass); }
 
-    /// Appends a rule, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addRule(ix_ns_common_policy_ruleType* rule);
+    /// Appends a rule, which then belongs to this element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addRule(ix_ns_common_policy_ruleType* rule) { return ixAdd(*this, mRuleList, rule); }
     /// Stores a list, which passes to this element. NULL is ignored. @return 1.
     int setRuleValue(IxSingleElementList* list) { return ixOverwriteChild(mRuleList, list); }
 

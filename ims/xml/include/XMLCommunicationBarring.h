@@ -19,17 +19,12 @@
 enum XML_COMMUNICATION_BARRING_TYPE { XML_CB_INCOMING = 1, XML_CB_OUTGOING = 2, XML_CB_NONE = 3 };
 
 /// The action `allow`.
-class IX_XML_EXPORT ix_allow_action_type : public XMLElement {
+class IX_XML_EXPORT ix_allow_action_type : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_allow_action_type";
+    static const XmlClass kClass;
 
-    ~ix_allow_action_type() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "CommunicationBarring:AllowActionType"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_allow_action_type() : XmlDescribedElement(kClass) {}
+    ~ix_allow_action_type() override { ixRelease(*this, kClass); }
 
     /// @return 1.
     int setAllowValue(int allow) { return ixSetNumber(mAllow, allow); }
@@ -37,50 +32,40 @@ class IX_XML_EXPORT ix_allow_action_type : public XMLElement {
     int mAllow = 0;  ///< 1 the call is allowed, 0 it is barred.
 };
 
-/// What both root elements share.
-class IX_XML_EXPORT ix_ns_communication_barringType : public ix_ns_xcap_ruleServiceType {
-  protected:
-    const char* SourceFile() const override;
-};
-
 /// The element `incoming-communication-barring`.
-class IX_XML_EXPORT ix_incoming_communication_barring : public ix_ns_communication_barringType {
+class IX_XML_EXPORT ix_incoming_communication_barring : public ix_ns_xcap_ruleServiceType {
   public:
-    static constexpr char kClassName[] = "incoming-communication-barring";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    /// Required: spelt with one "m".
-    const char* TypeName() const override { return "IncomingComunicationBarring"; }
+    ix_incoming_communication_barring() : ix_ns_xcap_ruleServiceType(kClass) {}
 };
 
 /// The element `outgoing-communication-barring`.
-class IX_XML_EXPORT ix_outgoing_communication_barring : public ix_ns_communication_barringType {
+class IX_XML_EXPORT ix_outgoing_communication_barring : public ix_ns_xcap_ruleServiceType {
   public:
-    static constexpr char kClassName[] = "outgoing-communication-barring";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "OutgoingCommunicationBarring"; }
+    ix_outgoing_communication_barring() : ix_ns_xcap_ruleServiceType(kClass) {}
 };
 
 /// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
 class IX_XML_EXPORT CommunicationBarringDataBinder : public XmlRuleDataBinder {
   public:
+    CommunicationBarringDataBinder();
+
     /// Says which root to create. @return 1, or 0 for anything but incoming and outgoing, the earlier type kept.
     int setCBType(XML_COMMUNICATION_BARRING_TYPE type);
     /// A new root of the type that `setCBType` said, active; NULL before that.
     XMLElement* CreateRootElement() override;
     ix_allow_action_type* CreateAllowTypeElement();
 
-  protected:
-    const char* SourceFile() const override;
-
   private:
     XML_COMMUNICATION_BARRING_TYPE m_type = XML_CB_NONE;
 };
 
-class IX_XML_EXPORT CommunicationBarringUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT CommunicationBarringUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    CommunicationBarringUnMarshaller();
 };
 
 /// Writes a document, or one of its parts: ruleset, rule, conditions, actions, flag, exception. No XML declaration, and
@@ -98,14 +83,16 @@ class IX_XML_EXPORT Communication_barringMarshaller : public XmlRuleMarshaller {
     /// @}
 
   protected:
+    bool Begin(XMLElement* root) override;
     void AddAction(XMLElement* action) override;
+
+  private:
+    int AddBarring(const XmlLogText& entered, e_XmlStrRef name, const ix_ns_xcap_ruleServiceType* element);
 };
 
-class IX_XML_EXPORT CommunicationBarringContext : public XmlOldBinderContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT CommunicationBarringContext : public XmlBinderContext {
+  public:
+    CommunicationBarringContext();
 };
 
 #endif

@@ -16,16 +16,14 @@
 #include "XMLSimservsRules.h"
 
 /// The element `NoReplyTimer`: for how long a call rings before it is forwarded.
-class IX_XML_EXPORT ix_NoReplyTimer : public XMLElement {
+class IX_XML_EXPORT ix_NoReplyTimer : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_NoReplyTimer";
+    static const XmlClass kClass;
 
-    ~ix_NoReplyTimer() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "NoReplyTimer"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_NoReplyTimer() : XmlDescribedElement(kClass) {}
+    ~ix_NoReplyTimer() override { ixRelease(*this, kClass); }
+    /// A text that is no number within the bounds leaves the timer as it is. @return 1, or 0 for an object.
+    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// @param seconds 5 to 180. @return 1, or 0 for any other number, the earlier one kept.
     int setNoReplyTimerValue(unsigned int seconds);
@@ -36,13 +34,11 @@ class IX_XML_EXPORT ix_NoReplyTimer : public XMLElement {
 /// The element `communication-diversion`.
 class IX_XML_EXPORT ix_communication_diversion : public ix_ns_xcap_ruleServiceType {
   public:
-    static constexpr char kClassName[] = "communication-diversion";
+    static const XmlClass kClass;
 
-    ~ix_communication_diversion() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommunicationDiversion"; }
-    const XmlFieldTable* FieldTable() const override;
-    /// As the base class; also takes the text of `NoReplyTimer`.
+    ix_communication_diversion() : ix_ns_xcap_ruleServiceType(kClass) {}
+    ~ix_communication_diversion() override { ixDelete(mNoReplyTimer); }
+    /// Also takes the text of `NoReplyTimer`.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Stores a timer, which passes to this element, in place of an earlier one, which is deleted; NULL clears it.
@@ -50,26 +46,22 @@ class IX_XML_EXPORT ix_communication_diversion : public ix_ns_xcap_ruleServiceTy
     int setNoReplyTimerValue(ix_NoReplyTimer* timer) { return ixSetChild(mNoReplyTimer, timer); }
 
     ix_NoReplyTimer* mNoReplyTimer = nullptr;  ///< Owned; NULL: none.
-
-  protected:
-    const char* SourceFile() const override;
 };
 
 /// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
 class IX_XML_EXPORT CommunicationDiversionDataBinder : public XmlRuleDataBinder {
   public:
+    CommunicationDiversionDataBinder();
+
     /// A new `ix_communication_diversion`, active.
     XMLElement* CreateRootElement() override;
     ix_ns_xcap_forward_to_type* CreateForwardToTypeElement();
     ix_NoReplyTimer* CreateNoReplyTimerElement();
-
-  protected:
-    const char* SourceFile() const override;
 };
 
-class IX_XML_EXPORT CommunicationDiversionUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT CommunicationDiversionUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    CommunicationDiversionUnMarshaller();
 };
 
 /// Writes the document, or one of its parts: timer, ruleset, rule, conditions, actions, target, flag. No XML
@@ -89,17 +81,14 @@ class IX_XML_EXPORT Communication_diversionMarshaller : public XmlRuleMarshaller
 
   protected:
     void AddAction(XMLElement* action) override;
-    void AddServiceElements(const ix_ns_xcap_ruleServiceType& service) override;
 
   private:
     void AddNotification(e_XmlStrRef name, int value);
 };
 
-class IX_XML_EXPORT CommunicationDiversionContext : public XmlOldBinderContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT CommunicationDiversionContext : public XmlBinderContext {
+  public:
+    CommunicationDiversionContext();
 };
 
 #endif

@@ -10,25 +10,16 @@
 #define IX_XML_COMMUNICATION_WAITING_H
 
 #include "XMLSimservsXcap.h"
-#include "XmlOldFamily.h"
 
 /// The element `communication-waiting`.
 class IX_XML_EXPORT ix_communication_waiting : public ix_ns_xcap_simservType {
   public:
-    static constexpr char kClassName[] = "communication-waiting";
+    static const XmlClass kClass;
 
     /// Unlike the other services, a new one is inactive.
-    ix_communication_waiting() { mActive = 0; }
-
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CommunicationWaiting"; }
-    /// Child elements are ignored. @return 1.
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_communication_waiting() : ix_ns_xcap_simservType(kClass) { mActive = 0; }
+    /// What comes without a pair is the switch, 1 for exactly "true"; pairs are kept, but `active`. @return 1.
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
-
-  protected:
-    const char* SourceFile() const override;
-    int ExtensionListLine() const override { return 42; }
 };
 
 class IX_XML_EXPORT CommunicationWaitingDataBinder : public XMLObjectFactory {
@@ -37,9 +28,9 @@ class IX_XML_EXPORT CommunicationWaitingDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT CommunicationWaitingUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT CommunicationWaitingUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    CommunicationWaitingUnMarshaller();
 };
 
 /// Writes `<communication-waiting  active="true"/>`, with the attributes kept from the document it was decoded from
@@ -52,11 +43,9 @@ class IX_XML_EXPORT Communication_waitingMarshaller : public XmlServiceMarshalle
     int AddCommunication_waitingElementToXml(ix_communication_waiting* element);
 };
 
-class IX_XML_EXPORT CommunicationWaitingContext : public XmlOldBinderContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT CommunicationWaitingContext : public XmlBinderContext {
+  public:
+    CommunicationWaitingContext();
 };
 
 #endif

@@ -95,7 +95,7 @@ class IX_XML_EXPORT XMLObjectFactory : public XmlHeapObject {
 };
 
 /// Entry to one schema. Owns the three objects that it creates. Call each create operation once: a second call makes a
-/// new object, and the earlier one is then the caller's, who frees it with `IX_DELETE`.
+/// new object, and the earlier one is then the caller's, who frees it with `ixDelete`.
 class IX_XML_EXPORT XMLContext : public XmlHeapObject {
   public:
     XMLContext() = default;
@@ -130,6 +130,9 @@ struct XmlSchemaInfo {
     bool writes;               ///< False: documents are only read.
     bool takesBinder;          ///< True: `SetNamespaceBinder` has an effect.
     XMLContext* (*create)();   ///< A new context of the schema; NULL without memory.
+    /// The descriptions (XmlClass.h) of the roots, NULL behind the last one; other classes are found through their
+    /// rows.
+    const XmlClass* const* roots;
 };
 
 class IX_XML_EXPORT XMLFactory {

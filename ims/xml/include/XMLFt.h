@@ -9,22 +9,15 @@
 #ifndef IX_XML_FT_H
 #define IX_XML_FT_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// The element `data`: where a file is, and how long.
-class IX_XML_EXPORT ix_ns_ft_data : public XMLElement {
+class IX_XML_EXPORT ix_ns_ft_data : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_ft_data";
+    static const XmlClass kClass;
 
-    ~ix_ns_ft_data() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Data"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_ft_data() : XmlDescribedElement(kClass) {}
+    ~ix_ns_ft_data() override { ixRelease(*this, kClass); }
 
     /// @name Each copies the text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     /// @{
@@ -39,23 +32,17 @@ class IX_XML_EXPORT ix_ns_ft_data : public XMLElement {
 };
 
 /// The element `file-info`: the file itself, or its thumbnail.
-class IX_XML_EXPORT ix_ns_ft_file_info : public XMLElement {
+class IX_XML_EXPORT ix_ns_ft_file_info : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_ft_file_info";
+    static const XmlClass kClass;
 
-    ~ix_ns_ft_file_info() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "FileInfo"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_ft_file_info() : XmlDescribedElement(kClass) {}
+    ~ix_ns_ft_file_info() override { ixRelease(*this, kClass); }
 
     /// Copies the type; NULL clears it. @return 1, or 0 without memory, the earlier type kept.
     int setTypeValue(const char* type) { return ixSetText(mType, type); }
     /// @return 1.
-    int setFileSizeValue(unsigned int size);
+    int setFileSizeValue(unsigned int size) { return ixSetNumber(mFileSize, size); }
     /// Takes over the data in place of earlier ones, which are deleted; NULL: none. @return 1.
     int setDataValue(ix_ns_ft_data* data) { return ixSetChild(mData, data); }
 
@@ -65,25 +52,20 @@ class IX_XML_EXPORT ix_ns_ft_file_info : public XMLElement {
 };
 
 /// The element `file`.
-class IX_XML_EXPORT ix_file : public XMLObject {
+class IX_XML_EXPORT ix_file : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_file";
+    static const XmlClass kClass;
 
-    ~ix_file() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "File"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_file() : XmlDescribedObject(kClass) {}
+    ~ix_file() override { ixRelease(*this, kClass); }
+    /// As the rows say; an object of another class is ignored.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// Takes over a list of `ix_ns_ft_file_info`s in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setFileInfoListValue(IxSingleElementList* list) { return ixSetElementList(mFileInfoList, list); }
-    /// Appends an entry, which then belongs to the element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addFileInfo(ix_ns_ft_file_info* info);
+    int setFileInfoListValue(IxSingleElementList* list) { return ixSetList(*this, mFileInfoList, list); }
+    /// Appends an entry, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addFileInfo(ix_ns_ft_file_info* info) { return ixAdd(*this, mFileInfoList, info); }
 
     IxSingleElementList* mFileInfoList = nullptr;  ///< Owned `ix_ns_ft_file_info`s; NULL: none.
 };
@@ -97,17 +79,19 @@ class IX_XML_EXPORT FileDataBinder : public XMLObjectFactory {
     ix_ns_ft_data* CreateDataElement();
 };
 
-class IX_XML_EXPORT FileUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT FileUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    FileUnMarshaller();
 };
 
-/// Writes the XML declaration and the document. One `data` without a URL fails the whole document.
-class IX_XML_EXPORT FileMarshaller : public XmlOldFamilyMarshaller {
+/// Writes the XML declaration and the document. One `data` without a URL fails the whole document, and so does an
+/// entry of another class.
+class IX_XML_EXPORT FileMarshaller : public XmlFamilyMarshaller {
   public:
     FileMarshaller();
 
-    /// @name Each gives up the document when it fails. @return 1, or 0 for NULL or when something below it has no URL.
+    /// @name Each gives up the document when what is below it fails. @return 1, or 0 for NULL, without a URL, and when
+    /// something below it cannot be written.
     /// @{
     int AddFileElementToXml(ix_file* file);
     int AddFileInfoElementToXml(ix_ns_ft_file_info* info);
@@ -115,11 +99,9 @@ class IX_XML_EXPORT FileMarshaller : public XmlOldFamilyMarshaller {
     /// @}
 };
 
-class IX_XML_EXPORT FileContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT FileContext : public XmlFamilyContext {
+  public:
+    FileContext();
 };
 
 #endif

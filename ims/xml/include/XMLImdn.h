@@ -8,108 +8,82 @@
 /// - Prefixes: removed.
 /// - Read and written. Of several notifications the first in the order above is written, and a processing notification
 ///   under a name that is not read back. Attributes of the root and of `status`, and of the texts and values inside
-///   them, are written back on these two; those of notifications are lost. Elements of other schemas are lost,
-///   those of the root with a log line.
+///   them, are written back on these two, which makes a namespace declared on a text a second declaration of the root;
+///   those of notifications are lost. Elements of other schemas are lost, those of the root with a log line.
 #ifndef IX_XML_IMDN_H
 #define IX_XML_IMDN_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include <initializer_list>
 
-/// The element of a processing notification as it is read. Required: it is written by the fixed string, which lacks a
-/// letter, so that a written processing notification is not read back as one.
-inline constexpr char kProcessingNotificationElement[] = "processing-notification";
-
-/// What the seven values of a status share: an empty element, present as soon as there is an object.
-class IX_XML_EXPORT ix_statusValueType : public ix_empty_element_type {
-  protected:
-    ix_statusValueType() { mPresent = 1; }
-
-  private:
-    // It is no class of objects: each of the seven has a name of its own.
-    static constexpr char kClassName[] = "ix_empty_element_type";
-};
+#include "XmlFamily.h"
 
 /// The element `delivered`: the message reached the recipient's device.
-class IX_XML_EXPORT ix_delivered : public ix_statusValueType {
+class IX_XML_EXPORT ix_delivered : public ix_empty_element_type {
   public:
-    static constexpr char kClassName[] = "ix_delivered";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Delivered"; }
+    ix_delivered() : ix_empty_element_type(kClass) {}
 };
 
 /// The element `failed`: the message could not be delivered.
-class IX_XML_EXPORT ix_failed : public ix_statusValueType {
+class IX_XML_EXPORT ix_failed : public ix_empty_element_type {
   public:
-    static constexpr char kClassName[] = "ix_failed";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Failed"; }
+    ix_failed() : ix_empty_element_type(kClass) {}
 };
 
 /// The element `displayed`: the message was shown to the recipient.
-class IX_XML_EXPORT ix_displayed : public ix_statusValueType {
+class IX_XML_EXPORT ix_displayed : public ix_empty_element_type {
   public:
-    static constexpr char kClassName[] = "ix_displayed";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Displayed"; }
+    ix_displayed() : ix_empty_element_type(kClass) {}
 };
 
 /// The element `processed`: an intermediary has processed the message.
-class IX_XML_EXPORT ix_processed : public ix_statusValueType {
+class IX_XML_EXPORT ix_processed : public ix_empty_element_type {
   public:
-    static constexpr char kClassName[] = "ix_processed";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Processed"; }
+    ix_processed() : ix_empty_element_type(kClass) {}
 };
 
 /// The element `stored`: an intermediary keeps the message for later delivery.
-class IX_XML_EXPORT ix_stored : public ix_statusValueType {
+class IX_XML_EXPORT ix_stored : public ix_empty_element_type {
   public:
-    static constexpr char kClassName[] = "ix_stored";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Stored"; }
+    ix_stored() : ix_empty_element_type(kClass) {}
 };
 
 /// The element `forbidden`: the recipient does not want to say.
-class IX_XML_EXPORT ix_forbidden : public ix_statusValueType {
+class IX_XML_EXPORT ix_forbidden : public ix_empty_element_type {
   public:
-    static constexpr char kClassName[] = "ix_forbidden";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Forbidden"; }
+    ix_forbidden() : ix_empty_element_type(kClass) {}
 };
 
 /// The element `error`: what became of the message is not known.
-class IX_XML_EXPORT ix_error : public ix_statusValueType {
+class IX_XML_EXPORT ix_error : public ix_empty_element_type {
   public:
-    static constexpr char kClassName[] = "ix_error";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Error"; }
+    ix_error() : ix_empty_element_type(kClass) {}
 };
 
 /// The element `status` of a notification. At most one of the seven values is expected to be set.
 ///
-/// The status of a presence tuple (XMLPresence.h) has the same class name, so that `ixIs` and `ixAs` take one for the
-/// other. They belong to different documents; never offer one where the other belongs.
-class IX_XML_EXPORT ix_status : public XMLElement {
+/// The status of a presence tuple (XMLPresence.h) has the same class name, and is another class to `ixIs` and `ixAs`.
+class IX_XML_EXPORT ix_status : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_status";
+    static const XmlClass kClass;
 
-    ~ix_status() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Status"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_status() : XmlDescribedElement(kClass) {}
+    ~ix_status() override { ixRelease(*this, kClass); }
+    /// As the rows say, the class of an object deciding in place of its name.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// @name Each takes over the element in place of an earlier one, which is deleted; NULL: none. @return 1.
     /// @{
@@ -124,15 +98,15 @@ class IX_XML_EXPORT ix_status : public XMLElement {
 
     /// @name Each takes over a list in place of an earlier one, which is deleted; NULL: none. @return 1.
     /// @{
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
-    int setAnyAttributeListValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttributeList, list); }
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
+    int setAnyAttributeListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyAttributeList, list); }
     /// @}
 
-    /// @name Each appends an entry, which then belongs to the element. @return 1, or 0 without memory, when it stays
-    /// with the caller.
+    /// @name Each appends an entry, which then belongs to the element. @return 1, or 0 for NULL or without memory, when
+    /// it stays with the caller.
     /// @{
-    int addAnyElement(XMLElement* element);
-    int addAnyAttribute(ix_AttributeValuePair* pair);
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
+    int addAnyAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mAnyAttributeList, pair); }
     /// @}
 
     ix_delivered* mDelivered = nullptr;  ///< Owned, as are the other six; NULL: not set.
@@ -147,60 +121,53 @@ class IX_XML_EXPORT ix_status : public XMLElement {
 };
 
 /// What the three kinds of notification share: a status. Other children are ignored.
-class IX_XML_EXPORT ix_notificationType : public XMLElement {
+class IX_XML_EXPORT ix_notificationType : public XmlDescribedElement {
   public:
-    ~ix_notificationType() override;
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    static const XmlClass kClass;
+
+    ~ix_notificationType() override { ixRelease(*this, kClass); }
 
     /// Takes over the status in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setStatusValue(ix_status* status) { return ixSetChild(mStatus, status); }
 
     ix_status* mStatus = nullptr;  ///< Owned; NULL: not set, and the notification cannot be written.
+
+  protected:
+    explicit ix_notificationType(const XmlClass& description) : XmlDescribedElement(description) {}
 };
 
 /// The element `delivery-notification`, whose status is delivered, failed, forbidden or error.
 class IX_XML_EXPORT ix_delivery_notification : public ix_notificationType {
   public:
-    static constexpr char kClassName[] = "ix_delivery_notification";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "DeliveryNotification"; }
+    ix_delivery_notification() : ix_notificationType(kClass) {}
 };
 
 /// The element `display-notification`, whose status is displayed, forbidden or error.
 class IX_XML_EXPORT ix_display_notification : public ix_notificationType {
   public:
-    static constexpr char kClassName[] = "ix_display_notification";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "DisplayNotification"; }
+    ix_display_notification() : ix_notificationType(kClass) {}
 };
 
 /// The element `processing-notification`, whose status is processed, stored, forbidden or error.
 class IX_XML_EXPORT ix_processing_notification : public ix_notificationType {
   public:
-    static constexpr char kClassName[] = "ix_processing_notification";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ProcessingNotification"; }
+    ix_processing_notification() : ix_notificationType(kClass) {}
 };
 
 /// The element `imdn`.
-class IX_XML_EXPORT ix_imdn : public XMLObject {
+class IX_XML_EXPORT ix_imdn : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_imdn";
+    static const XmlClass kClass;
 
-    ~ix_imdn() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "Imdn"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_imdn() : XmlDescribedObject(kClass) {}
+    ~ix_imdn() override { ixRelease(*this, kClass); }
+    /// As the rows say, every pair being kept.
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// @name Each copies the text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
@@ -227,15 +194,15 @@ class IX_XML_EXPORT ix_imdn : public XMLObject {
 
     /// @name Each takes over a list in place of an earlier one, which is deleted; NULL: none. @return 1.
     /// @{
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
-    int setAnyAttributeListValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttributeList, list); }
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
+    int setAnyAttributeListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyAttributeList, list); }
     /// @}
 
-    /// @name Each appends an entry, which then belongs to the element. @return 1, or 0 without memory, when it stays
-    /// with the caller.
+    /// @name Each appends an entry, which then belongs to the element. @return 1, or 0 for NULL or without memory, when
+    /// it stays with the caller.
     /// @{
-    int addAnyElement(XMLElement* element);
-    int addAnyAttribute(ix_AttributeValuePair* pair);
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
+    int addAnyAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mAnyAttributeList, pair); }
     /// @}
 
     /// @name Texts. Owned; NULL: not set.
@@ -278,19 +245,19 @@ class IX_XML_EXPORT IMDNDataBinder : public XMLObjectFactory {
     ix_error* CreateErrorElement();
 };
 
-class IX_XML_EXPORT IMDNUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT IMDNUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    IMDNUnMarshaller();
 };
 
 /// Writes the XML declaration and the document. Only the first notification that is set is written; one that cannot be
 /// written is left out with a log line.
-class IX_XML_EXPORT IMDNMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT IMDNMarshaller : public XmlFamilyMarshaller {
   public:
     IMDNMarshaller();
 
     /// @return 1, whatever becomes of the notification; 0 for NULL.
-    int AddIMDNElementToXml(ix_imdn* element);
+    int AddIMDNElementToXml(ix_imdn* imdn);
     /// @name Each writes the first status value that is set, of those that its notification may have. @return 1, or 0
     /// when there is none.
     /// @{
@@ -303,16 +270,12 @@ class IX_XML_EXPORT IMDNMarshaller : public XmlOldFamilyMarshaller {
     int AddNotificationXML(e_XmlStrRef notification, e_XmlStrRef statusValue, IxSingleElementList* statusAttributes);
 
   private:
-    int AddNotification(e_XmlStrRef name, const ix_notificationType* notification, const e_XmlStrRef* values,
-                        std::size_t count);
-    void EndStartTag(const IxSingleElementList* attributes);
+    int AddNotification(e_XmlStrRef name, const ix_status* status, std::initializer_list<e_XmlStrRef> values);
 };
 
-class IX_XML_EXPORT IMDNContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT IMDNContext : public XmlFamilyContext {
+  public:
+    IMDNContext();
 };
 
 #endif

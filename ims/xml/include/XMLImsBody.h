@@ -10,88 +10,50 @@
 #ifndef IX_XML_IMS_BODY_H
 #define IX_XML_IMS_BODY_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
-/// The root of both documents.
-class IX_XML_EXPORT ix_imsBodyType : public XMLElement {
+/// The root of both documents, each of which derives its own.
+class IX_XML_EXPORT ix_imsBodyType : public XmlDescribedElement {
   public:
+    static const XmlClass kClass;
     static constexpr unsigned int kNoVersion = 0xffffffffU;
 
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
+    ~ix_imsBodyType() override { ixRelease(*this, kClass); }
+    /// As the rows say. @return 1, whatever it is offered.
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
 
     /// @return 1.
-    int setVersionValue(unsigned int version);
+    int setVersionValue(unsigned int version) { return ixSetNumber(mVersion, version); }
 
-    unsigned int mVersion = kNoVersion;  ///< Version of the schema; `kNoVersion`: not set.
+    unsigned int mVersion = kNoVersion;  ///< Version of the schema; `kNoVersion`: not set. A number in a text is cut to
+                                         ///< 32 bits, so that -1 sets none.
 
   protected:
-    /// The source path that the log lines of the class show.
-    virtual const char* SourceFile() const = 0;
+    explicit ix_imsBodyType(const XmlClass& description) : XmlDescribedElement(description) {}
 };
 
-/// The row of the version in the field tables of both roots.
-constexpr XmlField kImsBodyVersionField = {XmlFieldKind::Unsigned, IX_STR_VERSION,
-                                           XmlUnsignedMember(&ix_imsBodyType::mVersion), ix_imsBodyType::kNoVersion};
+/// What the decoders of both documents share.
+class IX_XML_EXPORT XmlImsBodyDecoder : public XmlFamilyDecoder {
+  protected:
+    /// @param element, attribute the one attribute that is given to an object without a pair, too.
+    XmlImsBodyDecoder(const XmlDecoderInfo& info, e_XmlStrRef element, e_XmlStrRef attribute)
+        : XmlFamilyDecoder(info), m_element(element), m_attribute(attribute) {}
+
+    int KnownAttribute(XMLElement& receiver, char* attribute, char* value) override;
+    int OtherAttribute(XMLElement& receiver, char* attribute, char* value) override;
+
+  private:
+    const e_XmlStrRef m_element;
+    const e_XmlStrRef m_attribute;
+};
 
 /// What the marshallers of both documents share.
-class IX_XML_EXPORT XmlImsBodyMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT XmlImsBodyMarshaller : public XmlFamilyMarshaller {
   protected:
-    explicit XmlImsBodyMarshaller(const XmlOldMarshallerInfo& info) : XmlOldFamilyMarshaller(info) {}
+    using XmlFamilyMarshaller::XmlFamilyMarshaller;
 
     /// The start tag of the root, with its version when there is one: `<3gpp-ims version="1">`.
     void StartRoot(e_XmlStrRef name, const ix_imsBodyType& root);
 };
-
-/// @name Constants of both families
-/// Each family logs them under its own source path, and takes the line from `line`.
-/// @{
-
-constexpr XmlLogText ixImsBodyAddAlternativeService(int line) {
-    return {2, kSchemaCode, line, "<XML Module>: AddAlternativeServiceElementToXml"};
-}
-
-// Required: the texts of the CW indication family name the classes of the call waiting indication family.
-
-constexpr XmlLogText ixImsBodyAlternativeServiceFailed(int line) {
-    return {2, kSchemaCode, line,
-            "<XML Module>: CallWaitingIndicationMarshaller XML Failed at AddAlternativeServiceElementToXml!"};
-}
-
-constexpr XmlOldUnMarshallerInfo ixImsBodyUnMarshallerInfo(const char* source, int line,
-                                                        XmlOldFamilyDecoder* (*createDecoder)(int line)) {
-    return ixOldUnMarshallerInfo(source, line, createDecoder,
-                              "<XML Module>: StrDup failed in CallWaitingIndicationUnMarshaller::UnMarshall");
-}
-
-/// @param writer the row of the root.
-constexpr XmlOldMarshallerInfo ixImsBodyMarshallerInfo(const char* source, int line, const XmlOldWriterRow& writer) {
-    XmlOldMarshallerInfo info;
-    info.source = source;
-    info.writers = &writer;
-    info.writerCount = 1;
-    info.entered = {3, kSchemaCode, line, "<XML Module>: CallWaitingIndicationMarshaller :: Marshall"};
-    info.deleting = {3, kSchemaCode, line,
-                     "<XML Module>: CallWaitingIndicationMarshaller :: Marshall: Deleting mCallWaitingIndicationXml"};
-    info.written = {2, kSchemaCode, line, "<XML Module>: CallWaitingIndicationMarshaller XML %s"};
-    info.failed = {2, kSchemaCode, line, "<XML Module>: CallWaitingIndicationMarshaller XML Failed!"};
-    return info;
-}
-
-/// @param attribute the one that is given to an object without a pair, before it is given with one like all others.
-template <std::size_t count>
-constexpr XmlOldDecoderInfo ixImsBodyDecoderInfo(const char* source, int line, const XmlOldContainerRow (&containers)[count],
-                                              const XmlOldAttributeRow& attribute) {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(source, line, containers);
-    info.names = XmlOldNamePolicy::Stripped;
-    info.attributePolicy = XmlOldAttributePolicy::TopTwice;
-    info.attributes = &attribute;
-    info.attributeCount = 1;
-    return info;
-}
-/// @}
 
 #endif

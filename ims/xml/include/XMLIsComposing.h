@@ -9,43 +9,35 @@
 #ifndef IX_XML_IS_COMPOSING_H
 #define IX_XML_IS_COMPOSING_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// The element `isComposing`.
-class IX_XML_EXPORT ix_isComposing : public XMLObject {
+class IX_XML_EXPORT ix_isComposing : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_isComposing";
+    static const XmlClass kClass;
 
-    ~ix_isComposing() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "IsComposing"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_isComposing() : XmlDescribedObject(kClass) {}
+    ~ix_isComposing() override { ixRelease(*this, kClass); }
 
-    /// @name Each copies the text; NULL clears it. An earlier text is not freed, see `ixOverwriteText`.
-    /// @return 1, or 0 without memory, the earlier text kept.
+    /// @name Each copies the text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
+    /// Required: an earlier text is not freed, for callers that still hold it; nor is that of a repeated element.
     /// @{
     int setStateValue(const char* state) { return ixOverwriteText(mState, state); }
     int setLastactiveValue(const char* lastactive) { return ixOverwriteText(mLastactive, lastactive); }
     int setContenttypeValue(const char* contenttype) { return ixOverwriteText(mContenttype, contenttype); }
     /// @}
     /// @return 1.
-    int setRefreshValue(unsigned int refresh);
+    int setRefreshValue(unsigned int refresh) { return ixSetNumber(mRefresh, refresh); }
     /// Takes over a list in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
-    /// Appends an element, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addAnyElement(XMLElement* element);
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
+    /// Appends an element, which then belongs to this one. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
 
     char* mState = nullptr;        ///< "active" or "idle"; unchecked. Owned; NULL: not set. Mandatory in a document.
     char* mLastactive = nullptr;   ///< When the last message was sent (RFC 3339); unchecked. Owned; NULL: not set.
     char* mContenttype = nullptr;  ///< Media type of the message, or its first part. Owned; NULL: not set.
-    unsigned int mRefresh = 0;     ///< Seconds until the next indication; 0: not set.
+    unsigned int mRefresh = 0;     ///< Seconds until the next indication; 0: not set, and not written.
     IxSingleElementList* mAnyElementList = nullptr;  ///< Owned elements of other classes, not written; NULL: none.
 };
 
@@ -55,19 +47,19 @@ class IX_XML_EXPORT IsComposingDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT IsComposingUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT IsComposingUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    IsComposingUnMarshaller();
 };
 
 /// Writes the XML declaration and the document. A root without a state cannot be written.
-class IX_XML_EXPORT IsComposingMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT IsComposingMarshaller : public XmlFamilyMarshaller {
   public:
     IsComposingMarshaller();
 
-    /// @return 1, or 0 without a state, the element left open.
-    int AddIsComposingElementToXml(ix_isComposing* element);
-    /// @name Each writes one element; NULL writes nothing. @return 1.
+    /// @return 1, or 0 for NULL, or without a state, the element left open.
+    int AddIsComposingElementToXml(ix_isComposing* isComposing);
+    /// @name Each writes one element. @return 1, or 0 for NULL.
     /// @{
     int AddStateElementToXml(const char* state);
     int AddLastactiveElementToXml(const char* lastactive);
@@ -76,11 +68,9 @@ class IX_XML_EXPORT IsComposingMarshaller : public XmlOldFamilyMarshaller {
     /// @}
 };
 
-class IX_XML_EXPORT IsComposingContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT IsComposingContext : public XmlFamilyContext {
+  public:
+    IsComposingContext();
 };
 
 /// A fixed document as the family writes it, to look at or to try a connection with: someone is recording audio.

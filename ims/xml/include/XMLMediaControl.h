@@ -10,21 +10,16 @@
 #ifndef IX_XML_MEDIA_CONTROL_H
 #define IX_XML_MEDIA_CONTROL_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// The element `to_encoder`: what the sender's encoder is to do.
-class IX_XML_EXPORT ix_to_encoder : public XMLElement {
+class IX_XML_EXPORT ix_to_encoder : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_to_encoder";
+    static const XmlClass kClass;
 
-    ~ix_to_encoder() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "ToEncoder"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_to_encoder() : XmlDescribedElement(kClass) {}
+    ~ix_to_encoder() override { ixRelease(*this, kClass); }
+    /// As the rows say; anything else clears the request.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Takes over the request in place of an earlier one, which is deleted; NULL: none. @return 1.
@@ -34,17 +29,12 @@ class IX_XML_EXPORT ix_to_encoder : public XMLElement {
 };
 
 /// The element `vc_primitive`.
-class IX_XML_EXPORT ix_vc_primitive : public XMLElement {
+class IX_XML_EXPORT ix_vc_primitive : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_vc_primitive";
+    static const XmlClass kClass;
 
-    ~ix_vc_primitive() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "VcPrimitive"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_vc_primitive() : XmlDescribedElement(kClass) {}
+    ~ix_vc_primitive() override { ixRelease(*this, kClass); }
 
     /// Takes over the element in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setToEncoderValue(ix_to_encoder* toEncoder) { return ixSetChild(mToEncoder, toEncoder); }
@@ -53,18 +43,12 @@ class IX_XML_EXPORT ix_vc_primitive : public XMLElement {
 };
 
 /// The element `media_control`.
-class IX_XML_EXPORT ix_media_control : public XMLObject {
+class IX_XML_EXPORT ix_media_control : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_media_control";
+    static const XmlClass kClass;
 
-    ~ix_media_control() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "MediaControl"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_media_control() : XmlDescribedObject(kClass) {}
+    ~ix_media_control() override { ixRelease(*this, kClass); }
 
     /// Takes over the element in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setVcPrimitiveValue(ix_vc_primitive* primitive) { return ixSetChild(mVcPrimitive, primitive); }
@@ -83,14 +67,14 @@ class IX_XML_EXPORT MediaControlDataBinder : public XMLObjectFactory {
     ix_empty_element_type* CreatePictureFastUpdateElement();
 };
 
-class IX_XML_EXPORT MediaControlUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT MediaControlUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    MediaControlUnMarshaller();
 };
 
 /// Writes the XML declaration and the document. An element without its child is written empty; a request that is not
-/// present fails the whole document.
-class IX_XML_EXPORT MediaControlMarshaller : public XmlOldFamilyMarshaller {
+/// present fails the whole document, and one without a name writes nothing.
+class IX_XML_EXPORT MediaControlMarshaller : public XmlFamilyMarshaller {
   public:
     MediaControlMarshaller();
 
@@ -100,15 +84,13 @@ class IX_XML_EXPORT MediaControlMarshaller : public XmlOldFamilyMarshaller {
     int AddVcPrimitiveElementToXml(ix_vc_primitive* primitive);
     int AddToEncoderElementToXml(ix_to_encoder* toEncoder);
     /// @}
-    /// @return 1, or 0 for NULL, and for an element that is not present or has no name.
+    /// @return 1, or 0 for NULL, and for an element that is not present.
     int AddEmptyElementToXml(ix_empty_element_type* element);
 };
 
-class IX_XML_EXPORT MediaControlContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT MediaControlContext : public XmlFamilyContext {
+  public:
+    MediaControlContext();
 };
 
 #endif

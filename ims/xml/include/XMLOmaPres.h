@@ -13,20 +13,14 @@
 #include <iterator>
 
 #include "XmlElementSupport.h"
-#include "XmlFields.h"
 
 /// The element `service-description`: which service a tuple stands for.
-class IX_XML_EXPORT ix_ns_oma_pres_service_description : public XMLElement {
+class IX_XML_EXPORT ix_ns_oma_pres_service_description : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_oma_pres_service_description";
+    static const XmlClass kClass;
 
-    ~ix_ns_oma_pres_service_description() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "ServiceDescription"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_oma_pres_service_description() : XmlDescribedElement(kClass) {}
+    ~ix_ns_oma_pres_service_description() override { ixRelease(*this, kClass); }
 
     /// Each copies its text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setServiceIdValue(const char* serviceId) { return ixSetText(mServiceId, serviceId); }
@@ -44,93 +38,79 @@ inline constexpr XmlEnumeration kPresenceBasics = {kPresenceBasicTexts[0], sizeo
                                                    int{std::size(kPresenceBasicTexts)}};
 
 /// What the elements share whose content is one `basic`.
-class IX_XML_EXPORT ix_ns_oma_pres_basicType : public XMLElement {
+class IX_XML_EXPORT ix_ns_oma_pres_basicType : public XmlDescribedElement {
   public:
+    static const XmlClass kClass;
     static constexpr int kNotSet = 2;
 
-    ~ix_ns_oma_pres_basicType() override;
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ~ix_ns_oma_pres_basicType() override { ixRelease(*this, kClass); }
 
     /// @return 1.
     int setBasicValue(int basic) { return ixSetNumber(mBasic, basic); }
 
-    int mBasic = kNotSet;  ///< Element `basic`: 0 "open", 1 "closed", `kNotSet`.
+    int mBasic = kNotSet;  ///< Element `basic`: 0 "open", 1 "closed", `kNotSet`. Longer words count by their beginning.
+
+  protected:
+    explicit ix_ns_oma_pres_basicType(const XmlClass& description) : XmlDescribedElement(description) {}
 };
 
 /// The element `willingness`: whether the user wants to be reached by a service.
 class IX_XML_EXPORT ix_ns_oma_pres_willingness : public ix_ns_oma_pres_basicType {
   public:
-    static constexpr char kClassName[] = "ix_ns_oma_pres_willingness";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "Willingness"; }
+    ix_ns_oma_pres_willingness() : ix_ns_oma_pres_basicType(kClass) {}
 };
 
 /// The element `session-participation`: whether the user takes part in a session of a service.
 class IX_XML_EXPORT ix_ns_oma_pres_session_participation : public ix_ns_oma_pres_basicType {
   public:
-    static constexpr char kClassName[] = "ix_ns_oma_pres_session_participation";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "SessionParticipation"; }
+    ix_ns_oma_pres_session_participation() : ix_ns_oma_pres_basicType(kClass) {}
 };
 
 /// The element `overriding-willingness`: whether the user wants to be reached at all.
 class IX_XML_EXPORT ix_ns_oma_pres_overriding_willingness : public ix_ns_oma_pres_basicType {
   public:
-    static constexpr char kClassName[] = "ix_ns_oma_pres_overriding_willingness";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "OverridingWillingness"; }
+    ix_ns_oma_pres_overriding_willingness() : ix_ns_oma_pres_basicType(kClass) {}
 };
 
 /// What the elements share whose content is a state.
-class IX_XML_EXPORT ix_ns_oma_pres_stateType : public XMLElement {
+class IX_XML_EXPORT ix_ns_oma_pres_stateType : public XmlDescribedElement {
   public:
+    static const XmlClass kClass;
     static constexpr int kNotSet = 2;
 
-    ~ix_ns_oma_pres_stateType() override;
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ~ix_ns_oma_pres_stateType() override { ixRelease(*this, kClass); }
 
     /// @return 1.
     int setStateValue(int state) { return ixSetNumber(mState, state); }
 
-    int mState = kNotSet;  ///< The element's own text: 0 "active", 1 "terminated", `kNotSet`.
+    /// The element's own text: 0 "active", 1 "terminated", `kNotSet`. Longer words count by their beginning.
+    int mState = kNotSet;
 
   protected:
-    /// The only name whose text is taken.
-    virtual const char* EndTag() const = 0;
+    explicit ix_ns_oma_pres_stateType(const XmlClass& description) : XmlDescribedElement(description) {}
 };
 
 /// The element `registration-state`: whether the user is registered for a service.
 class IX_XML_EXPORT ix_ns_oma_pres_registration_state : public ix_ns_oma_pres_stateType {
   public:
-    static constexpr char kClassName[] = "ix_ns_oma_pres_registration_state";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "RegistrationState"; }
-
-  protected:
-    const char* EndTag() const override { return "/registration-state"; }
+    ix_ns_oma_pres_registration_state() : ix_ns_oma_pres_stateType(kClass) {}
 };
 
 /// The element `barring-state`: whether the user bars incoming sessions of a service. Required: it takes its text at
 /// the end tag of `barring`, not at that of its own name, which it ignores like any other.
 class IX_XML_EXPORT ix_ns_oma_pres_barring_state : public ix_ns_oma_pres_stateType {
   public:
-    static constexpr char kClassName[] = "ix_ns_oma_pres_barring_state";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "BarringState"; }
-
-  protected:
-    const char* EndTag() const override { return "/barring"; }
+    ix_ns_oma_pres_barring_state() : ix_ns_oma_pres_stateType(kClass) {}
 };
 
 #endif

@@ -9,18 +9,14 @@
 #ifndef IX_XML_ORIGINATING_IDENTITY_PRESENTATION_H
 #define IX_XML_ORIGINATING_IDENTITY_PRESENTATION_H
 
-#include "XMLIdentityPresentation.h"
+#include "XMLSimservsXcap.h"
 
 /// The element `originating-identity-presentation`.
-class IX_XML_EXPORT ix_originating_identity_presentation : public ix_ns_identity_presentationType {
+class IX_XML_EXPORT ix_originating_identity_presentation : public ix_ns_xcap_simservType {
   public:
-    static constexpr char kClassName[] = "originating-identity-presentation";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "OriginatingIdentityPresentation"; }
-
-  protected:
-    const char* SourceFile() const override;
+    ix_originating_identity_presentation() : ix_ns_xcap_simservType(kClass) {}
 };
 
 class IX_XML_EXPORT OIPDataBinder : public XMLObjectFactory {
@@ -29,12 +25,15 @@ class IX_XML_EXPORT OIPDataBinder : public XMLObjectFactory {
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT OIPUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT OIPUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    OIPUnMarshaller();
 };
 
-class IX_XML_EXPORT OIPMarshaller : public XmlIdentityPresentationMarshaller {
+/// Writes `<ss:originating-identity-presentation  active="true"/>`, with the attributes kept from the document it was
+/// decoded from before `active`, and with the prefix that a namespace binder gives to the namespace. No XML
+/// declaration, and no namespace declaration unless it was among the attributes.
+class IX_XML_EXPORT OIPMarshaller : public XmlServiceMarshaller {
   public:
     OIPMarshaller();
 
@@ -42,11 +41,9 @@ class IX_XML_EXPORT OIPMarshaller : public XmlIdentityPresentationMarshaller {
     int AddOIPElementToXml(ix_originating_identity_presentation* element);
 };
 
-class IX_XML_EXPORT OIPContext : public XmlOldBinderContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT OIPContext : public XmlBinderContext {
+  public:
+    OIPContext();
 };
 
 #endif

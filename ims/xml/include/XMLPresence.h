@@ -18,20 +18,15 @@
 
 #include "XMLCaps.h"
 #include "XMLOmaPres.h"
-#include "XmlOldFamily.h"
+#include "XmlFamily.h"
 
 /// The element `note`: a comment for people.
-class IX_XML_EXPORT ix_note : public XMLElement {
+class IX_XML_EXPORT ix_note : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_note";
+    static const XmlClass kClass;
 
-    ~ix_note() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Note"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_note() : XmlDescribedElement(kClass) {}
+    ~ix_note() override { ixRelease(*this, kClass); }
 
     /// Copies `text`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setTextValue(const char* text) { return ixSetText(mText, text); }
@@ -40,18 +35,12 @@ class IX_XML_EXPORT ix_note : public XMLElement {
 };
 
 /// The element `contact`: where a tuple can be reached.
-class IX_XML_EXPORT ix_contact : public XMLElement {
+class IX_XML_EXPORT ix_contact : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_contact";
+    static const XmlClass kClass;
 
-    ~ix_contact() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Contact"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_contact() : XmlDescribedElement(kClass) {}
+    ~ix_contact() override { ixRelease(*this, kClass); }
 
     /// Each copies its text; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setValueValue(const char* value) { return ixSetText(mValue, value); }
@@ -64,30 +53,23 @@ class IX_XML_EXPORT ix_contact : public XMLElement {
 /// Its own namespace, because other schemas have a class of the same name.
 namespace PresenceNameSpace {
 
-/// The element `status` of a tuple.
-///
-/// The status of a disposition notification (XMLImdn.h) has the same class name, so that `ixIs` and `ixAs` take one for
-/// the other. They belong to different documents; never offer one where the other belongs.
-class IX_XML_EXPORT ix_status : public XMLElement {
+/// The element `status` of a tuple. The status of a disposition notification (XMLImdn.h) has the same class name, and
+/// is another class all the same: `ixIs` and `ixAs` tell them apart.
+class IX_XML_EXPORT ix_status : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_status";
+    static const XmlClass kClass;
     static constexpr int kNotSet = 2;
 
-    ~ix_status() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Status"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_status() : XmlDescribedElement(kClass) {}
+    ~ix_status() override { ixRelease(*this, kClass); }
 
     /// @return 1.
     int setBasicValue(int basic) { return ixSetNumber(mBasic, basic); }
     /// Takes over the list in place of the earlier one, which is deleted; NULL: none. @return 1.
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
-    /// Appends an element, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addAnyElement(XMLElement* element);
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
+    /// Appends an element, which then belongs to this one. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
 
     int mBasic = kNotSet;  ///< Element `basic`: 0 "open", 1 "closed", `kNotSet`. Longer words count by their beginning.
     IxSingleElementList* mAnyElementList = nullptr;  ///< Other children. Owned, not written; NULL: none.
@@ -96,18 +78,12 @@ class IX_XML_EXPORT ix_status : public XMLElement {
 }  // namespace PresenceNameSpace
 
 /// The element `tuple`: one way to communicate with the presentity.
-class IX_XML_EXPORT ix_tuple : public XMLElement {
+class IX_XML_EXPORT ix_tuple : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_tuple";
+    static const XmlClass kClass;
 
-    ~ix_tuple() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Tuple"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_tuple() : XmlDescribedElement(kClass) {}
+    ~ix_tuple() override { ixRelease(*this, kClass); }
 
     /// Each takes over its object in place of the earlier one, which is deleted; NULL: none. @return 1.
     int setStatusValue(PresenceNameSpace::ix_status* status) { return ixSetChild(mStatus, status); }
@@ -116,12 +92,12 @@ class IX_XML_EXPORT ix_tuple : public XMLElement {
     int setTimestampValue(const char* timestamp) { return ixSetText(mTimestamp, timestamp); }
     int setIdValue(const char* id) { return ixSetText(mId, id); }
     /// Each takes over its list in place of the earlier one, which is deleted; NULL: none. @return 1.
-    int setNoteListValue(IxSingleElementList* list) { return ixSetElementList(mNoteList, list); }
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
-    /// Each appends an element, which then belongs to the tuple. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addNote(ix_note* note);
-    int addAnyElement(XMLElement* element);
+    int setNoteListValue(IxSingleElementList* list) { return ixSetList(*this, mNoteList, list); }
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
+    /// Each appends an element, which then belongs to the tuple. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
+    int addNote(ix_note* note) { return ixAdd(*this, mNoteList, note); }
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
 
     PresenceNameSpace::ix_status* mStatus = nullptr;  ///< Owned; NULL: none.
     ix_contact* mContact = nullptr;                   ///< Owned; NULL: none.
@@ -134,29 +110,22 @@ class IX_XML_EXPORT ix_tuple : public XMLElement {
 };
 
 /// The element `presence`: what is known of one presentity.
-class IX_XML_EXPORT ix_presence : public XMLObject {
+class IX_XML_EXPORT ix_presence : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_presence";
+    static const XmlClass kClass;
 
-    ~ix_presence() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "Presence"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_presence() : XmlDescribedObject(kClass) {}
+    ~ix_presence() override { ixRelease(*this, kClass); }
 
     /// Each takes over its list in place of the earlier one, which is deleted; NULL: none. @return 1.
-    int setTupleListValue(IxSingleElementList* list) { return ixSetElementList(mTupleList, list); }
-    int setNoteListValue(IxSingleElementList* list) { return ixSetElementList(mNoteList, list); }
+    int setTupleListValue(IxSingleElementList* list) { return ixSetList(*this, mTupleList, list); }
+    int setNoteListValue(IxSingleElementList* list) { return ixSetList(*this, mNoteList, list); }
     /// Copies `entity`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setEntityValue(const char* entity) { return ixSetText(mEntity, entity); }
-    /// Each appends an element, which then belongs to the document. @return 1, or 0 without memory, when it stays with
-    /// the caller.
-    int addTuple(ix_tuple* tuple);
-    int addNote(ix_note* note);
+    /// Each appends an element, which then belongs to the document. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
+    int addTuple(ix_tuple* tuple) { return ixAdd(*this, mTupleList, tuple); }
+    int addNote(ix_note* note) { return ixAdd(*this, mNoteList, note); }
 
     IxSingleElementList* mTupleList = nullptr;  ///< Owned `ix_tuple`s; NULL: none.
     IxSingleElementList* mNoteList = nullptr;   ///< Owned `ix_note`s; NULL: none.
@@ -182,20 +151,20 @@ class IX_XML_EXPORT PresenceDataBinder : public XMLObjectFactory {
     /// @}
 };
 
-class IX_XML_EXPORT PresenceUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT PresenceUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    PresenceUnMarshaller();
 };
 
 /// Writes the XML declaration and the document. A tuple is written in the order status, extensions, contact, timestamp,
 /// notes. Whatever fails gives up the whole document at once.
-class IX_XML_EXPORT PresenceMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT PresenceMarshaller : public XmlFamilyMarshaller {
   public:
     PresenceMarshaller();
 
-    /// @return 1, or 0 without an entity, or when a child fails.
+    /// @return 1, or 0 for NULL, without an entity, or when a child fails.
     int AddPresenceElementToXml(ix_presence* presence);
-    /// @return 1, or 0 without an id, or when a child fails.
+    /// @return 1, or 0 for NULL, without an id, or when a child fails.
     int AddTupleElementToXml(ix_tuple* tuple);
     /// @name Parts of a tuple. @return 1, or 0 for NULL.
     /// @{
@@ -214,17 +183,16 @@ class IX_XML_EXPORT PresenceMarshaller : public XmlOldFamilyMarshaller {
     /// @}
 
   private:
-    int AddAnyElementToXml(XMLElement* element);
+    int AddNotes(const IxSingleElementList* notes);
+    int AddExtension(XMLElement* element);
     int AddSupport(e_XmlStrRef name, ix_ns_caps_duplextypes* element);
     void AddFlag(e_XmlStrRef name, int flag);
     void AddKind(e_XmlStrRef name, const ix_string* kind);
 };
 
-class IX_XML_EXPORT PresenceContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT PresenceContext : public XmlFamilyContext {
+  public:
+    PresenceContext();
 };
 
 #endif

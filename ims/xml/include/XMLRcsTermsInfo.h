@@ -9,23 +9,15 @@
 #ifndef IX_XML_RCS_TERMS_INFO_H
 #define IX_XML_RCS_TERMS_INFO_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// The element `term`: one document for the user to read.
-class IX_XML_EXPORT ix_ns_rcs_terms_info_term : public XMLElement {
+class IX_XML_EXPORT ix_ns_rcs_terms_info_term : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_rcs_terms_info_term";
+    static const XmlClass kClass;
 
-    ~ix_ns_rcs_terms_info_term() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Term"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_rcs_terms_info_term() : XmlDescribedElement(kClass) {}
+    ~ix_ns_rcs_terms_info_term() override { ixRelease(*this, kClass); }
 
     /// Copies `title`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setTitleValue(const char* title) { return ixSetText(mTitle, title); }
@@ -37,19 +29,12 @@ class IX_XML_EXPORT ix_ns_rcs_terms_info_term : public XMLElement {
 };
 
 /// The element `rcs-terms-info`.
-class IX_XML_EXPORT ix_rcs_terms_info : public XMLObject {
+class IX_XML_EXPORT ix_rcs_terms_info : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_rcs_terms_info";
+    static const XmlClass kClass;
 
-    ~ix_rcs_terms_info() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "RcsTermsInfo"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_rcs_terms_info() : XmlDescribedObject(kClass) {}
+    ~ix_rcs_terms_info() override { ixRelease(*this, kClass); }
 
     /// Copies `version`; NULL clears it. @return 1, or 0 without memory, the earlier text kept.
     int setVersionValue(const char* version) { return ixSetText(mVersion, version); }
@@ -57,10 +42,10 @@ class IX_XML_EXPORT ix_rcs_terms_info : public XMLObject {
     int setTermsVersionValue(const char* version) { return ixSetText(mTermsVersion, version); }
     /// Takes over a list of `ix_ns_rcs_terms_info_term`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setTermsValue(IxSingleElementList* list) { return ixSetElementList(mTerms, list); }
-    /// Appends `term`, which then belongs to the element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addTerm(ix_ns_rcs_terms_info_term* term);
+    int setTermsValue(IxSingleElementList* list) { return ixSetList(*this, mTerms, list); }
+    /// Appends `term`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addTerm(ix_ns_rcs_terms_info_term* term) { return ixAdd(*this, mTerms, term); }
 
     char* mVersion = nullptr;       ///< Owned; version of the document's form. NULL: not set.
     char* mTermsVersion = nullptr;  ///< Owned; version of the terms. NULL: not set.
@@ -76,13 +61,13 @@ class IX_XML_EXPORT RcsTermsInfoDataBinder : public XMLObjectFactory {
     ix_ns_rcs_terms_info_term* CreateTermElement();
 };
 
-class IX_XML_EXPORT RcsTermsInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT RcsTermsInfoUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    RcsTermsInfoUnMarshaller();
 };
 
 /// Writes the XML declaration and the document. What is not set is left out.
-class IX_XML_EXPORT RcsTermsInfoMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT RcsTermsInfoMarshaller : public XmlFamilyMarshaller {
   public:
     RcsTermsInfoMarshaller();
 
@@ -92,11 +77,9 @@ class IX_XML_EXPORT RcsTermsInfoMarshaller : public XmlOldFamilyMarshaller {
     int AddTermElementToXml(ix_ns_rcs_terms_info_term* term);
 };
 
-class IX_XML_EXPORT RcsTermsInfoContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT RcsTermsInfoContext : public XmlFamilyContext {
+  public:
+    RcsTermsInfoContext();
 };
 
 #endif

@@ -12,27 +12,34 @@
 #define IX_XML_REGINFO_H
 
 #include "XMLGruu.h"
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
-/// What a document tells.
+/// What a document tells. A text counts as the word that it begins with.
 enum ix_reginfo_state_type_enum {
-    IX_REGINFO_STATE_FULL,     ///< All registrations.
-    IX_REGINFO_STATE_PARTIAL,  ///< Those that changed.
-    IX_REGINFO_STATE_UNSET
+    IX_REGINFO_STATE_FULL,     ///< "full": all registrations.
+    IX_REGINFO_STATE_PARTIAL,  ///< "partial": those that changed.
+    IX_REGINFO_STATE_UNSET     ///< Not set; also what any other text is read as.
 };
 
+/// State of a registration: "init", "active", "terminated". Any text that does not begin with one of the first two is
+/// read as terminated.
 enum ix_registration_state_type_enum {
     IX_REGISTRATION_STATE_INIT,
     IX_REGISTRATION_STATE_ACTIVE,
     IX_REGISTRATION_STATE_TERMINATED,
-    IX_REGISTRATION_STATE_UNSET
+    IX_REGISTRATION_STATE_UNSET  ///< Not set.
 };
 
-enum ix_contact_state_type_enum { IX_CONTACT_STATE_ACTIVE, IX_CONTACT_STATE_TERMINATED, IX_CONTACT_STATE_UNSET };
+/// State of a contact: "active", "terminated". A text that begins with "registered" is read as
+/// `IX_CONTACT_STATE_UNSET`, any other as the number behind it.
+enum ix_contact_state_type_enum {
+    IX_CONTACT_STATE_ACTIVE,
+    IX_CONTACT_STATE_TERMINATED,
+    IX_CONTACT_STATE_UNSET  ///< Not set, as are all numbers behind it.
+};
 
-/// What brought a contact into its state.
+/// What brought a contact into its state; the texts are the names in small letters. A text that begins with "init" is
+/// read as `IX_CONTACT_EVENT_UNSET`, any other as the number behind it.
 enum ix_contact_event_type_enum {
     IX_CONTACT_EVENT_REGISTERED,
     IX_CONTACT_EVENT_CREATED,
@@ -43,26 +50,22 @@ enum ix_contact_event_type_enum {
     IX_CONTACT_EVENT_PROBATION,
     IX_CONTACT_EVENT_UNREGISTERED,
     IX_CONTACT_EVENT_REJECTED,
-    IX_CONTACT_EVENT_UNSET
+    IX_CONTACT_EVENT_UNSET  ///< Not set, as are all numbers behind it.
 };
 
-/// The element `unknown-param`: a parameter of the Contact header field that has no attribute of its own.
-class IX_XML_EXPORT ix_unknown_param : public XMLObject {
+/// The element `unknown-param`: a parameter of the Contact header field that has no attribute of its own. It takes its
+/// name and its text; anything else is refused with a log line.
+class IX_XML_EXPORT ix_unknown_param : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_unknown_param";
+    static const XmlClass kClass;
 
-    ~ix_unknown_param() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "unknown-param"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_unknown_param() : XmlDescribedObject(kClass) {}
+    ~ix_unknown_param() override { ixRelease(*this, kClass); }
 
     /// Copies `value`; NULL clears it. @return 1, or 0 without memory, the earlier value kept.
     int setValueValue(const char* value) { return ixSetText(mValue, value); }
+    /// The same.
+    int setTextValue(const char* value) { return ixSetText(mValue, value); }
     /// Copies `name`; NULL clears it. @return 1, or 0 without memory, the earlier name kept.
     int setNameValue(const char* name) { return ixSetText(mName, name); }
 
@@ -70,19 +73,14 @@ class IX_XML_EXPORT ix_unknown_param : public XMLObject {
     char* mName = nullptr;   ///< Owned; NULL: not set. Mandatory in a written document.
 };
 
-/// The element `contact`: a binding of an address of record to a device.
-class IX_XML_EXPORT ix_ns_reginfo_contact : public XMLElement {
+/// The element `contact`: a binding of an address of record to a device. Elements and attributes that it does not know
+/// are logged; the attributes are refused.
+class IX_XML_EXPORT ix_ns_reginfo_contact : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_reginfo_contact";
+    static const XmlClass kClass;
 
-    ~ix_ns_reginfo_contact() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "contact"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_reginfo_contact() : XmlDescribedElement(kClass) {}
+    ~ix_ns_reginfo_contact() override { ixRelease(*this, kClass); }
 
     /// @name Texts are copied; NULL clears them. @return 1, or 0 without memory, the earlier text kept.
     /// @{
@@ -103,14 +101,14 @@ class IX_XML_EXPORT ix_ns_reginfo_contact : public XMLElement {
     /// @}
     /// @name Lists pass to the element; the earlier one is deleted. NULL: none. @return 1.
     /// @{
-    int setUnknownParamListValue(IxSingleElementList* list) { return ixSetElementList(mUnknownParamList, list); }
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
+    int setUnknownParamListValue(IxSingleElementList* list) { return ixSetList(*this, mUnknownParamList, list); }
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
     /// @}
-    /// @name Append an element, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
-    /// caller.
+    /// @name Append an element, which then belongs to this one. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
     /// @{
-    int addUnknownParam(ix_unknown_param* param);
-    int addAnyElement(XMLElement* element);
+    int addUnknownParam(ix_unknown_param* param) { return ixAdd(*this, mUnknownParamList, param); }
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
     /// @}
 
     char* mUri = nullptr;                              ///< Owned; NULL: not set.
@@ -129,19 +127,14 @@ class IX_XML_EXPORT ix_ns_reginfo_contact : public XMLElement {
                                                        ///< `ix_temp_gruu`; others are not written. NULL: none.
 };
 
-/// The element `registration`: an address of record and its contacts.
-class IX_XML_EXPORT ix_registration : public XMLElement {
+/// The element `registration`: an address of record and its contacts. Elements and attributes that it does not know are
+/// logged; the attributes are refused.
+class IX_XML_EXPORT ix_registration : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_registration";
+    static const XmlClass kClass;
 
-    ~ix_registration() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "registration"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_registration() : XmlDescribedElement(kClass) {}
+    ~ix_registration() override { ixRelease(*this, kClass); }
 
     /// @name Texts are copied; NULL clears them. @return 1, or 0 without memory, the earlier text kept.
     /// @{
@@ -152,14 +145,14 @@ class IX_XML_EXPORT ix_registration : public XMLElement {
     int setStateValue(ix_registration_state_type_enum state) { return ixSetNumber(mState, state); }
     /// @name Lists pass to the element; the earlier one is deleted. NULL: none. @return 1.
     /// @{
-    int setContactListValue(IxSingleElementList* list) { return ixSetElementList(mContactList, list); }
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
+    int setContactListValue(IxSingleElementList* list) { return ixSetList(*this, mContactList, list); }
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
     /// @}
-    /// @name Append an element, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
-    /// caller.
+    /// @name Append an element, which then belongs to this one. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
     /// @{
-    int addContact(ix_ns_reginfo_contact* contact);
-    int addAnyElement(XMLElement* element);
+    int addContact(ix_ns_reginfo_contact* contact) { return ixAdd(*this, mContactList, contact); }
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
     /// @}
 
     /// Owned `ix_ns_reginfo_contact` objects in document order; NULL: none. The list takes any number of them, but its
@@ -173,20 +166,13 @@ class IX_XML_EXPORT ix_registration : public XMLElement {
     IxSingleElementList* mAnyElementList = nullptr;  ///< Owned elements of other classes, not written; NULL: none.
 };
 
-/// The root element `reginfo`.
-class IX_XML_EXPORT ix_reginfo : public XMLObject {
+/// The root element `reginfo`. Elements and attributes that it does not know are logged; the attributes are refused.
+class IX_XML_EXPORT ix_reginfo : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_reginfo";
+    static const XmlClass kClass;
 
-    ~ix_reginfo() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "reginfo"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_reginfo() : XmlDescribedObject(kClass) {}
+    ~ix_reginfo() override { ixRelease(*this, kClass); }
 
     /// @name Numbers. @return 1.
     /// @{
@@ -195,21 +181,21 @@ class IX_XML_EXPORT ix_reginfo : public XMLObject {
     /// @}
     /// @name Lists pass to the element; the earlier one is deleted. NULL: none. @return 1.
     /// @{
-    int setRegistrationListValue(IxSingleElementList* list) { return ixSetElementList(mRegistrationList, list); }
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
+    int setRegistrationListValue(IxSingleElementList* list) { return ixSetList(*this, mRegistrationList, list); }
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
     /// @}
-    /// @name Append an element, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
-    /// caller.
+    /// @name Append an element, which then belongs to this one. @return 1, or 0 for NULL or without memory, when it
+    /// stays with the caller.
     /// @{
-    int addRegistration(ix_registration* registration);
-    int addAnyElement(XMLElement* element);
+    int addRegistration(ix_registration* registration) { return ixAdd(*this, mRegistrationList, registration); }
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
     /// @}
 
     IxSingleElementList* mRegistrationList = nullptr;  ///< Owned `ix_registration` objects in document order; NULL:
                                                        ///< none. Past 65535 of them as in `mContactList`.
     int mState = IX_REGINFO_STATE_UNSET;               ///< `ix_reginfo_state_type_enum`, from 2 on: not set. Mandatory.
-    unsigned int mVersion = 0;                         ///< One more in each notification of a subscription.
-    IxSingleElementList* mAnyElementList = nullptr;    ///< Owned elements of other classes, not written; NULL: none.
+    unsigned int mVersion = 0;  ///< One more in each notification of a subscription. Always written.
+    IxSingleElementList* mAnyElementList = nullptr;  ///< Owned elements of other classes, not written; NULL: none.
 };
 
 class IX_XML_EXPORT ReginfoDataBinder : public XMLObjectFactory {
@@ -225,20 +211,22 @@ class IX_XML_EXPORT ReginfoDataBinder : public XMLObjectFactory {
     /// @}
 };
 
-class IX_XML_EXPORT ReginfoUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT ReginfoUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    ReginfoUnMarshaller();
 };
 
 /// Writes the XML declaration and the document.
-class IX_XML_EXPORT ReginfoMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT ReginfoMarshaller : public XmlFamilyMarshaller {
   public:
     ReginfoMarshaller();
 
-    /// @name Writers. @return 1, or 0 when a mandatory field is missing, here or below.
+    /// @name Writers. @return 1, or 0 for NULL, or when a mandatory field is missing, here or below. A list entry that
+    /// is NULL or of another class fails its element, too.
     /// @{
     int AddReginfoElementToXml(ix_reginfo* reginfo);
     int AddRegistrationElementToXml(ix_registration* registration);
+    /// Of the elements of other classes, GRUUs are written; the others are skipped with a log line.
     int AddReginfoContactElementToXml(ix_ns_reginfo_contact* contact);
     int AddUnknownParamElementToXml(ix_unknown_param* param);
     /// Without a URI the start tag stays unterminated, and the contact around it is written all the same.
@@ -248,18 +236,13 @@ class IX_XML_EXPORT ReginfoMarshaller : public XmlOldFamilyMarshaller {
     /// @}
 
   private:
-    int AddContactAttributes(const ix_ns_reginfo_contact& contact);
-    void AddNumber(e_XmlStrRef name, std::int64_t value);
-    int AddAnyElementToXml(XMLElement* element);
-    void StartGruu(e_XmlStrRef name);
-    int AddGruuUri(const ix_gruuType& gruu, const XmlLogText& missing);
+    int AddContactStartTag(const ix_ns_reginfo_contact& contact);
+    void AddAnyElementToXml(XMLElement* element);
 };
 
-class IX_XML_EXPORT ReginfoContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT ReginfoContext : public XmlFamilyContext {
+  public:
+    ReginfoContext();
 };
 
 #endif

@@ -11,54 +11,49 @@
 #ifndef IX_XML_RESOURCE_LIST_H
 #define IX_XML_RESOURCE_LIST_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// The element `display-name`: a name for people, its text. It takes no attributes.
 class IX_XML_EXPORT ix_display_nameType : public ix_string {
   public:
-    static constexpr char kClassName[] = "ix_display_nameType";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "display-nameType"; }
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_display_nameType() : ix_string(kClass) {}
 };
 
 /// What a list and its members share. Content that has no place is logged and ignored.
-class IX_XML_EXPORT ix_listMemberType : public XMLElement {
+class IX_XML_EXPORT ix_listMemberType : public XmlDescribedElement {
   public:
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    static const XmlClass kClass;
+
+    ~ix_listMemberType() override { ixRelease(*this, kClass); }
 
     /// The list, which stays with the element; NULL: none.
     IxSingleElementList* getAnyAttributeValue() const { return mAnyAttribute; }
     /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttribute, list); }
+    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetList(*this, mAnyAttribute, list); }
     /// Appends a pair, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addAnyAttribute(ix_AttributeValuePair* pair);
+    int addAnyAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mAnyAttribute, pair); }
     /// Takes over `name` in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setDisplayNameValue(ix_display_nameType* name) { return ixSetChild(mDisplayName, name); }
 
     IxSingleElementList* mAnyAttribute = nullptr;  ///< Owned `ix_AttributeValuePair`s: all other attributes. NULL:
                                                    ///< none. A list that is empty leaves the written start tag open.
     ix_display_nameType* mDisplayName = nullptr;   ///< Owned; NULL: none.
+
+  protected:
+    explicit ix_listMemberType(const XmlClass& description) : XmlDescribedElement(description) {}
 };
 
 /// The element `entry`: one contact.
 class IX_XML_EXPORT ix_entryType : public ix_listMemberType {
   public:
-    static constexpr char kClassName[] = "ix_entryType";
+    static const XmlClass kClass;
 
-    ~ix_entryType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "entryType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_entryType() : ix_listMemberType(kClass) {}
+    ~ix_entryType() override { ixRelease(*this, kClass); }
 
     /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
     int setUriValue(const char* uri) { return ixSetText(mUri, uri); }
@@ -69,13 +64,10 @@ class IX_XML_EXPORT ix_entryType : public ix_listMemberType {
 /// The element `entry-ref`: a contact by reference to an entry of another list.
 class IX_XML_EXPORT ix_entry_refType : public ix_listMemberType {
   public:
-    static constexpr char kClassName[] = "ix_entry_refType";
+    static const XmlClass kClass;
 
-    ~ix_entry_refType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "entry-refType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_entry_refType() : ix_listMemberType(kClass) {}
+    ~ix_entry_refType() override { ixRelease(*this, kClass); }
 
     /// Copies `ref`; NULL clears it. @return 1, or 0 without memory, the earlier reference kept.
     int setRefValue(const char* ref) { return ixSetText(mRef, ref); }
@@ -86,13 +78,10 @@ class IX_XML_EXPORT ix_entry_refType : public ix_listMemberType {
 /// The element `external`: a list of another server.
 class IX_XML_EXPORT ix_externalType : public ix_listMemberType {
   public:
-    static constexpr char kClassName[] = "ix_externalType";
+    static const XmlClass kClass;
 
-    ~ix_externalType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "externalType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_externalType() : ix_listMemberType(kClass) {}
+    ~ix_externalType() override { ixRelease(*this, kClass); }
 
     /// Copies `anchor`; NULL clears it. @return 1, or 0 without memory, the earlier anchor kept.
     int setAnchorValue(const char* anchor) { return ixSetText(mAnchor, anchor); }
@@ -103,27 +92,23 @@ class IX_XML_EXPORT ix_externalType : public ix_listMemberType {
 /// The element `list`.
 class IX_XML_EXPORT ix_listType : public ix_listMemberType {
   public:
-    static constexpr char kClassName[] = "ix_listType";
+    static const XmlClass kClass;
 
-    ~ix_listType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "listType"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_listType() : ix_listMemberType(kClass) {}
+    ~ix_listType() override { ixRelease(*this, kClass); }
 
     /// Copies `name`; NULL clears it. @return 1, or 0 without memory, the earlier name kept.
     int setNameValue(const char* name) { return ixSetText(mName, name); }
     /// Takes over a list of children in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setChildrenValue(IxSingleElementList* list) { return ixSetElementList(mChildren, list); }
+    int setChildrenValue(IxSingleElementList* list) { return ixSetList(*this, mChildren, list); }
     /// Appends `child`, an `ix_entryType`, `ix_entry_refType`, `ix_externalType` or `ix_listType`, which then belongs
     /// to the list. @return 1, or 0 for NULL, any other class, or without memory, when it stays with the caller.
     int addChild(XMLElement* child);
     /// Takes over a list of elements in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setAnyElementListValue(IxSingleElementList* list) { return ixSetElementList(mAnyElementList, list); }
+    int setAnyElementListValue(IxSingleElementList* list) { return ixSetList(*this, mAnyElementList, list); }
     /// Appends `element`, which then belongs to the list. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addAnyElement(XMLElement* element);
+    int addAnyElement(XMLElement* element) { return ixAdd(*this, mAnyElementList, element); }
 
     char* mName = nullptr;                           ///< Owned; unique among its sisters. NULL: not set.
     IxSingleElementList* mChildren = nullptr;        ///< Owned, as are the entries, which are of the four classes above
@@ -134,24 +119,18 @@ class IX_XML_EXPORT ix_listType : public ix_listMemberType {
 };
 
 /// The element `resource-lists`. Anything but lists is refused.
-class IX_XML_EXPORT ix_resource_lists : public XMLObject {
+class IX_XML_EXPORT ix_resource_lists : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_resource_lists";
+    static const XmlClass kClass;
 
-    ~ix_resource_lists() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "resource-lists"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_resource_lists() : XmlDescribedObject(kClass) {}
+    ~ix_resource_lists() override { ixRelease(*this, kClass); }
 
     /// Takes over a list of `ix_listType`s in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setListListValue(IxSingleElementList* list) { return ixSetElementList(mListList, list); }
+    int setListListValue(IxSingleElementList* list) { return ixSetList(*this, mListList, list); }
     /// Appends `list`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addList(ix_listType* list);
+    int addList(ix_listType* list) { return ixAdd(*this, mListList, list); }
 
     IxSingleElementList* mListList = nullptr;  ///< Owned, as are its `ix_listType`s, in document order. NULL: none.
 };
@@ -168,9 +147,9 @@ class IX_XML_EXPORT ResourceListsDataBinder : public XMLObjectFactory {
     ix_display_nameType* CreateDisplayNameType();
 };
 
-class IX_XML_EXPORT ResourceListsUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT ResourceListsUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    ResourceListsUnMarshaller();
 };
 
 /// Writes the XML declaration and the document, always with the namespaces `xsi` and `cp` declared. An entry or
@@ -178,7 +157,7 @@ class IX_XML_EXPORT ResourceListsUnMarshaller : public XmlOldFamilyUnMarshaller 
 ///
 /// Lists are written by a call for each level, but only as long as the text has room: each level takes at least the
 /// seven characters of its start tag, so there are never more than 4,681 calls, however deep a tree is.
-class IX_XML_EXPORT Resource_listsMarshall : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT Resource_listsMarshall : public XmlFamilyMarshaller {
   public:
     Resource_listsMarshall();
 
@@ -194,15 +173,13 @@ class IX_XML_EXPORT Resource_listsMarshall : public XmlOldFamilyMarshaller {
     int AddExternalElementToXml(ix_externalType* external);
 
   private:
-    void AddStartTag(e_XmlStrRef name, e_XmlStrRef attribute, const char* value, const ix_listMemberType& member);
+    void StartMember(e_XmlStrRef name, e_XmlStrRef attribute, const char* value, const ix_listMemberType& member);
     void AddChild(XMLElement* child);
 };
 
-class IX_XML_EXPORT ResourceListsContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT ResourceListsContext : public XmlFamilyContext {
+  public:
+    ResourceListsContext();
 };
 
 /// Builds and writes a fixed document that has every element once. @return a text that the caller frees

@@ -13,68 +13,55 @@
 #define IX_XML_RLS_SERVICES_H
 
 #include "XMLResourceList.h"
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
+#include "XmlFamily.h"
 
 /// The element `package`: an event package ("presence"), its text.
 class IX_XML_EXPORT ix_ns_rls_services_packageType : public ix_string {
   public:
-    static constexpr char kClassName[] = "ix_ns_rls_services_packageType";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "packageType"; }
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_rls_services_packageType() : ix_string(kClass) {}
 };
 
 /// The element `packages`. Anything but packages is refused.
-class IX_XML_EXPORT ix_ns_rls_services_packagesType : public XMLElement {
+class IX_XML_EXPORT ix_ns_rls_services_packagesType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_rls_services_packagesType";
+    static const XmlClass kClass;
 
-    ~ix_ns_rls_services_packagesType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "packagesType"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_ns_rls_services_packagesType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_rls_services_packagesType() override { ixRelease(*this, kClass); }
 
     /// Takes over a list of `ix_ns_rls_services_packageType`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setPackageListValue(IxSingleElementList* list) { return ixSetElementList(mPackageList, list); }
+    int setPackageListValue(IxSingleElementList* list) { return ixSetList(*this, mPackageList, list); }
     /// Appends `package`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addPackage(ix_ns_rls_services_packageType* package);
+    int addPackage(ix_ns_rls_services_packageType* package) { return ixAdd(*this, mPackageList, package); }
 
     IxSingleElementList* mPackageList = nullptr;  ///< Owned, as are its `ix_ns_rls_services_packageType`s, in document
                                                   ///< order. NULL: none.
 };
 
 /// The element `service`. Content that has no place is logged and ignored.
-class IX_XML_EXPORT ix_ns_rls_services_serviceType : public XMLElement {
+class IX_XML_EXPORT ix_ns_rls_services_serviceType : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_ns_rls_services_serviceType";
+    static const XmlClass kClass;
 
-    ~ix_ns_rls_services_serviceType() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "serviceType"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_ns_rls_services_serviceType() : XmlDescribedElement(kClass) {}
+    ~ix_ns_rls_services_serviceType() override { ixRelease(*this, kClass); }
 
     /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
     int setResourceListValue(const char* uri) { return ixSetText(mResourceList, uri); }
     /// Takes over `list` in place of an earlier one, which is deleted; NULL: none. @return 1.
     int setListValue(ix_listType* list) { return ixSetChild(mList, list); }
+    /// The list, which stays with the element; NULL: none.
+    IxSingleElementList* getAnyAttributeValue() const { return mAnyAttribute; }
     /// Takes over a list of `ix_AttributeValuePair`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetAttributeList(mAnyAttribute, list); }
+    int setAnyAttributeValue(IxSingleElementList* list) { return ixSetList(*this, mAnyAttribute, list); }
     /// Appends a pair, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addAnyAttribute(ix_AttributeValuePair* pair);
+    int addAnyAttribute(ix_AttributeValuePair* pair) { return ixAdd(*this, mAnyAttribute, pair); }
     /// Takes over `packages` in place of earlier ones, which are deleted; NULL: none. @return 1.
     int setPackagesValue(ix_ns_rls_services_packagesType* packages) { return ixSetChild(mPackages, packages); }
     /// Copies `uri`; NULL clears it. @return 1, or 0 without memory, the earlier URI kept.
@@ -90,25 +77,19 @@ class IX_XML_EXPORT ix_ns_rls_services_serviceType : public XMLElement {
 };
 
 /// The element `rls-services`. Anything but services is refused.
-class IX_XML_EXPORT ix_rls_services : public XMLObject {
+class IX_XML_EXPORT ix_rls_services : public XmlDescribedObject {
   public:
-    static constexpr char kClassName[] = "ix_rls_services";
+    static const XmlClass kClass;
 
-    ~ix_rls_services() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLObject"; }
-    const char* TypeName() const override { return "rls-services"; }
-    int Reserved() const override { return 0; }
-    int IsRootElement() const override { return 1; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_rls_services() : XmlDescribedObject(kClass) {}
+    ~ix_rls_services() override { ixRelease(*this, kClass); }
 
     /// Takes over a list of `ix_ns_rls_services_serviceType`s in place of an earlier one, which is deleted; NULL: none.
     /// @return 1.
-    int setServiceListValue(IxSingleElementList* list) { return ixSetElementList(mServiceList, list); }
+    int setServiceListValue(IxSingleElementList* list) { return ixSetList(*this, mServiceList, list); }
     /// Appends `service`, which then belongs to the element. @return 1, or 0 for NULL or without memory, when it stays
     /// with the caller.
-    int addService(ix_ns_rls_services_serviceType* service);
+    int addService(ix_ns_rls_services_serviceType* service) { return ixAdd(*this, mServiceList, service); }
 
     IxSingleElementList* mServiceList = nullptr;  ///< Owned, as are its `ix_ns_rls_services_serviceType`s, in document
                                                   ///< order. NULL: none.
@@ -125,13 +106,13 @@ class IX_XML_EXPORT RlsServicesDataBinder : public XMLObjectFactory {
     ix_ns_rls_services_packageType* CreatePackageElement();
 };
 
-class IX_XML_EXPORT RlsServicesUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT RlsServicesUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    RlsServicesUnMarshaller();
 };
 
 /// Writes the XML declaration and the document; not at all when a service lacks its URI.
-class IX_XML_EXPORT RlsServicesMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT RlsServicesMarshaller : public XmlFamilyMarshaller {
   public:
     RlsServicesMarshaller();
 
@@ -145,11 +126,9 @@ class IX_XML_EXPORT RlsServicesMarshaller : public XmlOldFamilyMarshaller {
     int AddPackageElementToXml(ix_ns_rls_services_packageType* package);
 };
 
-class IX_XML_EXPORT RlsServicesContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT RlsServicesContext : public XmlFamilyContext {
+  public:
+    RlsServicesContext();
 };
 
 #endif

@@ -20,42 +20,40 @@
 #ifndef IX_XML_SIMSERVS_H
 #define IX_XML_SIMSERVS_H
 
-#include "XMLSimservsXcap.h"
+#include "XmlFamily.h"
 
 /// The element `simservs`.
-class IX_XML_EXPORT ix_Simservs : public XMLElement {
+class IX_XML_EXPORT ix_Simservs : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_Simservs";
+    static const XmlClass kClass;
 
-    ~ix_Simservs() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Simservs"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
+    ix_Simservs() : XmlDescribedElement(kClass) {}
+    ~ix_Simservs() override { ixRelease(*this, kClass); }
     /// Services arrive through `addService`, not as child elements. @return 1.
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
-    /// Appends a service, which then belongs to this element. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addService(XMLElement* service);
     /// Takes over a list of services in place of an earlier one, which is deleted; NULL: none. @return 1.
-    int setServiceValue(IxSingleElementList* list);
+    int setServiceValue(IxSingleElementList* list) { return ixSetList(*this, mServiceList, list); }
+    /// Appends a service, which then belongs to this element. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addService(XMLElement* service) { return ixAdd(*this, mServiceList, service); }
 
     IxSingleElementList* mServiceList = nullptr;  ///< Owned root elements of the services' schemas; NULL: none.
 };
 
 class IX_XML_EXPORT SimservsDataBinder : public XMLObjectFactory {
   public:
-    /// A new `ix_Simservs` without services.
+    /// A new `ix_Simservs` without services; NULL without memory.
     XMLElement* CreateRootElement() override;
 };
 
 /// Reads a document in two steps: the services are cut out of its text, then each part is decoded by itself.
 ///
 /// At most ten services of each kind are read (barring counts as one kind); more are left where they are, and ignored.
-class IX_XML_EXPORT SimservsUnMarshaller : public XmlOldFamilyUnMarshaller {
+class IX_XML_EXPORT SimservsUnMarshaller : public XmlFamilyUnMarshaller {
   public:
+    SimservsUnMarshaller();
+
     /// @return the root with its services; NULL when the text is NULL, not complete and balanced, or of another root,
     /// and without memory. A service that its schema cannot read is left out.
     XMLElement* UnMarshall(const char* text) override;
@@ -69,28 +67,19 @@ class IX_XML_EXPORT SimservsUnMarshaller : public XmlOldFamilyUnMarshaller {
     /// have these characters, and so is the text.
     /// @return `text`.
     char* replaceSubStringWithNull(char* text, char** out, int at, int length);
-
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
-
-  private:
-    struct Pieces;
-    class Search;
-
-    char* CutServices(char* text, Pieces& pieces);
-    void AddServices(ix_Simservs& root, Pieces& pieces);
 };
 
 /// Writes an XML declaration and the root with the declarations of its namespaces; between its tags, each service as
 /// its own schema writes it. A service that cannot be written is left out.
-class IX_XML_EXPORT SimservsMarshaller : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT SimservsMarshaller : public XmlFamilyMarshaller {
   public:
     SimservsMarshaller();
 
     char* Marshall(XMLElement* root) override;
+    /// Also 1 when the text of a service was cut.
     int IsTruncated() const override;
 
-    /// The root without its services. @return 1.
+    /// The root without its services. @return 1, or 0 for NULL.
     int AddSimservsElementToXml(ix_Simservs* element);
 
     /// Puts `piece` in front of the first end tag of `document`, which is freed. @return the new text, to be freed by
@@ -99,18 +88,16 @@ class IX_XML_EXPORT SimservsMarshaller : public XmlOldFamilyMarshaller {
 
   private:
     char* WriteServices(const IxSingleElementList& services);
+    std::size_t WriteEach(const IxSingleElementList& services, char* text, std::size_t size);
 
     bool m_bServiceTruncated = false;
 };
 
-class IX_XML_EXPORT SimservsContext : public XmlOldBinderContext {
+class IX_XML_EXPORT SimservsContext : public XmlBinderContext {
   public:
-    int SetNamespaceBinder(XMLObject* binder) override;
+    SimservsContext();
 
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+    int SetNamespaceBinder(XMLObject* binder) override;
 };
 
 #endif

@@ -14,10 +14,9 @@
 /// The element `volte-config-info`.
 class IX_XML_EXPORT ix_volte_config_info : public ix_characteristicDocType {
   public:
-    static constexpr char kClassName[] = "ix_volte_config_info";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "VolteConfigInfo"; }
+    ix_volte_config_info() : ix_characteristicDocType(kClass) {}
 };
 
 class IX_XML_EXPORT VolteConfigInfoDataBinder : public XmlCharacteristicDataBinder {
@@ -26,17 +25,16 @@ class IX_XML_EXPORT VolteConfigInfoDataBinder : public XmlCharacteristicDataBind
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT VolteConfigInfoUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT VolteConfigInfoUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    VolteConfigInfoUnMarshaller();
 };
 
 class IX_XML_EXPORT VolteConfigInfoMarshall : public XmlCharacteristicMarshaller {};
 
-class IX_XML_EXPORT VolteConfigInfoContext : public XmlCharacteristicContext {
-  protected:
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT VolteConfigInfoContext : public XmlFamilyContext {
+  public:
+    VolteConfigInfoContext();
 };
 
 #endif

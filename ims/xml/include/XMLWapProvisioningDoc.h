@@ -14,10 +14,9 @@
 /// The element `wap-provisioningdoc`.
 class IX_XML_EXPORT ix_wap_provisioning_doc : public ix_characteristicDocType {
   public:
-    static constexpr char kClassName[] = "ix_wap_provisioning_doc";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "WapProvisioningDoc"; }
+    ix_wap_provisioning_doc() : ix_characteristicDocType(kClass) {}
 };
 
 class IX_XML_EXPORT WapProvisioningDocDataBinder : public XmlCharacteristicDataBinder {
@@ -26,17 +25,16 @@ class IX_XML_EXPORT WapProvisioningDocDataBinder : public XmlCharacteristicDataB
     XMLElement* CreateRootElement() override;
 };
 
-class IX_XML_EXPORT WapProvisioningDocUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT WapProvisioningDocUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    WapProvisioningDocUnMarshaller();
 };
 
 class IX_XML_EXPORT WapProvisioningDocMarshall : public XmlCharacteristicMarshaller {};
 
-class IX_XML_EXPORT WapProvisioningDocContext : public XmlCharacteristicContext {
-  protected:
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT WapProvisioningDocContext : public XmlFamilyContext {
+  public:
+    WapProvisioningDocContext();
 };
 
 #endif

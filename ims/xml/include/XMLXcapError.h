@@ -10,86 +10,71 @@
 #ifndef IX_XML_XCAP_ERROR_H
 #define IX_XML_XCAP_ERROR_H
 
-#include "XmlElementSupport.h"
-#include "XmlOldFamily.h"
-#include "XmlFields.h"
-
-class ix_exists;
+#include "XmlFamily.h"
 
 /// What carries a phrase: the root, and every error condition but `extension`.
-class IX_XML_EXPORT ix_phraseType : public XMLElement {
+class IX_XML_EXPORT ix_phraseType : public XmlDescribedElement {
   public:
-    ~ix_phraseType() override;
-    const char* BaseClassName() const override { return "XMLElement"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    static const XmlClass kClass;
+
+    ~ix_phraseType() override { ixRelease(*this, kClass); }
 
     /// Copies `phrase`; NULL clears it. @return 1, or 0 without memory, the earlier phrase kept.
     int setPhraseValue(const char* phrase) { return ixSetText(mPhrase, phrase); }
 
     char* mPhrase = nullptr;  ///< Owned: the error in words for people; NULL: not set.
+
+  protected:
+    explicit ix_phraseType(const XmlClass& description) : XmlDescribedElement(description) {}
 };
 
 /// The element `xcap-error`.
 class IX_XML_EXPORT ix_xcap_error : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_xcap_error";
+    static const XmlClass kClass;
 
-    ~ix_xcap_error() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "XcapError"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_xcap_error() : ix_phraseType(kClass) {}
+    ~ix_xcap_error() override { ixRelease(*this, kClass); }
 
-    /// Takes over an object of one of the classes below; an earlier one is deleted. NULL: none. @return 1.
+    /// Takes over an object of one of the classes below but `ix_exists`; an earlier one is deleted. NULL: none.
+    /// @return 1.
     int setErrorValue(XMLElement* error) { return ixSetChild(mError, error); }
 
-    XMLElement* mError =
-        nullptr;  ///< Owned: the error condition, an object of one of the classes below; NULL: not set.
+    XMLElement* mError = nullptr;  ///< Owned: the error condition. An object of any other class is not written. NULL:
+                                   ///< not set.
 };
 
 /// The element `extension`: a condition of the server's own, of which nothing but its presence is kept.
-class IX_XML_EXPORT ix_extension : public XMLElement {
+class IX_XML_EXPORT ix_extension : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_extension";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Extension"; }
-    int Reserved() const override { return 0; }
-    /// A table without fields: an extension keeps nothing that it is offered.
-    const XmlFieldTable* FieldTable() const override;
+    ix_extension() : XmlDescribedElement(kClass) {}
 };
 
 /// The element `schema-validation-error`: the document would not fit its schema.
 class IX_XML_EXPORT ix_schema_validation_error : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_schema_validation_error";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "SchemaValidationError"; }
+    ix_schema_validation_error() : ix_phraseType(kClass) {}
 };
 
 /// The element `not-xml-frag`: the body is no XML element.
 class IX_XML_EXPORT ix_not_xml_frag : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_not_xml_frag";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "NotXmlFrag"; }
+    ix_not_xml_frag() : ix_phraseType(kClass) {}
 };
 
 /// The element `no-parent`: there is nothing into which the element or document could be put.
 class IX_XML_EXPORT ix_no_parent : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_no_parent";
+    static const XmlClass kClass;
 
-    ~ix_no_parent() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "NoParent"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
+    ix_no_parent() : ix_phraseType(kClass) {}
+    ~ix_no_parent() override { ixRelease(*this, kClass); }
 
     /// Copies `ancestor`; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
     int setAncestorValue(const char* ancestor) { return ixSetText(mAncestor, ancestor); }
@@ -100,100 +85,85 @@ class IX_XML_EXPORT ix_no_parent : public ix_phraseType {
 /// The element `cannot-insert`: the request would not be idempotent.
 class IX_XML_EXPORT ix_cannot_insert : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_cannot_insert";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CannotInsert"; }
+    ix_cannot_insert() : ix_phraseType(kClass) {}
 };
 
 /// The element `not-xml-att-value`: the body is no attribute value.
 class IX_XML_EXPORT ix_not_xml_att_value : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_not_xml_att_value";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "NotXmlAttValue"; }
-};
-
-/// The element `uniqueness-failure`: values that have to be unique are in use.
-class IX_XML_EXPORT ix_uniqueness_failure : public ix_phraseType {
-  public:
-    static constexpr char kClassName[] = "ix_uniqueness_failure";
-
-    ~ix_uniqueness_failure() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "UniquenessFailure"; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-
-    /// Takes over a list of `ix_exists`; an earlier one is deleted. NULL: none. @return 1.
-    int setExistsListValue(IxSingleElementList* list) { return ixSetElementList(mExistsList, list); }
-    /// Appends an object, which then belongs to this one. @return 1, or 0 without memory, when it stays with the
-    /// caller.
-    int addExists(ix_exists* exists);
-
-    IxSingleElementList* mExistsList = nullptr;  ///< Owned `ix_exists`; NULL: none.
+    ix_not_xml_att_value() : ix_phraseType(kClass) {}
 };
 
 /// The element `exists` of a uniqueness failure: one value in use.
-class IX_XML_EXPORT ix_exists : public XMLElement {
+class IX_XML_EXPORT ix_exists : public XmlDescribedElement {
   public:
-    static constexpr char kClassName[] = "ix_exists";
+    static const XmlClass kClass;
 
-    ~ix_exists() override;
-    const char* ClassName() const override { return kClassName; }
-    const char* BaseClassName() const override { return "XMLElement"; }
-    const char* TypeName() const override { return "Exists"; }
-    int Reserved() const override { return 0; }
-    const XmlFieldTable* FieldTable() const override;
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
-    int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
+    ix_exists() : XmlDescribedElement(kClass) {}
+    ~ix_exists() override { ixRelease(*this, kClass); }
 
     /// Copies `field`; NULL clears it. @return 1, or 0 without memory, the earlier one kept.
     int setFieldValue(const char* field) { return ixSetText(mField, field); }
     /// Takes over a list of texts; an earlier one is deleted. NULL: none. @return 1.
-    int setAltValueListValue(IxSingleElementList* list) { return ixSetTextList(mAltValueList, list); }
+    int setAltValueListValue(IxSingleElementList* list) { return ixSetList(*this, mAltValueList, list); }
     /// Appends a copy of `value`. @return 1, or 0 for NULL or without memory.
-    int addAltValue(const char* value);
+    int addAltValue(const char* value) { return ixAddText(*this, mAltValueList, value); }
 
     char* mField = nullptr;  ///< Owned: node selector of the element or attribute that has the value; NULL: not set.
     IxSingleElementList* mAltValueList = nullptr;  ///< Owned texts: values that are free; NULL: none.
 };
 
+/// The element `uniqueness-failure`: values that have to be unique are in use.
+class IX_XML_EXPORT ix_uniqueness_failure : public ix_phraseType {
+  public:
+    static const XmlClass kClass;
+
+    ix_uniqueness_failure() : ix_phraseType(kClass) {}
+    ~ix_uniqueness_failure() override { ixRelease(*this, kClass); }
+
+    /// Takes over a list of `ix_exists`; an earlier one is deleted. NULL: none. @return 1.
+    int setExistsListValue(IxSingleElementList* list) { return ixSetList(*this, mExistsList, list); }
+    /// Appends an object, which then belongs to this one. @return 1, or 0 for NULL or without memory, when it stays
+    /// with the caller.
+    int addExists(ix_exists* exists) { return ixAdd(*this, mExistsList, exists); }
+
+    IxSingleElementList* mExistsList = nullptr;  ///< Owned `ix_exists`; NULL: none.
+};
+
 /// The element `not-well-formed`: the body is no well-formed XML.
 class IX_XML_EXPORT ix_not_well_formed : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_not_well_formed";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "NotWellFormed"; }
+    ix_not_well_formed() : ix_phraseType(kClass) {}
 };
 
 /// The element `constraint-failure`: the document would break a rule of its application usage.
 class IX_XML_EXPORT ix_constraint_failure : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_constraint_failure";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "ConstraintFailure"; }
+    ix_constraint_failure() : ix_phraseType(kClass) {}
 };
 
 /// The element `cannot-delete`: the request would not be idempotent.
 class IX_XML_EXPORT ix_cannot_delete : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_cannot_delete";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "CannotDelete"; }
+    ix_cannot_delete() : ix_phraseType(kClass) {}
 };
 
 /// The element `not-utf-8`: the body is in another encoding.
 class IX_XML_EXPORT ix_not_utf_8 : public ix_phraseType {
   public:
-    static constexpr char kClassName[] = "ix_not_utf_8";
+    static const XmlClass kClass;
 
-    const char* ClassName() const override { return kClassName; }
-    const char* TypeName() const override { return "NotUtf8"; }
+    ix_not_utf_8() : ix_phraseType(kClass) {}
 };
 
 /// Creates the elements of the schema, which the caller links. Each creator yields NULL without memory.
@@ -218,59 +188,42 @@ class IX_XML_EXPORT XcapErrorDataBinder : public XMLObjectFactory {
     IxSingleElementList* CreateList();
 };
 
-class IX_XML_EXPORT XcapErrorUnMarshaller : public XmlOldFamilyUnMarshaller {
-  protected:
-    const XmlOldUnMarshallerInfo& Info() const override;
+class IX_XML_EXPORT XcapErrorUnMarshaller : public XmlFamilyUnMarshaller {
+  public:
+    XcapErrorUnMarshaller();
 };
 
 /// Writes the XML declaration and `<xcap-error  xmlns="..."  ...>` with the error condition in it, as in
 /// `<cannot-delete  phrase="...">`, `</cannot-delete>`. A condition of any other class is left out.
 ///
 /// The writers answer 1, or 0 for NULL.
-class IX_XML_EXPORT Xcap_ErrorMarshall : public XmlOldFamilyMarshaller {
+class IX_XML_EXPORT Xcap_ErrorMarshall : public XmlFamilyMarshaller {
   public:
     Xcap_ErrorMarshall();
 
-    int AddXcap_errorElementToXml(ix_xcap_error* element);
-    int AddSchema_validation_errorElementToXml(ix_schema_validation_error* element) {
-        return AddError(__func__, IX_STR_SCHEMA_VALIDATION_ERROR, element);
-    }
-    int AddNot_xml_fragElementToXml(ix_not_xml_frag* element) {
-        return AddError(__func__, IX_STR_NOT_XML_FRAG, element);
-    }
-    int AddNo_parentElementToXml(ix_no_parent* element);
-    int AddCannot_insertElementToXml(ix_cannot_insert* element) {
-        return AddError(__func__, IX_STR_CANNOT_INSERT, element);
-    }
-    int AddNot_xml_att_valueElementToXml(ix_not_xml_att_value* element) {
-        return AddError(__func__, IX_STR_NOT_XML_ATT_VALUE, element);
-    }
-    int AddUniqueness_failureElementToXml(ix_uniqueness_failure* element);
-    int AddExistsElementToXml(ix_exists* element);
-    int AddNot_well_formedElementToXml(ix_not_well_formed* element) {
-        return AddError(__func__, IX_STR_NOT_WELL_FORMED, element);
-    }
-    int AddConstraint_failureElementToXml(ix_constraint_failure* element) {
-        return AddError(__func__, IX_STR_CONSTRAINT_FAILURE, element);
-    }
-    int AddCannot_deleteElementToXml(ix_cannot_delete* element) {
-        return AddError(__func__, IX_STR_CANNOT_DELETE, element);
-    }
-    int AddNot_utf_8ElementToXml(ix_not_utf_8* element) { return AddError(__func__, IX_STR_NOT_UTF_8, element); }
+    int AddXcap_errorElementToXml(ix_xcap_error* error);
+    int AddSchema_validation_errorElementToXml(ix_schema_validation_error* condition);
+    int AddNot_xml_fragElementToXml(ix_not_xml_frag* condition);
+    int AddNo_parentElementToXml(ix_no_parent* condition);
+    int AddCannot_insertElementToXml(ix_cannot_insert* condition);
+    int AddNot_xml_att_valueElementToXml(ix_not_xml_att_value* condition);
+    int AddUniqueness_failureElementToXml(ix_uniqueness_failure* condition);
+    int AddExistsElementToXml(ix_exists* exists);
+    int AddNot_well_formedElementToXml(ix_not_well_formed* condition);
+    int AddConstraint_failureElementToXml(ix_constraint_failure* condition);
+    int AddCannot_deleteElementToXml(ix_cannot_delete* condition);
+    int AddNot_utf_8ElementToXml(ix_not_utf_8* condition);
     /// Without contents.
-    int AddExtensionElementToXml(ix_extension* element);
+    int AddExtensionElementToXml(ix_extension* condition);
 
   private:
-    int StartError(const char* writer, e_XmlStrRef name, const ix_phraseType* element);
-    int AddError(const char* writer, e_XmlStrRef name, const ix_phraseType* element);
-    void StartElementWith(e_XmlStrRef name, e_XmlStrRef attribute, const char* value);
+    bool StartCondition(const ix_phraseType* condition, e_XmlStrRef name, const XmlLogText& entered);
+    int AddCondition(const ix_phraseType* condition, e_XmlStrRef name, const XmlLogText& entered);
 };
 
-class IX_XML_EXPORT XcapErrorContext : public XmlOldFamilyContext {
-  protected:
-    XmlOldFamilyMarshaller* NewMarshaller() override;
-    XmlOldFamilyUnMarshaller* NewUnMarshaller() override;
-    XMLObjectFactory* NewBinderFactory() override;
+class IX_XML_EXPORT XcapErrorContext : public XmlFamilyContext {
+  public:
+    XcapErrorContext();
 };
 
 #endif

@@ -3,9 +3,9 @@
 #ifndef IX_XCAP_DIRECTORY_H
 #define IX_XCAP_DIRECTORY_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLXcapDirectoryDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLXcapDirectoryDecoder : public XmlFamilyDecoder {
   public:
     XMLXcapDirectoryDecoder();
 };

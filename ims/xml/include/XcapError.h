@@ -3,9 +3,9 @@
 #ifndef IX_XCAP_ERROR_H
 #define IX_XCAP_ERROR_H
 
-#include "XmlOldFamily.h"
+#include "XmlFamilyDecoder.h"
 
-class IX_XML_EXPORT XMLXcapErrorDecoder : public XmlOldFamilyDecoder {
+class IX_XML_EXPORT XMLXcapErrorDecoder : public XmlFamilyDecoder {
   public:
     XMLXcapErrorDecoder();
 };

@@ -30,7 +30,8 @@ enum class XmlFieldKind : unsigned char {
     ChildList,      ///< Owned list of owned elements (`IxSingleElementList*`).
     TextList,       ///< Owned list of owned texts.
     AttributeList,  ///< Owned list of owned `ix_AttributeValuePair` objects.
-    Presence,       ///< Owned `ix_empty_element_type` whose presence is the information.
+    Presence,       ///< Owned `ix_empty_element_type`, or of a class derived from it, whose presence is the
+                    ///< information.
     None            ///< There is no data member.
 };
 
@@ -51,12 +52,12 @@ enum class XmlRole : unsigned char {
 };
 
 /// The texts of an enumeration, in rows of a fixed width.
-struct XmlEnumeration {
+struct IX_XML_EXPORT XmlEnumeration {
     const char* rows;
     std::size_t width;
     int count;
     bool exact = false;  ///< A text has to be a word of the enumeration; else it stands for the first it begins with.
-    int reach = 0;       ///< How many rows reading looks at, where that are more than `count`; 0: no more.
+    int reach = 0;       ///< How many rows reading looks at, where that are not `count`; 0: `count`.
 
     const char* TextOf(long long value) const {
         return value >= 0 && value < count ? rows + static_cast<std::size_t>(value) * width : nullptr;
@@ -72,8 +73,9 @@ struct XmlEnumeration {
 
 /// How the text of a flag is read.
 enum class XmlFlag : unsigned char {
-    TrueOrNot,   ///< 1 for "true", 0 for every other text.
-    TrueOrFalse  ///< 1 for "true", 0 for "false"; every other text leaves the flag as it is.
+    TrueOrNot,        ///< 1 for "true", 0 for every other text.
+    TrueOrFalse,      ///< 1 for "true", 0 for "false"; every other text leaves the flag as it is.
+    TrueFalseOrUnset  ///< 1 for "true", 0 for "false"; every other text makes it 'not set'.
 };
 
 /// @name Pointers to data members, as a row holds them
@@ -88,10 +90,6 @@ using XmlChildReader = XMLElement* (*)(const XMLElement& parent);
 /// Stores a child, which is of the member's class.
 using XmlChildWriter = void (*)(XMLElement& parent, XMLElement* child);
 /// @}
-
-/// The reader of the member `member` of the class `type`.
-#define IX_CHILD_MEMBER(type, member) \
-    XmlChildReader([](const XMLElement& element) -> XMLElement* { return static_cast<const type&>(element).member; })
 
 /// The 'not set' value of a number that has none: the field is always shown.
 constexpr long long kXmlAlwaysSet = LLONG_MIN;
@@ -189,13 +187,37 @@ struct XmlAnswers {
     int attribute = 1;              ///< ... to an attribute without a pair ...
     int pair = 1;                   ///< ... and to one with a pair.
     int nameless = 0;               ///< Answer to an object without a class name under the name of a child.
+    bool needsName = false;         ///< A call without a name does nothing and answers 1.
     bool startsAreUnknown = false;  ///< The start tag of a text element is as unknown as any other.
+    bool missingIsUnknown = false;  ///< So is the start tag of a child without the child.
     XmlLogText entered{};           ///< At each call for a tag or an object.
     XmlLogText attributeEntered{};  ///< At each call for an attribute.
     XmlLogText unknown{};           ///< A tag without an object that no row takes: its name and text ...
     XmlLogText unknownObject{};     ///< ... one with an object ...
     XmlLogText unknownAttribute{};  ///< ... and an attribute: its name.
+    XmlLogText noAttribute{};       ///< An attribute without a name; none: `unknownAttribute`.
+    XmlLogText noChild{};           ///< Under the name of a child: no object ...
+    XmlLogText namelessChild{};     ///< ... one without a class name ...
+    XmlLogText otherChild{};        ///< ... and one of another class: its class name.
 };
+
+/// The answers of a class that ignores objects under names that no row has.
+constexpr XmlAnswers ixIgnoring() {
+    XmlAnswers answers;
+    answers.object = 1;
+    return answers;
+}
+
+/// The same of one that also ignores objects without a class name, and those under the name of a text element, and that
+/// logs each call of its hooks.
+constexpr XmlAnswers ixTracing(const XmlLogText& entered, const XmlLogText& attributeEntered) {
+    XmlAnswers answers = ixIgnoring();
+    answers.nameless = 1;
+    answers.startsAreUnknown = true;
+    answers.entered = entered;
+    answers.attributeEntered = attributeEntered;
+    return answers;
+}
 
 /// An element class.
 struct XmlClass {
@@ -229,25 +251,20 @@ struct XmlClass {
 /// @name Classes of objects
 /// @{
 
+/// The rows of an element's class; NULL: it has no description.
+inline const XmlFieldTable* ixRowsOf(const XMLElement& element) {
+    return element.Class() != nullptr ? &element.Class()->table : nullptr;
+}
+
 /// True when `element` is an object of the class, or of one that an application has derived from it, and says so by its
 /// name. NULL is of no class.
 IX_XML_EXPORT bool ixIsClass(const XMLElement* element, const XmlClass& description);
-
-template <class Element, class = void>
-struct HasOldName : std::false_type {};
-template <class Element>
-struct HasOldName<Element, std::void_t<decltype(Element::kClassName)>> : std::true_type {};
-IX_XML_EXPORT bool ixIsClassOld(const XMLElement* element, const char* className);
 
 /// True when `element` is an object of the class `Element`. NULL is of no class. A class that an application has
 /// derived from `Element` and calls otherwise is none.
 template <class Element>
 bool ixIs(const XMLElement* element) {
-    if constexpr (HasOldName<Element>::value) {
-        return ixIsClassOld(element, Element::kClassName);
-    } else {
-        return ixIsClass(element, Element::kClass);
-    }
+    return ixIsClass(element, Element::kClass);
 }
 
 /// `element` as an object of the class `Element`; NULL when it is none, or NULL.
@@ -453,7 +470,7 @@ constexpr XmlField Texts(XmlName name, int line = __builtin_LINE()) {
 template <auto member>
 constexpr XmlField Child(XmlName name, int line = __builtin_LINE()) {
     using Pointee = std::remove_pointer_t<TypeOf<member>>;
-    constexpr bool isPresence = std::is_same_v<Pointee, ix_empty_element_type>;
+    constexpr bool isPresence = std::is_base_of_v<ix_empty_element_type, Pointee>;
     XmlField row = Make(XmlRole::Child, isPresence ? XmlFieldKind::Presence : XmlFieldKind::Child, name,
                         XmlChildReader(MemberOf<member>::Get), line);
     row.store = MemberOf<member>::Set;

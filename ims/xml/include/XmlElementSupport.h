@@ -26,7 +26,6 @@ class IX_XML_EXPORT XmlDescribedElement : public XMLElement {
     int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
     /// As the rows say.
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
-    const XmlFieldTable* FieldTable() const override { return &m_pClass->table; }
 };
 
 /// Base of those that can stand at the root of a document.
@@ -43,7 +42,6 @@ class IX_XML_EXPORT XmlDescribedObject : public XMLObject {
     /// As the rows say.
     int ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) override;
     int IsRootElement() const override { return m_pClass->isRoot ? 1 : 0; }
-    const XmlFieldTable* FieldTable() const override { return &m_pClass->table; }
 };
 
 /// Frees what the fields of the class own; those of its base class are freed by that one's destructor.
@@ -86,6 +84,11 @@ int ixSetChild(Element*& field, Element* child) {
     if (field != child) ixDelete(field);
     field = child;
     return 1;
+}
+
+/// Stores a copy of a text as `ixOverwriteText` does; NULL changes nothing. @return 1, or 0 without memory.
+inline int ixOverwriteWithText(char*& field, const char* text) {
+    return text != nullptr ? ixOverwriteText(field, text) : 1;
 }
 
 /// Stores a child or a list, which passes to the element; NULL changes nothing.
@@ -146,6 +149,10 @@ class IX_XML_EXPORT ix_empty_element_type : public XmlDescribedElement {
 
     char* mName = nullptr;  ///< Owned; the name the element is written with. NULL: not set.
     int mPresent = 0;       ///< 1 present, 0 absent.
+
+  protected:
+    /// For a class of an element of its own, which is present as soon as there is an object.
+    explicit ix_empty_element_type(const XmlClass& description) : XmlDescribedElement(description), mPresent(1) {}
 };
 
 /// A pair with copies of both texts, NULL for NULL, registered under `source` and `line`; NULL without memory.
@@ -157,7 +164,5 @@ IX_XML_EXPORT ix_AttributeValuePair* ixCreatePair(const char* name, const char* 
 IX_XML_EXPORT ix_empty_element_type* ixCreateEmptyElement(const char* name, const char* source,
                                                           int line = __builtin_LINE());
 /// @}
-
-#include "XmlElementSupportOld.h"
 
 #endif

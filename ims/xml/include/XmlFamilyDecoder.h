@@ -46,7 +46,8 @@ struct XmlContainerRow {
     Role role;
     const XmlClass* made;              ///< Class of the object.
     bool endsAnything;                 ///< The end tag pops whatever is on top, and not only an object of the class.
-    int line;                          ///< Source line of the row, under which the object is registered.
+    int line;                          ///< Source line of the row, under which the object is registered; 0 in a
+                                       ///< shared table: `XmlDecoderInfo::pairLine`.
     const XmlClass* parent = nullptr;  ///< The row counts only while an object of this class is on top; NULL: always.
     const char* endsAs = nullptr;      ///< The class that the end tag asks for in place of that of `made`; NULL: none.
     /// Makes the object, where that needs its name as compared; NULL: `made` does.
@@ -63,6 +64,11 @@ struct XmlContainerRow {
         XmlContainerRow row = *this;
         row.endsAs = className;
         row.endsAnything = false;
+        return row;
+    }
+    constexpr XmlContainerRow EndsAnything() const {
+        XmlContainerRow row = *this;
+        row.endsAnything = true;
         return row;
     }
     constexpr XmlContainerRow EndsItsOwn() const {
@@ -184,7 +190,7 @@ struct XmlDecoderInfo {
     const XmlContainerTable* shared = nullptr;  ///< Containers that count, too.
     const XmlNamespaceRow* namespaces = nullptr;
     std::size_t namespaceCount = 0;
-    int pairLine = 0;            ///< Source line under which attribute pairs are registered.
+    int pairLine = 0;            ///< Source line under which attribute pairs are registered, and shared containers.
     bool wrapsNameSize = false;  ///< Room for a name without prefix is counted in 16 bits: a longer one is cut.
 };
 

@@ -14,6 +14,12 @@ enum XmlExtraName {
     kXmlNameWapProvisioningdoc,
     kXmlNameVolteConfigInfo,
     kXmlNameProcessingNotification,
+    kXmlNameWillingness,
+    kXmlNameSessionParticipation,
+    kXmlNameOverridingWillingness,
+    kXmlNameRegistrationState,
+    kXmlNameBarringState,
+    kXmlNameBarring,
     kXmlNameCount
 };
 

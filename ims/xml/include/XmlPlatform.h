@@ -55,7 +55,7 @@ class IX_XML_EXPORT XmlHeapObject {
 
 /// @name Tracked objects
 /// Every object made with `new` is registered with the memory tracker at once and unregistered right before its
-/// deletion. The macros expect the constant `kSourceFile` of the including source file, its path without extension.
+/// deletion.
 /// @{
 
 /// Module numbers of the memory tracker.
@@ -84,24 +84,6 @@ void ixDelete(Object* object, int module = kSchemaModule) {
     delete object;
 }
 
-#define IX_TRACKED_NEW(module, source, line, type, arguments) \
-    static_cast<type*>(ixTrack(module, source, line, new (std::nothrow) type arguments, sizeof(type)))
-
-/// A new object registered with a source line that is fixed from outside.
-#define IX_NEW_AT(line, type) IX_TRACKED_NEW(kSchemaModule, kSourceFile, line, type, ())
-
-/// A new object registered with the line of this very call.
-#define IX_NEW(type) IX_NEW_AT(__LINE__, type)
-
-#define IX_TRACKED_DELETE(module, object)    \
-    do {                                     \
-        if ((object) != nullptr) {           \
-            trmemlog_remove(module, object); \
-            delete (object);                 \
-        }                                    \
-    } while (false)
-
-#define IX_DELETE(object) IX_TRACKED_DELETE(kSchemaModule, object)
 /// @}
 
 /// @name Log lines

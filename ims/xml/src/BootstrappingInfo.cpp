@@ -4,29 +4,30 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/BootstrappingInfo";
+using namespace XmlContainer;
 
-constexpr XmlOldContainerRow kContainers[] = {
-    {{IX_STR_BOOTSTRAPPINGINFO}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_bootstrappinginfo)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_bootstrappinginfo>(IX_STR_BOOTSTRAPPINGINFO),
 };
 
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers);
-    info.names = XmlOldNamePolicy::Stripped;
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
     info.wrapsNameSize = true;
-    info.attributePolicy = XmlOldAttributePolicy::Top;
-    IX_OLD_DECODER_TEXTS(info.texts, "XMLBootstrappingInfoDecoder", "m_PassName", "m_PassName");
-    info.texts.noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};
-    info.texts.noPair = {3, kSchemaCode, __LINE__,
-                         "<XML Module>: New Failed at any attribute level with element = \"%s\""};
-    info.texts.removeTagNoTag = {2, kSchemaCode, __LINE__,
-                                 "XMLBootstrappingInfoDecoder :: XMLRemoveNameSpaceTag: n_strElement is NULL"};
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLBootstrappingInfoDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLBootstrappingInfoDecoder", "m_PassName");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLBootstrappingInfoDecoder");
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLBootstrappingInfoDecoder", "m_PassName");
+    info.texts.noObject = {3, "<XML Module>: New Failed at element = \"%s\""};
+    info.texts.noPair = {3, "<XML Module>: New Failed at any attribute level with element = \"%s\""};
+    info.texts.removeTagNoTag = {2, "XMLBootstrappingInfoDecoder :: XMLRemoveNameSpaceTag: n_strElement is NULL"};
     // Required: this line alone has the event number of the tokenizer.
-    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLBootstrappingInfoDecoder");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLBootstrappingInfoDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLBootstrappingInfoDecoder::XMLBootstrappingInfoDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLBootstrappingInfoDecoder::XMLBootstrappingInfoDecoder() : XmlFamilyDecoder(kInfo) {}

@@ -4,19 +4,26 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/CWIndication";
+using namespace XmlContainer;
 
-constexpr XmlOldKnownName kRoot = {IX_STR_IMS_3GPP};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {kRoot, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_ims_3gpp)},
-    {{IX_STR_ALTERNATIVE_SERVICE}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_alternative_service)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_ims_3gpp>(IX_STR_IMS_3GPP),
+    Child<ix_alternative_service>(IX_STR_ALTERNATIVE_SERVICE),
 };
 
-constexpr XmlOldAttributeRow kAttribute = {kRoot, IX_STR_VERSION};
-
-constexpr XmlOldDecoderInfo kInfo = ixImsBodyDecoderInfo(kSourceFile, __LINE__, kContainers, kAttribute);
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLCWIndicationDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLCWIndicationDecoder", "m_strDup or m_PassName");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLCWIndicationDecoder");
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLCWIndicationDecoder", "m_strDup");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLCWIndicationDecoder");
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLCWIndicationDecoder::XMLCWIndicationDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLCWIndicationDecoder::XMLCWIndicationDecoder() : XmlImsBodyDecoder(kInfo, IX_STR_IMS_3GPP, IX_STR_VERSION) {}

@@ -1,41 +1,28 @@
 #include "CommunicationDiversion.h"
 
-#include "SimservsRules.h"
 #include "XMLCommunicationDiversion.h"
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/CommunicationDiversion";
+using namespace XmlContainer;
 
-constexpr XmlLogText kNoLocalName = {
-    3, kSchemaCode, __LINE__, "<XML Module>XMLCommunicationDiversionDecoder :: ProcessAnyElement: m_PassName is NULL"};
-
-constexpr XmlOldKnownName kRoot = {IX_STR_COMMUNICATION_DIVERSION, XmlOldKnownName::Optional, IX_STR_SS};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {kRoot, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_communication_diversion)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_communication_diversion>({IX_STR_COMMUNICATION_DIVERSION, XmlKnownName::Optional, IX_STR_SS}),
 };
 
-constexpr XmlOldAttributeRow kAttributes[] = {
-    {kRoot, IX_STR_ACTIVE},
-};
-
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixRuleServiceDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    IX_SERVICE_DECODER_TEXTS(info.texts, "XMLCommunicationDiversionDecoder", "m_strDup",
-                             "XMLCommunicationDiversionDecoder");
-    return info;
-}
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = ixRuleServiceDecoderInfo(
+    ixDecoderInfo<kContainers>(kSource),
+    IX_SERVICE_DECODER_TEXTS("XMLCommunicationDiversionDecoder", "XMLCommunicationDiversionDecoder", "m_strDup",
+                             "XMLCommunicationDiversionDecoder"));
 
 }  // namespace
 
-XMLCommunicationDiversionDecoder::XMLCommunicationDiversionDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLCommunicationDiversionDecoder::XMLCommunicationDiversionDecoder() : XmlRuleDecoder(kInfo) {}
 
-int XMLCommunicationDiversionDecoder::OtherElement(char* name, char* text) {
+int XMLCommunicationDiversionDecoder::OtherElement(const XmlTag& tag, char* text) {
     if (PassName() == nullptr) {
-        ixLog(kSourceFile, kNoLocalName);
+        ixLog(kSource, {3, "<XML Module>XMLCommunicationDiversionDecoder :: ProcessAnyElement: m_PassName is NULL"});
         return -1;
     }
-    return XmlOldFamilyDecoder::OtherElement(name, text);
+    return XmlRuleDecoder::OtherElement(tag, text);
 }

@@ -4,32 +4,27 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/Ft";
+using namespace XmlContainer;
 
-constexpr XmlOldKnownName kFileInfo = {IX_STR_FILE_INFO};
-constexpr XmlOldKnownName kData = {IX_STR_DATA};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {{IX_STR_FILE}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_file)},
-    {kFileInfo, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_ft_file_info)},
-    {kData, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_ft_data)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_file>(IX_STR_FILE),
+    Child<ix_ns_ft_file_info>(IX_STR_FILE_INFO),
+    Child<ix_ns_ft_data>(IX_STR_DATA),
 };
 
-constexpr XmlOldAttributeRow kAttributes[] = {
-    {kFileInfo, IX_STR_TYPE},
-    {kData, IX_STR_URL},
-    {kData, IX_STR_ETAG},
-    {kData, IX_STR_UNTIL},
-};
-
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlOldNamePolicy::Stripped;
-    info.attributePolicy = XmlOldAttributePolicy::Top;
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLFileDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLFileDecoder", "m_strDup or m_PassName");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLFileDecoder");
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLFileDecoder", "m_strDup");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLFileDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLFileDecoder::XMLFileDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLFileDecoder::XMLFileDecoder() : XmlFamilyDecoder(kInfo) {}

@@ -4,41 +4,30 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/Gruu";
+using namespace XmlContainer;
 
-constexpr XmlOldKnownName kPubGruu = {IX_STR_PUB_GRUU};
-constexpr XmlOldKnownName kTempGruu = {IX_STR_TEMP_GRUU};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {kPubGruu, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_pub_gruu)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_pub_gruu>(IX_STR_PUB_GRUU),
     // Required: the end tag of a temporary GRUU is not recognised, so it pops nothing (no class has an empty name).
-    {kTempGruu, XmlOldContainerRow::Root, "", IX_OLD_CREATOR(ix_temp_gruu)},
+    Root<ix_temp_gruu>(IX_STR_TEMP_GRUU).EndsAs(""),
 };
 
-constexpr XmlOldAttributeRow kAttributes[] = {
-    {kPubGruu, IX_STR_URI},
-    {kTempGruu, IX_STR_URI},
-    {kTempGruu, IX_STR_FIRST_CSEQ},
-};
-
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlOldNamePolicy::Stripped;
-    info.attributePolicy = XmlOldAttributePolicy::Top;
-    info.texts.noElement = {3, kSchemaCode, __LINE__, "<XML Module>: XMLGruuDecoder: n_strElement is NULL"};
-    info.texts.noAttribute = {3, kSchemaCode, __LINE__,
-                              "<XML Module>: XMLGruuDecoder: n_strElement or n_strAttr is NULL"};
-    info.texts.noObject = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at element = \"%s\""};
-    info.texts.noPair = {3, kSchemaCode, __LINE__, "<XML Module>: New Failed at any attribute = \"%s\""};
-    info.texts.pairRefused = {3, kSchemaCode, __LINE__,
-                              "<XML Module>: Any attribute is not allowed for attribute = \"%s\""};
-    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLGruuDecoder");
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
+    info.texts.noElement = {3, "<XML Module>: XMLGruuDecoder: n_strElement is NULL"};
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLGruuDecoder", "m_strDup or m_PassName");
+    info.texts.noAttribute = {3, "<XML Module>: XMLGruuDecoder: n_strElement or n_strAttr is NULL"};
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLGruuDecoder", "m_strDup");
+    info.texts.noObject = {3, "<XML Module>: New Failed at element = \"%s\""};
+    info.texts.noPair = {3, "<XML Module>: New Failed at any attribute = \"%s\""};
+    info.texts.pairRefused = {3, "<XML Module>: Any attribute is not allowed for attribute = \"%s\""};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLGruuDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLGruuDecoder::XMLGruuDecoder() : XmlOldFamilyDecoder(kInfo) {}
-
-int XMLGruuDecoder::OtherElement(char* /*name*/, char* /*text*/) { return 0; }
+XMLGruuDecoder::XMLGruuDecoder() : XmlFamilyDecoder(kInfo) {}

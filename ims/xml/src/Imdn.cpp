@@ -4,40 +4,36 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/Imdn";
+using namespace XmlContainer;
 
-constexpr XmlOldKnownName kImdn = {IX_STR_IMDN};
-constexpr XmlOldKnownName kProcessingNotification = {IX_STR_PROESSING_NOTIFICATION, XmlOldKnownName::None, IX_STR_IX_NULL,
-                                                  kProcessingNotificationElement};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {kImdn, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_imdn)},
-    {{IX_STR_DELIVERY_NOTIFICATION}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_delivery_notification)},
-    {{IX_STR_DISPLAY_NOTIFICATION}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_display_notification)},
-    {kProcessingNotification, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_processing_notification)},
-    {{IX_STR_STATUS}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_status)},
-    {{IX_STR_DELIVERED}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_delivered)},
-    {{IX_STR_FAILED}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_failed)},
-    {{IX_STR_DISPLAYED}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_displayed)},
-    {{IX_STR_PROCESSED}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_processed)},
-    {{IX_STR_STORED}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_stored)},
-    {{IX_STR_FORBIDDEN}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_forbidden)},
-    {{IX_STR_ERROR}, XmlOldContainerRow::Leaf, nullptr, IX_OLD_CREATOR(ix_error)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_imdn>(IX_STR_IMDN),
+    Child<ix_delivery_notification>(IX_STR_DELIVERY_NOTIFICATION),
+    Child<ix_display_notification>(IX_STR_DISPLAY_NOTIFICATION),
+    Child<ix_processing_notification>(kXmlNameProcessingNotification),
+    Child<ix_status>(IX_STR_STATUS),
+    Leaf<ix_delivered>(IX_STR_DELIVERED),
+    Leaf<ix_failed>(IX_STR_FAILED),
+    Leaf<ix_displayed>(IX_STR_DISPLAYED),
+    Leaf<ix_processed>(IX_STR_PROCESSED),
+    Leaf<ix_stored>(IX_STR_STORED),
+    Leaf<ix_forbidden>(IX_STR_FORBIDDEN),
+    Leaf<ix_error>(IX_STR_ERROR),
 };
 
-constexpr XmlOldAttributeRow kAttributes[] = {
-    // The marshaller writes the namespace itself.
-    {kImdn, IX_STR_XMLNS, true},
-};
-
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlOldNamePolicy::Stripped;
-    info.attributePolicy = XmlOldAttributePolicy::Top;
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLImdnDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLImdnDecoder", "m_strDup or m_PassName");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLImdnDecoder");
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLImdnDecoder", "m_strDup");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLImdnDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLImdnDecoder::XMLImdnDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLImdnDecoder::XMLImdnDecoder() : XmlFamilyDecoder(kInfo) {}

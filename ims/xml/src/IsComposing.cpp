@@ -4,22 +4,32 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/IsComposing";
+using namespace XmlContainer;
 
-constexpr XmlOldContainerRow kContainers[] = {
-    {{IX_STR_ISCOMPOSING}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_isComposing)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_isComposing>(IX_STR_ISCOMPOSING),
 };
 
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers);
-    info.names = XmlOldNamePolicy::Stripped;
-    // Required: attributes are offered as if they were elements, which the root knows none of; so each is logged, and
-    // none is kept.
-    info.attributePolicy = XmlOldAttributePolicy::AsElements;
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLIsComposingDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLIsComposingDecoder", "m_strDup or m_PassName");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLIsComposingDecoder");
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLIsComposingDecoder", "m_strDup");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLIsComposingDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLIsComposingDecoder::XMLIsComposingDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLIsComposingDecoder::XMLIsComposingDecoder() : XmlFamilyDecoder(kInfo) {}
+
+int XMLIsComposingDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char* value) {
+    // Required: attributes are offered as if they were elements, which the root knows none of; so each is logged, and
+    // none is kept.
+    XmlHooks::OfferTo(receiver, XmlTag(attribute), value, nullptr);
+    return 0;
+}

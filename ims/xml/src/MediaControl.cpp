@@ -4,41 +4,40 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/MediaControl";
+using namespace XmlContainer;
 
-constexpr XmlOldContainerRow kContainers[] = {
-    {{IX_STR_MEDIA_CONTROL}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_media_control)},
-    {{IX_STR_VC_PRIMITIVE}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_vc_primitive)},
-    {{IX_STR_TO_ENCODER}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_to_encoder)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_media_control>(IX_STR_MEDIA_CONTROL),
+    Child<ix_vc_primitive>(IX_STR_VC_PRIMITIVE),
+    Child<ix_to_encoder>(IX_STR_TO_ENCODER),
+    Leaf<ix_empty_element_type>(IX_STR_PICTURE_FAST_UPDATE),
 };
 
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers);
-    info.names = XmlOldNamePolicy::Stripped;
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLMediaControlDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLMediaControlDecoder", "m_strDup or m_PassName");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLMediaControlDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLMediaControlDecoder::XMLMediaControlDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLMediaControlDecoder::XMLMediaControlDecoder() : XmlFamilyDecoder(kInfo) {}
 
 int XMLMediaControlDecoder::ProcessElement(char* element, char* text) {
     m_pWrittenName = element;
-    return XmlOldFamilyDecoder::ProcessElement(element, text);
+    return XmlFamilyDecoder::ProcessElement(element, text);
 }
 
-int XMLMediaControlDecoder::ProcessAttribute(char* /*element*/, char* /*attribute*/, char* /*value*/) { return 0; }
-
-int XMLMediaControlDecoder::StartElement(char* name) {
-    if (!ixNameIs(name, IX_STR_PICTURE_FAST_UPDATE)) return XmlOldFamilyDecoder::StartElement(name);
+int XMLMediaControlDecoder::StartElement(const XmlTag& tag) {
+    if (tag.name != IX_STR_PICTURE_FAST_UPDATE) return XmlFamilyDecoder::StartElement(tag);
     XMLElement* const top = Top();
     if (top == nullptr) return 0;
-    ix_empty_element_type* const request = ixCreateEmptyElement(m_pWrittenName, kSourceFile, __LINE__);
-    if (request != nullptr) Offer(*top, name, request);
+    // Required: the request is written back with the prefix that it came with.
+    ix_empty_element_type* const request = ixCreateEmptyElement(m_pWrittenName, kSource);
+    if (request != nullptr) Offer(*top, tag, request);
     return 0;
-}
-
-int XMLMediaControlDecoder::EndElement(char* name, char* text) {
-    return ixEndNameIs(name, IX_STR_PICTURE_FAST_UPDATE) ? 0 : XmlOldFamilyDecoder::EndElement(name, text);
 }

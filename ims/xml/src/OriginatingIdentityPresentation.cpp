@@ -4,21 +4,25 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/OriginatingIdentityPresentation";
+using namespace XmlContainer;
 
-// Only the first prefix of a name is removed, so `ss` may still be there behind another one.
-constexpr XmlOldKnownName kRoot = {IX_STR_ORIGINATING_IDENTITY_PRESENTATION, XmlOldKnownName::Optional, IX_STR_SS};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {kRoot, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_originating_identity_presentation)},
+constexpr XmlContainerRow kContainers[] = {
+    // Only the first prefix of a name is removed, so `ss` may still be there behind another one.
+    Root<ix_originating_identity_presentation>(
+        {IX_STR_ORIGINATING_IDENTITY_PRESENTATION, XmlKnownName::Optional, IX_STR_SS}),
 };
 
-constexpr XmlOldAttributeRow kAttributes[] = {
-    {kRoot, IX_STR_ACTIVE},
-};
-
-constexpr XmlOldDecoderInfo kInfo = IX_IDENTITY_DECODER_INFO("OIP", "Originating", kContainers, kAttributes);
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info =
+        ixServiceDecoderInfo(ixDecoderInfo<kContainers>(kSource),
+                             IX_SERVICE_DECODER_TEXTS("XMLOIPDecoder", "XMLOriginatingIdentityPresentationDecoder",
+                                                      "m_PassName", "XMLOIPDecoder"));
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLOIPDecoder::XMLOIPDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLOIPDecoder::XMLOIPDecoder() : XmlFamilyDecoder(kInfo) {}

@@ -4,114 +4,91 @@
 
 #include "XMLPresence.h"
 
-using PresenceNameSpace::ix_status;
-
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/Presence";
+using namespace XmlContainer;
+using PresenceNameSpace::ix_status;
 
-constexpr XmlLogText kDropped = {3, kSchemaCode, __LINE__, "<XML Module>XMLPresenceDecoder :: m_any is NULL when %s"};
-constexpr XmlLogText kUnknown = {3, kSchemaCode, __LINE__,
-                                 "<XML Module>XMLPresenceDecoder :: ProcessAnyElement is not supported when %s"};
-constexpr XmlLogText kNoName = {3, kSchemaCode, __LINE__,
-                                "XMLPresenceDecoder :: ProcessAnyElement: n_strElement is NULL"};
-
-constexpr XmlOldKnownName kPresence = {IX_STR_PRESENCE};
-constexpr XmlOldKnownName kTuple = {IX_STR_TUPLE};
-constexpr XmlOldKnownName kContact = {IX_STR_CONTACT};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {kPresence, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_presence)},
-    {kTuple, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_tuple)},
-    {{IX_STR_STATUS}, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_status)},
-    {kContact, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_contact)},
-    {{IX_STR_NOTE}, XmlOldContainerRow::Text, IX_OLD_OBJECT(ix_note)},
-    {{IX_STR_SERVICE_DESCRIPTION}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_oma_pres_service_description)},
-    {{IX_STR_SERVCAPS}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_caps_servcaps)},
-    {{IX_STR_DUPLEX}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_caps_duplextype)},
-    {{IX_STR_SUPPORTED}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_caps_duplextypes)},
+constexpr XmlContainerRow kPidfContainers[] = {
+    Root<ix_presence>(IX_STR_PRESENCE), Text<ix_tuple>(IX_STR_TUPLE), Text<ix_status>(IX_STR_STATUS),
+    Text<ix_contact>(IX_STR_CONTACT),   Text<ix_note>(IX_STR_NOTE),
 };
-
-constexpr XmlOldAttributeRow kAttributes[] = {
-    {kPresence, IX_STR_ENTITY},
-    {kTuple, IX_STR_ID},
-    {kContact, IX_STR_PRIORITY},
+constexpr XmlContainerRow kExtensionContainers[] = {
+    Child<ix_ns_oma_pres_service_description>(IX_STR_SERVICE_DESCRIPTION),
+    Child<ix_ns_caps_servcaps>(IX_STR_SERVCAPS),
+    Child<ix_ns_caps_duplextype>(IX_STR_DUPLEX),
+    Child<ix_ns_caps_duplextypes>(IX_STR_SUPPORTED),
 };
+constexpr XmlName kPidfTexts[] = {IX_STR_BASIC, IX_STR_TIMESTAMP};
+constexpr XmlName kExtensionTexts[] = {IX_STR_SERVICE_ID, IX_STR_DESCRIPTION, IX_STR_VERSION, IX_STR_AUDIO,
+                                       IX_STR_FULL};
 
-/// The elements that are known, objects and texts: those of PIDF, then those of extensions.
-constexpr e_XmlStrRef kNames[] = {IX_STR_PRESENCE,   IX_STR_TUPLE,       IX_STR_STATUS,    IX_STR_CONTACT,
-                                  IX_STR_NOTE,       IX_STR_BASIC,       IX_STR_TIMESTAMP, IX_STR_SERVICE_DESCRIPTION,
-                                  IX_STR_SERVICE_ID, IX_STR_DESCRIPTION, IX_STR_VERSION,   IX_STR_SERVCAPS,
-                                  IX_STR_AUDIO,      IX_STR_DUPLEX,      IX_STR_SUPPORTED, IX_STR_FULL};
-constexpr std::size_t kFirstExtension = 7;
-static_assert(kNames[kFirstExtension] == IX_STR_SERVICE_DESCRIPTION, "PIDF ends before this one");
+/// The elements that are known: those that objects are made of, and those whose text goes to the object on top.
+struct Vocabulary {
+    XmlContainerTable containers;
+    const XmlName* texts;
+    std::size_t textCount;
 
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlOldNamePolicy::Stripped;
-    info.attributePolicy = XmlOldAttributePolicy::OwnNoPairs;
-    // Required: one of the four texts ends in a blank.
-    IX_OLD_DECODER_TEXTS(info.texts, "XMLPresenceDecoder", "m_PassName", "m_PassName");
-    info.texts.noAttributeName = {3, kSchemaCode, __LINE__,
-                                  "<XML Module>XMLPresenceDecoder :: ProcessAttribute: m_PassName is NULL "};
-    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLPresenceDecoder");
+    bool Has(XmlName name) const {
+        if (!name.IsKnown()) return false;
+        if (containers.firstOf[name.number] != 0) return true;
+        std::size_t i = 0;
+        while (i < textCount && texts[i] != name) ++i;
+        return i < textCount;
+    }
+};
+constexpr Vocabulary kPidf = {ixContainers<kPidfContainers>(), kPidfTexts, std::size(kPidfTexts)};
+constexpr Vocabulary kExtensions = {ixContainers<kExtensionContainers>(), kExtensionTexts, std::size(kExtensionTexts)};
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kPidfContainers>(kSource);
+    info.shared = &kExtensions.containers;
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::OwnNoPairs;
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLPresenceDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLPresenceDecoder", "m_PassName");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLPresenceDecoder");
+    // Required: this text ends in a blank.
+    info.texts.noAttributeName = {3, "<XML Module>XMLPresenceDecoder :: ProcessAttribute: m_PassName is NULL "};
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLPresenceDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLPresenceDecoder::XMLPresenceDecoder() : XmlOldFamilyDecoder(kInfo) {
-    for (std::size_t i = 0; i < std::size(kNames); ++i) m_names.Add(i, XmlOldKnownName{kNames[i]});
+XMLPresenceDecoder::XMLPresenceDecoder() : XmlFamilyDecoder(kInfo) {}
+
+int XMLPresenceDecoder::StartElement(const XmlTag& tag) {
+    return kPidf.Has(tag.name) ? XmlFamilyDecoder::StartElement(tag) : ForeignElement(tag, nullptr);
 }
 
-/// @param name of a start or an end tag.
-XMLPresenceDecoder::Origin XMLPresenceDecoder::OriginOf(const char* name) const {
-    if (*name == '/') ++name;
-    const unsigned key = XmlOldRowIndex::Key(name);
-    for (std::size_t i = m_names.Next(key, 0); i < std::size(kNames); i = m_names.Next(key, i + 1)) {
-        if (ixNameIs(name, kNames[i])) return i < kFirstExtension ? Pidf : Extension;
+int XMLPresenceDecoder::EndElement(const XmlTag& tag, char* text) {
+    return kPidf.Has(tag.name) ? XmlFamilyDecoder::EndElement(tag, text) : ForeignElement(tag, text);
+}
+
+/// An element that is none of PIDF. One that is unknown, or stands outside of the root, is dropped with a line.
+int XMLPresenceDecoder::ForeignElement(const XmlTag& tag, char* text) {
+    if (ProcessAnyElement(tag.text, text) == nullptr) {
+        ixLog(kSource, {3, "<XML Module>XMLPresenceDecoder :: m_any is NULL when %s"}, tag.text);
     }
-    return Unknown;
-}
-
-int XMLPresenceDecoder::StartElement(char* name) {
-    XmlOldFamilyDecoder::StartElement(name);
-    LogOutside(name);
-    return 0;
-}
-
-int XMLPresenceDecoder::EndElement(char* name, char* text) {
-    XmlOldFamilyDecoder::EndElement(name, text);
-    LogOutside(name);
-    return 0;
-}
-
-/// An extension that stands outside of the root is dropped with a line.
-void XMLPresenceDecoder::LogOutside(const char* name) const {
-    if (Top() == nullptr && OriginOf(name) == Extension) ixLog(kSourceFile, kDropped, name);
-}
-
-int XMLPresenceDecoder::OtherElement(char* name, char* text) {
-    if (OriginOf(name) != Unknown) return XmlOldFamilyDecoder::OtherElement(name, text);
-    ixLog(kSourceFile, kUnknown, name);
-    ixLog(kSourceFile, kDropped, name);
     return 0;
 }
 
 XMLElement* XMLPresenceDecoder::ProcessAnyElement(char* name, char* data) {
     if (name == nullptr) {
-        ixLog(kSourceFile, kNoName);
+        ixLog(kSource, {3, "XMLPresenceDecoder :: ProcessAnyElement: n_strElement is NULL"});
         return nullptr;
     }
-    if (OriginOf(name) != Extension) {
-        ixLog(kSourceFile, kUnknown, name);
+    const XmlTag tag(name);
+    if (!kExtensions.Has(tag.name)) {
+        ixLog(kSource, {3, "<XML Module>XMLPresenceDecoder :: ProcessAnyElement is not supported when %s"}, name);
         return nullptr;
     }
-    if (*name == '/') {
-        XmlOldFamilyDecoder::EndElement(name, data);
+    if (tag.isEnd) {
+        XmlFamilyDecoder::EndElement(tag, data);
     } else {
-        XmlOldFamilyDecoder::StartElement(name);
+        XmlFamilyDecoder::StartElement(tag);
     }
     return Top();
 }

@@ -4,31 +4,26 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/RcsTermsInfo";
+using namespace XmlContainer;
 
-constexpr XmlOldKnownName kRoot = {IX_STR_RCS_TERMS_INFO};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {kRoot, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_rcs_terms_info)},
-    {{IX_STR_TERM}, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_ns_rcs_terms_info_term)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_rcs_terms_info>(IX_STR_RCS_TERMS_INFO),
+    Child<ix_ns_rcs_terms_info_term>(IX_STR_TERM),
 };
 
-constexpr XmlOldAttributeRow kAttributes[] = {
-    {kRoot, IX_STR_VERSION},
-};
-
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlOldNamePolicy::Stripped;
-    info.attributePolicy = XmlOldAttributePolicy::Top;
-    info.texts.noElement = {2, kSchemaCode, __LINE__,
-                            "In XMLRcsTermsInfoDecoder :: ProcessElement, Element name is NULL"};
-    info.texts.noAttribute = {2, kSchemaCode, __LINE__,
-                              "In XMLRcsTermsInfoDecoder :: ProcessAttribute, Element name is NULL"};
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.attributes = XmlAttributePolicy::Top;
+    info.texts.noElement = {2, "In XMLRcsTermsInfoDecoder :: ProcessElement, Element name is NULL"};
+    info.texts.noAttribute = {2, "In XMLRcsTermsInfoDecoder :: ProcessAttribute, Element name is NULL"};
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLRcsTermsInfoDecoder", "m_strDup or m_PassName");
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLRcsTermsInfoDecoder", "m_strDup");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLRcsTermsInfoDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLRcsTermsInfoDecoder::XMLRcsTermsInfoDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLRcsTermsInfoDecoder::XMLRcsTermsInfoDecoder() : XmlFamilyDecoder(kInfo) {}

@@ -4,15 +4,22 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/VolteConfigInfo";
+using namespace XmlContainer;
 
-constexpr XmlOldContainerRow kContainers[] = {
-    {XmlOldKnownName::Of("volte-config-info"), XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_volte_config_info)},
-    kCharacteristicRow,
-    kParmRow,
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_volte_config_info>(kXmlNameVolteConfigInfo),
+    Child<ix_characteristic>(kXmlNameCharacteristic),
+    Child<ix_parm>(kXmlNameParm),
 };
-constexpr XmlOldDecoderInfo kInfo = ixCharacteristicDecoderInfo(kSourceFile, kContainers);
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLVolteConfigInfoDecoder");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLVolteConfigInfoDecoder");
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLVolteConfigInfoDecoder::XMLVolteConfigInfoDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLVolteConfigInfoDecoder::XMLVolteConfigInfoDecoder() : XmlCharacteristicDecoder(kInfo) {}

@@ -4,15 +4,22 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/WapProvisioningDoc";
+using namespace XmlContainer;
 
-constexpr XmlOldContainerRow kContainers[] = {
-    {XmlOldKnownName::Of("wap-provisioningdoc"), XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_wap_provisioning_doc)},
-    kCharacteristicRow,
-    kParmRow,
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_wap_provisioning_doc>(kXmlNameWapProvisioningdoc),
+    Child<ix_characteristic>(kXmlNameCharacteristic),
+    Child<ix_parm>(kXmlNameParm),
 };
-constexpr XmlOldDecoderInfo kInfo = ixCharacteristicDecoderInfo(kSourceFile, kContainers);
+
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLWapProvisioningDocDecoder");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLWapProvisioningDocDecoder");
+    return info;
+}
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLWapProvisioningDocDecoder::XMLWapProvisioningDocDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLWapProvisioningDocDecoder::XMLWapProvisioningDocDecoder() : XmlCharacteristicDecoder(kInfo) {}

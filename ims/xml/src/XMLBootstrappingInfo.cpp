@@ -1,97 +1,80 @@
 #include "XMLBootstrappingInfo.h"
 
-#include <iterator>
-
 #include "BootstrappingInfo.h"
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLBootstrappingInfo";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
-    IX_OLD_UNMARSHALLER_INFO(XMLBootstrappingInfoDecoder, "BootstrappingInfoUnMarshaller");
-
-constexpr XmlOldWriterRow kWriters[] = {
-    {IX_OLD_WRITER_OF(BootstrappingInfoMarshaller, AddBootstrappingInfoElementToXml, ix_bootstrappinginfo)},
-};
-
-constexpr XmlOldMarshallerInfo MarshallerInfo() {
-    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
-    info.entersFirst = true;
-    info.noRoot = {3, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoMarshaller pObj is NULL"};
-    IX_OLD_MARSHALL_TEXTS(info, "BootstrappingInfoMarshaller", "mBootstrappingInfoXml");
-    return info;
-}
-constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
-
-constexpr XmlLogText kUnknownElement = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
-constexpr XmlLogText kAddRoot = {2, kSchemaCode, __LINE__, "<XML Module>: AddBootstrappingInfoElementToXml"};
-constexpr XmlLogText kAddBtid = {2, kSchemaCode, __LINE__, "<XML Module>: AddBtidElementToXml"};
-constexpr XmlLogText kAddLifetime = {2, kSchemaCode, __LINE__, "<XML Module>: AddLifetimeElementToXml"};
-constexpr XmlLogText kNoBtid = {1, kSchemaCode, __LINE__, "<XML Module>: BootstrappingInfoElement btid not present"};
-constexpr XmlLogText kNoLifetime = {1, kSchemaCode, __LINE__,
-                                    "<XML Module>: BootstrappingInfoElement lifetime not present"};
+using namespace XmlRow;
 
 constexpr XmlField kFields[] = {
-    {XmlFieldKind::Text, IX_STR_BTID, XmlTextMember(&ix_bootstrappinginfo::mBtid)},
-    {XmlFieldKind::Text, IX_STR_LIFETIME, XmlTextMember(&ix_bootstrappinginfo::mLifetime)},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_bootstrappinginfo::mAnyElementList), 0, nullptr, "any"},
+    Element<&ix_bootstrappinginfo::mBtid>(IX_STR_BTID),
+    Element<&ix_bootstrappinginfo::mLifetime>(IX_STR_LIFETIME),
+    Others<&ix_bootstrappinginfo::mAnyElementList>(),
 };
-constexpr XmlFieldTable kTable = {nullptr, kFields, std::size(kFields)};
+
+constexpr XmlAnswers Answers() {
+    XmlAnswers answers;
+    answers.unknown = {2, "Cannot accommodate the element %s with value %s"};
+    return answers;
+}
+
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLBootstrappingInfoDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in BootstrappingInfoUnMarshaller::UnMarshall"});
+
+constexpr XmlWriterRow kWriters[] = {
+    ixWriter<&BootstrappingInfoMarshaller::AddBootstrappingInfoElementToXml>(),
+};
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info =
+        ixMarshallerInfo(kSource, kWriters, IX_MARSHALL_TEXTS("BootstrappingInfoMarshaller", "mBootstrappingInfoXml"));
+    info.entersFirst = true;
+    info.noRoot = {3, "<XML Module>: BootstrappingInfoMarshaller pObj is NULL"};
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 }  // namespace
 
-ix_bootstrappinginfo::~ix_bootstrappinginfo() { XmlFields::Release(this, kTable); }
+constexpr XmlClass ix_bootstrappinginfo::kClass =
+    ixClass<ix_bootstrappinginfo>("ix_bootstrappinginfo", "BootstrappingInfo", kSource, kFields, Answers());
 
-const XmlFieldTable* ix_bootstrappinginfo::FieldTable() const { return &kTable; }
+XMLElement* BootstrappingInfoDataBinder::CreateRootElement() { return ixNew<ix_bootstrappinginfo>(kSource); }
 
-int ix_bootstrappinginfo::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_BTID)) return child == nullptr ? setBtidValue(text) : 0;
-    if (ixEndNameIs(name, IX_STR_LIFETIME)) return child == nullptr ? setLifetimeValue(text) : 0;
-    if (ixNameIs(name, IX_STR_BTID) || ixNameIs(name, IX_STR_LIFETIME)) return 1;
-    if (child != nullptr) return addAnyElement(child);
-    ixLog(kSourceFile, kUnknownElement, name, text);
-    return 1;
-}
+BootstrappingInfoUnMarshaller::BootstrappingInfoUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
 
-int ix_bootstrappinginfo::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
+BootstrappingInfoMarshaller::BootstrappingInfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
-XMLElement* BootstrappingInfoDataBinder::CreateRootElement() { return IX_NEW(ix_bootstrappinginfo); }
-
-BootstrappingInfoMarshaller::BootstrappingInfoMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
+BootstrappingInfoContext::BootstrappingInfoContext()
+    : XmlFamilyContext(
+          ixFamily<BootstrappingInfoMarshaller, BootstrappingInfoUnMarshaller, BootstrappingInfoDataBinder>(kSource)) {}
 
 int BootstrappingInfoMarshaller::AddBootstrappingInfoElementToXml(ix_bootstrappinginfo* element) {
-    ixLog(kSourceFile, kAddRoot);
-    if (element == nullptr) return 0;
-    StartElementOpen(IX_STR_BOOTSTRAPPINGINFO);
-    AddAttribute(IX_STR_XMLNS, ix_xml_common_array_definition::getStringName(IX_STR_URI_3GPP_GBA), Attribute::Closing);
+    if (!Enter(element, {2, "<XML Module>: AddBootstrappingInfoElementToXml"})) return 0;
+    XmlStartTag tag(*this, IX_STR_BOOTSTRAPPINGINFO);
+    tag.Add(IX_STR_XMLNS, IX_STR_URI_3GPP_GBA);
+    tag.Close();
     if (element->mBtid != nullptr) {
         AddBtidElementToXml(element->mBtid);
     } else {
-        ixLog(kSourceFile, kNoBtid);
+        Log({1, "<XML Module>: BootstrappingInfoElement btid not present"});
     }
     if (element->mLifetime != nullptr) {
         AddLifetimeElementToXml(element->mLifetime);
     } else {
-        ixLog(kSourceFile, kNoLifetime);
+        Log({1, "<XML Module>: BootstrappingInfoElement lifetime not present"});
     }
     EndElement(IX_STR_BOOTSTRAPPINGINFO);
     return 1;
 }
 
 int BootstrappingInfoMarshaller::AddBtidElementToXml(const char* btid) {
-    ixLog(kSourceFile, kAddBtid);
+    if (!Enter(btid, {2, "<XML Module>: AddBtidElementToXml"})) return 0;
     AddTextElement(IX_STR_BTID, btid);
     return 1;
 }
 
 int BootstrappingInfoMarshaller::AddLifetimeElementToXml(const char* lifetime) {
-    ixLog(kSourceFile, kAddLifetime);
+    if (!Enter(lifetime, {2, "<XML Module>: AddLifetimeElementToXml"})) return 0;
     AddTextElement(IX_STR_LIFETIME, lifetime);
     return 1;
 }
-
-IX_OLD_FAMILY(BootstrappingInfoContext, BootstrappingInfoMarshaller, BootstrappingInfoUnMarshaller,
-          BootstrappingInfoDataBinder);

@@ -1,95 +1,74 @@
 #include "XMLCWIndication.h"
 
-#include <iterator>
-
 #include "CWIndication.h"
 
+// Required: texts of this file name the classes of the call waiting indication family.
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLCWIndication";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = ixImsBodyUnMarshallerInfo(
-    kSourceFile, __LINE__, [](int line) -> XmlOldFamilyDecoder* { return IX_NEW_AT(line, XMLCWIndicationDecoder); });
-
-constexpr XmlOldWriterRow kWriter = {IX_OLD_WRITER_OF(CWIndicationMarshaller, AddIms3gppElementToXml, ix_ims_3gpp)};
-constexpr XmlOldMarshallerInfo kMarshallerInfo = ixImsBodyMarshallerInfo(kSourceFile, __LINE__, kWriter);
-
-constexpr XmlLogText kRootHook = {2, kSchemaCode, __LINE__, "In ix_ims_3gpp::ProcessUnMarshall"};
-constexpr XmlLogText kServiceHook = {2, kSchemaCode, __LINE__, "In ix_alternative_service::ProcessUnMarshall"};
-constexpr XmlLogText kServiceAttributeHook = {2, kSchemaCode, __LINE__,
-                                              "In ix_alternative_service::ProcessUnMarshallAttribute"};
-constexpr XmlLogText kAddRoot = {2, kSchemaCode, __LINE__, "<XML Module>: AddIms3gppElementToXml"};
-constexpr XmlLogText kAddService = ixImsBodyAddAlternativeService(__LINE__);
-constexpr XmlLogText kServiceFailed = ixImsBodyAlternativeServiceFailed(__LINE__);
+using namespace XmlRow;
 
 constexpr XmlField kServiceFields[] = {
-    {XmlFieldKind::Text, IX_STR_ACTION, XmlTextMember(&ix_alternative_service::mAction)},
-    {XmlFieldKind::Text, IX_STR_TYPE, XmlTextMember(&ix_alternative_service::mType)},
-    {XmlFieldKind::Text, IX_STR_REASON, XmlTextMember(&ix_alternative_service::mReason)},
+    Element<&ix_alternative_service::mType>(IX_STR_TYPE),
+    Element<&ix_alternative_service::mReason>(IX_STR_REASON),
+    Element<&ix_alternative_service::mAction>(IX_STR_ACTION),
 };
-constexpr XmlFieldTable kServiceTable = {nullptr, kServiceFields, std::size(kServiceFields)};
+constexpr XmlAnswers kServiceAnswers = ixTracing({2, "In ix_alternative_service::ProcessUnMarshall"},
+                                                 {2, "In ix_alternative_service::ProcessUnMarshallAttribute"});
 
 constexpr XmlField kRootFields[] = {
-    kImsBodyVersionField,
-    {XmlFieldKind::Child, IX_STR_ALTERNATIVE_SERVICE, IX_CHILD_MEMBER(ix_ims_3gpp, mAlternativeService)},
-    {XmlFieldKind::Text, IX_STR_SERVICE_INFO, XmlTextMember(&ix_ims_3gpp::mServiceInfo)},
+    Child<&ix_ims_3gpp::mAlternativeService>(IX_STR_ALTERNATIVE_SERVICE),
+    Element<&ix_ims_3gpp::mServiceInfo>(IX_STR_SERVICE_INFO),
 };
-constexpr XmlFieldTable kRootTable = {nullptr, kRootFields, std::size(kRootFields)};
+constexpr XmlAnswers kRootAnswers =
+    ixTracing({2, "In ix_ims_3gpp::ProcessUnMarshall"}, {2, "In ix_3gpp_ims::ProcessUnMarshallAttribute"});
+
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLCWIndicationDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in CallWaitingIndicationUnMarshaller::UnMarshall"});
+
+constexpr XmlWriterRow kWriters[] = {
+    ixWriter<&CWIndicationMarshaller::AddIms3gppElementToXml>(),
+};
+constexpr XmlMarshallerInfo MarshallerInfo() {
+    XmlMarshallerInfo info = ixMarshallerInfo(
+        kSource, kWriters, IX_MARSHALL_TEXTS("CallWaitingIndicationMarshaller", "mCallWaitingIndicationXml"));
+    info.writesDeclaration = false;
+    return info;
+}
+constexpr XmlMarshallerInfo kMarshallerInfo = MarshallerInfo();
 
 }  // namespace
 
-ix_alternative_service::~ix_alternative_service() { XmlFields::Release(this, kServiceTable); }
+constexpr XmlClass ix_alternative_service::kClass = ixClass<ix_alternative_service>(
+    "ix_alternative_service", "AlternativeService", kSource, kServiceFields, kServiceAnswers);
+constexpr XmlClass ix_ims_3gpp::kClass = ixDerived(
+    ixClass<ix_ims_3gpp>("ix_ims_3gpp", "Ims3gpp", kSource, kRootFields, kRootAnswers), ix_imsBodyType::kClass);
 
-const XmlFieldTable* ix_alternative_service::FieldTable() const { return &kServiceTable; }
-
-int ix_alternative_service::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    ixLog(kSourceFile, kServiceHook);
-    if (ixEndNameIs(name, IX_STR_TYPE)) return ixTakeText(mType, text, child);
-    if (ixEndNameIs(name, IX_STR_ACTION)) return ixTakeText(mAction, text, child);
-    if (ixEndNameIs(name, IX_STR_REASON)) return ixTakeText(mReason, text, child);
-    return 1;
-}
-
-int ix_alternative_service::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* /*pair*/) {
-    ixLog(kSourceFile, kServiceAttributeHook);
-    return 1;
-}
-
-ix_ims_3gpp::~ix_ims_3gpp() { XmlFields::Release(this, kRootTable); }
-
-const XmlFieldTable* ix_ims_3gpp::FieldTable() const { return &kRootTable; }
-
-int ix_ims_3gpp::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    ixLog(kSourceFile, kRootHook);
-    if (ixEndNameIs(name, IX_STR_SERVICE_INFO)) return ixTakeText(mServiceInfo, text, child);
-    if (!ixNameIs(name, IX_STR_ALTERNATIVE_SERVICE) || ixIsNameless(child)) return 1;
-    return ixTakeChild(mAlternativeService, child);
-}
-
-const char* ix_ims_3gpp::SourceFile() const { return kSourceFile; }
-
-XMLElement* CWIndicationDataBinder::CreateRootElement() { return IX_NEW(ix_ims_3gpp); }
-
+XMLElement* CWIndicationDataBinder::CreateRootElement() { return ixNew<ix_ims_3gpp>(kSource); }
 ix_alternative_service* CWIndicationDataBinder::CreateAlternativeServiceElement() {
-    return IX_NEW(ix_alternative_service);
+    return ixNew<ix_alternative_service>(kSource);
 }
+
+CWIndicationUnMarshaller::CWIndicationUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
 
 CWIndicationMarshaller::CWIndicationMarshaller() : XmlImsBodyMarshaller(kMarshallerInfo) {}
 
+CWIndicationContext::CWIndicationContext()
+    : XmlFamilyContext(ixFamily<CWIndicationMarshaller, CWIndicationUnMarshaller, CWIndicationDataBinder>(kSource)) {}
+
 int CWIndicationMarshaller::AddIms3gppElementToXml(ix_ims_3gpp* element) {
-    ixLog(kSourceFile, kAddRoot);
-    if (element == nullptr) return 0;
+    if (!Enter(element, {2, "<XML Module>: AddIms3gppElementToXml"})) return 0;
     StartRoot(IX_STR_IMS_3GPP, *element);
-    ix_alternative_service* const service = element->mAlternativeService;
-    if (service != nullptr && AddAlternativeServiceElementToXml(service) == 0) return ReleaseAndFail(kServiceFailed);
+    if (element->mAlternativeService != nullptr && !AddAlternativeServiceElementToXml(element->mAlternativeService)) {
+        return ReleaseAndFail(
+            {2, "<XML Module>: CallWaitingIndicationMarshaller XML Failed at AddAlternativeServiceElementToXml!"});
+    }
     AddTextElement(IX_STR_SERVICE_INFO, element->mServiceInfo);
     EndElement(IX_STR_IMS_3GPP);
     return 1;
 }
 
 int CWIndicationMarshaller::AddAlternativeServiceElementToXml(ix_alternative_service* service) {
-    ixLog(kSourceFile, kAddService);
-    if (service == nullptr) return 0;
+    if (!Enter(service, {2, "<XML Module>: AddAlternativeServiceElementToXml"})) return 0;
     StartElement(IX_STR_ALTERNATIVE_SERVICE);
     AddTextOrEmptyElement(IX_STR_TYPE, service->mType);
     AddTextOrEmptyElement(IX_STR_REASON, service->mReason);
@@ -97,5 +76,3 @@ int CWIndicationMarshaller::AddAlternativeServiceElementToXml(ix_alternative_ser
     EndElement(IX_STR_ALTERNATIVE_SERVICE);
     return 1;
 }
-
-IX_OLD_FAMILY(CWIndicationContext, CWIndicationMarshaller, CWIndicationUnMarshaller, CWIndicationDataBinder);

@@ -1,102 +1,65 @@
 #include "XMLCharacteristic.h"
 
-#include <iterator>
-
-#include "XmlElementSupport.h"
-
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLCharacteristic";
+using namespace XmlRow;
 
 constexpr XmlField kParmFields[] = {
-    {XmlFieldKind::Text, IX_STR_NAME, XmlTextMember(&ix_parm::mName)},
-    {XmlFieldKind::Text, IX_STR_VALUE, XmlTextMember(&ix_parm::mValue)},
+    Attribute<&ix_parm::mName>(IX_STR_NAME),
+    Attribute<&ix_parm::mValue>(IX_STR_VALUE),
 };
-constexpr XmlFieldTable kParmTable = {nullptr, kParmFields, std::size(kParmFields)};
 
 constexpr XmlField kCharacteristicFields[] = {
-    {XmlFieldKind::Text, IX_STR_TYPE, XmlTextMember(&ix_characteristic::mType)},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_characteristic::mParmList), 0, nullptr, kParmName},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_characteristic::mCharacteristicList), 0, nullptr,
-     kCharacteristicName},
+    Attribute<&ix_characteristic::mType>(IX_STR_TYPE),
+    Children<&ix_characteristic::mParmList, ix_parm>(kXmlNameParm),
+    Children<&ix_characteristic::mCharacteristicList, ix_characteristic>(kXmlNameCharacteristic),
 };
-constexpr XmlFieldTable kCharacteristicTable = {nullptr, kCharacteristicFields, std::size(kCharacteristicFields)};
 
 constexpr XmlField kDocumentFields[] = {
-    {XmlFieldKind::Text, IX_STR_VERSION, XmlTextMember(&ix_characteristicDocType::mVersion)},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_characteristicDocType::mCharacteristicList), 0, nullptr,
-     kCharacteristicName},
+    Attribute<&ix_characteristicDocType::mVersion>(IX_STR_VERSION),
+    Children<&ix_characteristicDocType::mCharacteristicList, ix_characteristic>(kXmlNameCharacteristic),
 };
-constexpr XmlFieldTable kDocumentTable = {nullptr, kDocumentFields, std::size(kDocumentFields)};
+
+/// Required: an attribute comes as a start tag does, its value as the text.
+int Take(XMLElement& element, char* name, char* text, XMLElement* child) {
+    const XmlClass& description = *element.Class();
+    const XmlTag tag(name);
+    if (tag.isEnd || XmlHooks::AttributeRow(description, tag.name) == nullptr) {
+        return XmlHooks::Offer(element, description, tag, text, child) != XmlAnswer::Refused ? 1 : 0;
+    }
+    if (child != nullptr) return 0;
+    return XmlHooks::OfferAttribute(element, description, tag.name, name, text, nullptr) != XmlAnswer::Refused ? 1 : 0;
+}
 
 }  // namespace
 
-ix_parm::~ix_parm() { XmlFields::Release(this, kParmTable); }
+constexpr XmlClass ix_parm::kClass = ixClass<ix_parm>("ix_parm", "Parm", kSource, kParmFields, ixIgnoring());
+constexpr XmlClass ix_characteristic::kClass =
+    ixClass<ix_characteristic>("ix_characteristic", "Characteristic", kSource, kCharacteristicFields, ixIgnoring());
+constexpr XmlClass ix_characteristicDocType::kClass =
+    ixClass<ix_characteristicDocType>("ix_characteristicDocType", "CharacteristicDocType", kSource, kDocumentFields);
 
-const XmlFieldTable* ix_parm::FieldTable() const { return &kParmTable; }
-
-int ix_parm::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_NAME)) return ixTakeText(mName, text, child);
-    if (ixNameIs(name, IX_STR_VALUE)) return ixTakeText(mValue, text, child);
-    return 1;
-}
-
-int ix_parm::setParmName(const char* name) { return ixTakeText(mName, name, nullptr); }
-
-int ix_parm::setParmValue(const char* value) { return ixTakeText(mValue, value, nullptr); }
-
-ix_characteristic::~ix_characteristic() { XmlFields::Release(this, kCharacteristicTable); }
-
-const XmlFieldTable* ix_characteristic::FieldTable() const { return &kCharacteristicTable; }
+int ix_parm::ProcessUnMarshall(char* name, char* text, XMLElement* child) { return Take(*this, name, text, child); }
 
 int ix_characteristic::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_TYPE)) return ixTakeText(mType, text, child);
-    if (ixNameIs(name, kParmName)) return ixTakeInto<ix_parm>(mParmList, child, kSourceFile, __LINE__);
-    if (ixNameIs(name, kCharacteristicName)) {
-        return ixTakeInto<ix_characteristic>(mCharacteristicList, child, kSourceFile, __LINE__);
-    }
-    return 1;
+    return Take(*this, name, text, child);
 }
-
-int ix_characteristic::setTypeValue(const char* type) { return ixTakeText(mType, type, nullptr); }
-
-int ix_characteristic::setParmList(IxSingleElementList* list) { return ixSetElementList(mParmList, list); }
-
-int ix_characteristic::addParm(ix_parm* parm) { return ixAppend(mParmList, parm, kSourceFile, __LINE__); }
-
-int ix_characteristic::setCharacteristicList(IxSingleElementList* list) {
-    return ixSetElementList(mCharacteristicList, list);
-}
-
-int ix_characteristic::addCharacteristic(ix_characteristic* characteristic) {
-    return ixAppend(mCharacteristicList, characteristic, kSourceFile, __LINE__);
-}
-
-ix_characteristicDocType::~ix_characteristicDocType() { XmlFields::Release(this, kDocumentTable); }
-
-const XmlFieldTable* ix_characteristicDocType::FieldTable() const { return &kDocumentTable; }
 
 int ix_characteristicDocType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_VERSION)) return ixTakeText(mVersion, text, child);
-    if (ixNameIs(name, kCharacteristicName)) {
-        return ixTakeInto<ix_characteristic>(mCharacteristicList, child, kSourceFile, __LINE__);
-    }
-    // A setting belongs to a group.
-    return ixNameIs(name, kParmName) && child != nullptr ? 0 : 1;
+    // Required: a setting outside of any group is refused, while other objects are ignored.
+    if (child != nullptr && XmlTag(name).Starts(kXmlNameParm)) return 0;
+    return Take(*this, name, text, child);
 }
 
-int ix_characteristicDocType::setVersionValue(const char* version) { return ixTakeText(mVersion, version, nullptr); }
-
-int ix_characteristicDocType::setCharacteristicList(IxSingleElementList* list) {
-    return ixSetElementList(mCharacteristicList, list);
+int XmlCharacteristicDecoder::ProcessAttribute(char* element, char* attribute, char* value) {
+    if (element == nullptr || attribute == nullptr)
+        return XmlFamilyDecoder::ProcessAttribute(element, attribute, value);
+    // Required: whatever element it stands at, and whatever its name is.
+    if (Top() != nullptr) Top()->ProcessUnMarshall(attribute, value, nullptr);
+    return 0;
 }
 
-int ix_characteristicDocType::addCharacteristic(ix_characteristic* characteristic) {
-    return ixAppend(mCharacteristicList, characteristic, kSourceFile, __LINE__);
-}
-
-ix_characteristic* XmlCharacteristicDataBinder::CreateCharacteristic() { return IX_NEW(ix_characteristic); }
-
-ix_parm* XmlCharacteristicDataBinder::CreateParm() { return IX_NEW(ix_parm); }
+ix_characteristic* XmlCharacteristicDataBinder::CreateCharacteristic() { return ixNew<ix_characteristic>(kSource); }
+ix_parm* XmlCharacteristicDataBinder::CreateParm() { return ixNew<ix_parm>(kSource); }
 
 char* XmlCharacteristicMarshaller::Marshall(XMLElement* /*root*/) { return nullptr; }

@@ -6,8 +6,6 @@ int XMLElement::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*
 
 int XMLElement::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* /*pair*/) { return 1; }
 
-const XmlFieldTable* XMLElement::FieldTable() const { return nullptr; }
-
 ix_AttributeValuePair::~ix_AttributeValuePair() {
     __free(mName);
     __free(mValue);
@@ -71,4 +69,3 @@ constexpr bool NumbersAreInOrder() {
 static_assert(NumbersAreInOrder(), "the number of a row is its place");
 
 }  // namespace
-

@@ -1,58 +1,63 @@
 #include "XMLCommunicationDiversion.h"
 
-#include <iterator>
-
 #include "CommunicationDiversion.h"
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLCommunicationDiversion";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
-    IX_OLD_UNMARSHALLER_INFO(XMLCommunicationDiversionDecoder, "CommunicationDiversionUnMarshaller");
-
-constexpr XmlOldWriterRow kWriters[] = {
-    {IX_OLD_WRITER_OF(Communication_diversionMarshaller, AddCommunication_diversionElementToXml,
-                  ix_communication_diversion)},
-    {IX_OLD_WRITER_OF(Communication_diversionMarshaller, AddNoReplyTimerElementToXml, ix_NoReplyTimer)},
-    IX_RULE_WRITER_ROWS,
-    {IX_OLD_WRITER_OF(Communication_diversionMarshaller, AddForwardToElementtoXml, ix_ns_xcap_forward_to_type)},
-};
-
-constexpr XmlOldMarshallerInfo MarshallerInfo() {
-    XmlOldMarshallerInfo info = ixServiceMarshallerInfo(kSourceFile, kWriters);
-    IX_SERVICE_MARSHALL_TEXTS(info, "Communication_diversionMarshaller", "mCdivXml");
-    return info;
-}
-constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
-
-constexpr XmlRuleWriterTexts kRuleTexts =
-    IX_RULE_WRITER_TEXTS("Communication_diversionMarshaller", "<XML Module>: AddActionsElementToXml");
-
-constexpr XmlLogText kAddElement = {2, kSchemaCode, __LINE__, "<XML Module>: AddCommunication_diversionElementToXml"};
+using namespace XmlRow;
 
 constexpr unsigned int kShortestTimer = 5;
 constexpr unsigned int kLongestTimer = 180;
 
 constexpr XmlField kTimerFields[] = {
-    {XmlFieldKind::Unsigned, IX_STR_IX_NULL, XmlUnsignedMember(&ix_NoReplyTimer::mNoReplyTimer), kXmlAlwaysSet, nullptr,
-     "text"},
+    OwnText<&ix_NoReplyTimer::mNoReplyTimer>().Always(),
 };
-constexpr XmlFieldTable kTimerTable = {nullptr, kTimerFields, std::size(kTimerFields)};
 
-// The timer comes before the ruleset of the base class, which frees its field itself.
 constexpr XmlField kDiversionFields[] = {
-    {XmlFieldKind::Child, IX_STR_NOREPLYTIMER, IX_CHILD_MEMBER(ix_communication_diversion, mNoReplyTimer)},
-    {XmlFieldKind::Child, IX_STR_RULESET, IX_CHILD_MEMBER(ix_communication_diversion, mRuleset)},
+    Attribute<&ix_ns_xcap_simservType::mActive>(IX_STR_ACTIVE, XmlFlag::TrueOrFalse).Always(),
+    Attributes<&ix_ns_xcap_simservType::mExtensionList>(),
+    Child<&ix_communication_diversion::mNoReplyTimer>(IX_STR_NOREPLYTIMER),
+    Child<&ix_ns_xcap_ruleServiceType::mRuleset>(IX_STR_RULESET),
 };
-constexpr XmlFieldTable kDiversionTable = {&kSimservTable, kDiversionFields, std::size(kDiversionFields)};
-constexpr XmlFieldTable kOwnDiversionTable = {nullptr, kDiversionFields, 1};
+
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLCommunicationDiversionDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in CommunicationDiversionUnMarshaller::UnMarshall"});
+
+// Required: a transformations element has the class of the actions, and is written as actions.
+constexpr XmlWriterRow kWriters[] = {
+    ixWriter<&Communication_diversionMarshaller::AddCommunication_diversionElementToXml>(),
+    ixWriter<&Communication_diversionMarshaller::AddNoReplyTimerElementToXml>(),
+    ixWriter<&XmlRuleMarshaller::AddRuleSetElementToXml>(),
+    ixWriter<&XmlRuleMarshaller::AddRuleElementToXml>(),
+    ixWriter<&XmlRuleMarshaller::AddConditionsElementToXml>(),
+    ixWriter<&XmlRuleMarshaller::AddActionsElementToXml>(),
+    ixWriter<&Communication_diversionMarshaller::AddForwardToElementtoXml>(),
+    ixWriter<&XmlRuleMarshaller::AddEmptyElementtoXml>(),
+};
+constexpr XmlMarshallerInfo kMarshallerInfo = ixServiceMarshallerInfo(
+    ixMarshallerInfo(kSource, kWriters, IX_MARSHALL_TEXTS("Communication_diversionMarshaller", "mCdivXml")),
+    {2, "Communication_diversionMarshaller :: Communication_diversionMarshaller: Malloc cannot allocate memory"});
+
+constexpr XmlRuleWriterTexts kRuleTexts =
+    IX_RULE_WRITER_TEXTS("Communication_diversionMarshaller", "<XML Module>: AddActionsElementToXml");
 
 }  // namespace
 
-ix_NoReplyTimer::~ix_NoReplyTimer() { XmlFields::Release(this, kTimerTable); }
+constexpr XmlClass ix_NoReplyTimer::kClass =
+    ixClass<ix_NoReplyTimer>("ix_NoReplyTimer", "NoReplyTimer", kSource, kTimerFields, ixIgnoring())
+        .Of(IX_STR_NOREPLYTIMER);
+constexpr XmlClass ix_communication_diversion::kClass =
+    ixServiceClass(ixClass<ix_communication_diversion>("communication-diversion", "CommunicationDiversion", kSource,
+                                                       kDiversionFields, ixIgnoring())
+                       .Of(IX_STR_COMMUNICATION_DIVERSION));
 
-const XmlFieldTable* ix_NoReplyTimer::FieldTable() const { return &kTimerTable; }
+int ix_NoReplyTimer::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    const bool isText = child == nullptr && text != nullptr && ixEndNameIs(name, IX_STR_NOREPLYTIMER);
+    if (!isText) return XmlDescribedElement::ProcessUnMarshall(name, text, child);
+    // Required: a number out of bounds is no error.
+    setNoReplyTimerValue(static_cast<unsigned int>(__atoi(text)));
+    return 1;
+}
 
 int ix_NoReplyTimer::setNoReplyTimerValue(unsigned int seconds) {
     if (seconds < kShortestTimer || seconds > kLongestTimer) return 0;
@@ -60,48 +65,47 @@ int ix_NoReplyTimer::setNoReplyTimerValue(unsigned int seconds) {
     return 1;
 }
 
-ix_communication_diversion::~ix_communication_diversion() { XmlFields::Release(this, kOwnDiversionTable); }
-
-const XmlFieldTable* ix_communication_diversion::FieldTable() const { return &kDiversionTable; }
-
 int ix_communication_diversion::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (!ixEndNameIs(name, IX_STR_NOREPLYTIMER))
+    if (!ixEndNameIs(name, IX_STR_NOREPLYTIMER)) {
         return ix_ns_xcap_ruleServiceType::ProcessUnMarshall(name, text, child);
+    }
     if (child != nullptr) return 0;
-    ix_NoReplyTimer* const timer = IX_NEW(ix_NoReplyTimer);
+    // Required: the timer is made at its end tag, and only by the service around it.
+    auto* const timer = ixNew<ix_NoReplyTimer>(kSource);
     if (timer == nullptr) return 0;
-    // A number that is refused leaves the timer at 0.
-    if (text != nullptr) timer->setNoReplyTimerValue(static_cast<unsigned int>(__atoi(text)));
+    timer->ProcessUnMarshall(name, text, nullptr);
     return setNoReplyTimerValue(timer);
 }
 
-const char* ix_communication_diversion::SourceFile() const { return kSourceFile; }
+CommunicationDiversionDataBinder::CommunicationDiversionDataBinder() : XmlRuleDataBinder(kSource) {}
 
-XMLElement* CommunicationDiversionDataBinder::CreateRootElement() { return IX_NEW(ix_communication_diversion); }
-
+XMLElement* CommunicationDiversionDataBinder::CreateRootElement() { return ixNew<ix_communication_diversion>(kSource); }
 ix_ns_xcap_forward_to_type* CommunicationDiversionDataBinder::CreateForwardToTypeElement() {
-    return IX_NEW(ix_ns_xcap_forward_to_type);
+    return ixNew<ix_ns_xcap_forward_to_type>(kSource);
+}
+ix_NoReplyTimer* CommunicationDiversionDataBinder::CreateNoReplyTimerElement() {
+    return ixNew<ix_NoReplyTimer>(kSource);
 }
 
-ix_NoReplyTimer* CommunicationDiversionDataBinder::CreateNoReplyTimerElement() { return IX_NEW(ix_NoReplyTimer); }
-
-const char* CommunicationDiversionDataBinder::SourceFile() const { return kSourceFile; }
+CommunicationDiversionUnMarshaller::CommunicationDiversionUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
 
 Communication_diversionMarshaller::Communication_diversionMarshaller()
     : XmlRuleMarshaller(kMarshallerInfo, kRuleTexts) {}
 
+CommunicationDiversionContext::CommunicationDiversionContext()
+    : XmlBinderContext(ixFamily<Communication_diversionMarshaller, CommunicationDiversionUnMarshaller,
+                                CommunicationDiversionDataBinder>(kSource)) {}
+
 int Communication_diversionMarshaller::AddCommunication_diversionElementToXml(ix_communication_diversion* element) {
-    ixLog(kSourceFile, kAddElement);
-    if (element == nullptr) return 0;
-    AddRuleService(IX_STR_COMMUNICATION_DIVERSION, *element);
+    if (!Enter(element, {2, "<XML Module>: AddCommunication_diversionElementToXml"})) return 0;
+    AddServiceStart(IX_STR_COMMUNICATION_DIVERSION, *element, false);
+    AddNoReplyTimerElementToXml(element->mNoReplyTimer);
+    EndService(IX_STR_COMMUNICATION_DIVERSION, *element);
     return 1;
 }
 
-void Communication_diversionMarshaller::AddServiceElements(const ix_ns_xcap_ruleServiceType& service) {
-    AddNoReplyTimerElementToXml(static_cast<const ix_communication_diversion&>(service).mNoReplyTimer);
-}
-
 int Communication_diversionMarshaller::AddNoReplyTimerElementToXml(ix_NoReplyTimer* element) {
+    // Required: unlike other writers, it does not fail for NULL.
     if (element == nullptr) return 1;
     SetElementPrefix(IX_STR_SS);
     AddDecimalElement(IX_STR_NOREPLYTIMER, element->mNoReplyTimer);
@@ -109,8 +113,7 @@ int Communication_diversionMarshaller::AddNoReplyTimerElementToXml(ix_NoReplyTim
 }
 
 void Communication_diversionMarshaller::AddAction(XMLElement* action) {
-    if (ixIs<ix_ns_xcap_forward_to_type>(action))
-        AddForwardToElementtoXml(static_cast<ix_ns_xcap_forward_to_type*>(action));
+    AddForwardToElementtoXml(ixAs<ix_ns_xcap_forward_to_type>(action));
 }
 
 int Communication_diversionMarshaller::AddForwardToElementtoXml(ix_ns_xcap_forward_to_type* element) {
@@ -133,8 +136,5 @@ int Communication_diversionMarshaller::AddForwardToElementtoXml(ix_ns_xcap_forwa
 /// Nothing when it is not set.
 void Communication_diversionMarshaller::AddNotification(e_XmlStrRef name, int value) {
     if (value == ix_ns_xcap_forward_to_type::kNotifyNotSet) return;
-    AddTextElement(name, ix_xml_common_array_definition::getStringName(value == 1 ? IX_STR_TRUE : IX_STR_FALSE));
+    AddTextElement(name, ixString(value == 1 ? IX_STR_TRUE : IX_STR_FALSE));
 }
-
-IX_OLD_FAMILY(CommunicationDiversionContext, Communication_diversionMarshaller, CommunicationDiversionUnMarshaller,
-          CommunicationDiversionDataBinder);

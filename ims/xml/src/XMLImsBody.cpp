@@ -2,28 +2,39 @@
 
 namespace {
 
-// Required: the root of the CW indication, `ims-3gpp`, logs the name of the other class, too.
-constexpr XmlLogText kAttributeHook = {2, kSchemaCode, __LINE__, "In ix_3gpp_ims::ProcessUnMarshallAttribute"};
+using namespace XmlRow;
+
+constexpr XmlField kFields[] = {
+    Attribute<&ix_imsBodyType::mVersion>(IX_STR_VERSION).NotSet(ix_imsBodyType::kNoVersion),
+};
 
 }  // namespace
 
-int ix_imsBodyType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    ixLog(SourceFile(), kAttributeHook);
-    const bool takes = pair == nullptr && value != nullptr && ixNameIs(attribute, IX_STR_VERSION);
-    return takes ? setVersionValue(ixToUnsigned(value)) : 1;
-}
+constexpr XmlClass ix_imsBodyType::kClass = ixClass<ix_imsBodyType>("ix_imsBodyType", "ImsBodyType", kSource, kFields);
 
-int ix_imsBodyType::setVersionValue(unsigned int version) {
-    mVersion = version;
+int ix_imsBodyType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
+    XmlDescribedElement::ProcessUnMarshallAttribute(attribute, value, pair);
+    // Required: a version that comes with a pair is not taken, and answered with 1 all the same.
     return 1;
 }
 
-void XmlImsBodyMarshaller::StartRoot(e_XmlStrRef name, const ix_imsBodyType& root) {
-    if (root.mVersion == ix_imsBodyType::kNoVersion) {
-        StartElement(name);
-        return;
+int XmlImsBodyDecoder::KnownAttribute(XMLElement& receiver, char* attribute, char* value) {
+    return OtherAttribute(receiver, attribute, value);
+}
+
+int XmlImsBodyDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char* value) {
+    // Required: an attribute that comes without a pair comes once more, with one.
+    if (ixNameIs(PassName(), m_element) && ixNameIs(attribute, m_attribute)) {
+        XmlHooks::OfferAttributeTo(receiver, attribute, value, nullptr);
     }
+    return XmlFamilyDecoder::OtherAttribute(receiver, attribute, value);
+}
+
+void XmlImsBodyMarshaller::StartRoot(e_XmlStrRef name, const ix_imsBodyType& root) {
     char digits[32];
-    StartElementOpen(name);
-    AddOnlyAttribute(IX_STR_VERSION, __itoaL(root.mVersion, digits, sizeof digits, 10), Attribute::Closing);
+    XmlStartTag tag(*this, name);
+    if (root.mVersion != ix_imsBodyType::kNoVersion) {
+        tag.AddOnly(IX_STR_VERSION, __itoaL(root.mVersion, digits, sizeof digits, 10));
+    }
+    tag.Close();
 }

@@ -1,142 +1,104 @@
 #include "XMLIsComposing.h"
 
-#include <iterator>
-
 #include "IsComposing.h"
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLIsComposing";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
-    IX_OLD_UNMARSHALLER_INFO(XMLIsComposingDecoder, "IsComposingUnMarshaller");
-
-constexpr XmlOldWriterRow kWriters[] = {
-    {IX_OLD_WRITER_OF(IsComposingMarshaller, AddIsComposingElementToXml, ix_isComposing)},
-};
-
-constexpr XmlOldMarshallerInfo MarshallerInfo() {
-    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
-    IX_OLD_MARSHALL_TEXTS(info, "IsComposingMarshaller", "mIsComposingXml");
-    return info;
-}
-constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
-
-constexpr XmlLogText kUnknownElement = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
-constexpr XmlLogText kAddIsComposing = {2, kSchemaCode, __LINE__, "<XML Module>: AddIsComposingElementToXml"};
-constexpr XmlLogText kAddState = {2, kSchemaCode, __LINE__, "<XML Module>: AddStateElementToXml"};
-constexpr XmlLogText kAddRefresh = {2, kSchemaCode, __LINE__, "<XML Module>: AddRefreshElementToXml"};
-constexpr XmlLogText kNoLastactive = {1, kSchemaCode, __LINE__,
-                                      "<XML Module>: IsComposingElement lastactive not present"};
-constexpr XmlLogText kNoContenttype = {1, kSchemaCode, __LINE__,
-                                       "<XML Module>: IsComposingElement Content-type not present"};
-constexpr XmlLogText kNoRefresh = {1, kSchemaCode, __LINE__, "<XML Module>: IsComposingElement Refresh not present"};
+using namespace XmlRow;
 
 constexpr XmlField kFields[] = {
-    {XmlFieldKind::Text, IX_STR_STATE, XmlTextMember(&ix_isComposing::mState)},
-    {XmlFieldKind::Text, IX_STR_LASTACTIVE, XmlTextMember(&ix_isComposing::mLastactive)},
-    {XmlFieldKind::Text, IX_STR_CONTENTTYPE, XmlTextMember(&ix_isComposing::mContenttype)},
-    {XmlFieldKind::Unsigned, IX_STR_REFRESH, XmlUnsignedMember(&ix_isComposing::mRefresh)},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_isComposing::mAnyElementList), 0, nullptr, "any"},
+    Element<&ix_isComposing::mState>(IX_STR_STATE).LeavesEarlier(),
+    Element<&ix_isComposing::mLastactive>(IX_STR_LASTACTIVE).LeavesEarlier(),
+    Element<&ix_isComposing::mContenttype>(IX_STR_CONTENTTYPE).LeavesEarlier(),
+    Element<&ix_isComposing::mRefresh>(IX_STR_REFRESH).Nearest(),
+    Others<&ix_isComposing::mAnyElementList>(),
 };
-constexpr XmlFieldTable kTable = {nullptr, kFields, std::size(kFields)};
 
-constexpr e_XmlStrRef kTexts[] = {IX_STR_STATE, IX_STR_LASTACTIVE, IX_STR_CONTENTTYPE, IX_STR_REFRESH};
+constexpr XmlAnswers Answers() {
+    XmlAnswers answers;
+    answers.unknown = {2, "Cannot accommodate the element %s with value %s"};
+    return answers;
+}
 
-const char* TextOf(e_XmlStrRef entry) { return ix_xml_common_array_definition::getStringName(entry); }
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLIsComposingDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in IsComposingUnMarshaller::UnMarshall"});
+
+constexpr XmlWriterRow kWriters[] = {
+    ixWriter<&IsComposingMarshaller::AddIsComposingElementToXml>(),
+};
+constexpr XmlMarshallerInfo kMarshallerInfo =
+    ixMarshallerInfo(kSource, kWriters, IX_MARSHALL_TEXTS("IsComposingMarshaller", "mIsComposingXml"));
 
 }  // namespace
 
-ix_isComposing::~ix_isComposing() { XmlFields::Release(this, kTable); }
+constexpr XmlClass ix_isComposing::kClass =
+    ixClass<ix_isComposing>("ix_isComposing", "IsComposing", kSource, kFields, Answers());
 
-const XmlFieldTable* ix_isComposing::FieldTable() const { return &kTable; }
+XMLElement* IsComposingDataBinder::CreateRootElement() { return ixNew<ix_isComposing>(kSource); }
 
-int ix_isComposing::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (text != nullptr) {
-        if (ixEndNameIs(name, IX_STR_STATE)) return setStateValue(text);
-        if (ixEndNameIs(name, IX_STR_LASTACTIVE)) return setLastactiveValue(text);
-        if (ixEndNameIs(name, IX_STR_CONTENTTYPE)) return setContenttypeValue(text);
-        if (ixEndNameIs(name, IX_STR_REFRESH)) return setRefreshValue(ixToUnsigned(text));
-    }
-    // Start tags say nothing yet.
-    for (const e_XmlStrRef known : kTexts) {
-        if (ixNameIs(name, known) || ixEndNameIs(name, known)) return 1;
-    }
-    if (child != nullptr) return addAnyElement(child);
-    ixLog(kSourceFile, kUnknownElement, name, text);
-    return 1;
-}
+IsComposingUnMarshaller::IsComposingUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
 
-int ix_isComposing::setRefreshValue(unsigned int refresh) {
-    mRefresh = refresh;
-    return 1;
-}
+IsComposingMarshaller::IsComposingMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
-int ix_isComposing::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
+IsComposingContext::IsComposingContext()
+    : XmlFamilyContext(ixFamily<IsComposingMarshaller, IsComposingUnMarshaller, IsComposingDataBinder>(kSource)) {}
 
-XMLElement* IsComposingDataBinder::CreateRootElement() { return IX_NEW(ix_isComposing); }
-
-IsComposingMarshaller::IsComposingMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
-
-int IsComposingMarshaller::AddIsComposingElementToXml(ix_isComposing* element) {
-    ixLog(kSourceFile, kAddIsComposing);
-    StartElementOpen(IX_STR_ISCOMPOSING);
-    AddAttribute(IX_STR_XMLNS, TextOf(IX_STR_URN_IETF_PARAMS_XML_NS_IM_ISCOMPOSING), Attribute::Open);
-    AddPrefixedAttribute(IX_STR_XMLNS, IX_STR_XSI, TextOf(IX_STR_HTTP_WWW_W3_ORG_2001_XMLSCHEMA_INSTANCE),
-                         Attribute::Open);
+int IsComposingMarshaller::AddIsComposingElementToXml(ix_isComposing* isComposing) {
+    if (!Enter(isComposing, {2, "<XML Module>: AddIsComposingElementToXml"})) return 0;
+    XmlStartTag tag(*this, IX_STR_ISCOMPOSING);
+    tag.Add(IX_STR_XMLNS, IX_STR_URN_IETF_PARAMS_XML_NS_IM_ISCOMPOSING);
+    tag.AddPrefixed(IX_STR_XMLNS, IX_STR_XSI, IX_STR_HTTP_WWW_W3_ORG_2001_XMLSCHEMA_INSTANCE);
     // Required: the schema location names another namespace, and has two blanks before the file name.
-    AddPrefixedAttribute(IX_STR_XSI, IX_STR_SCHEMALOCATION,
-                         TextOf(IX_STR_URN_IETF_PARAMS_XML_NS_IM_COMPOSING_ISCOMPOSING_XSD), Attribute::Closing);
-    if (element == nullptr || element->mState == nullptr) return 0;
-    AddStateElementToXml(element->mState);
-    if (element->mLastactive != nullptr) {
-        AddLastactiveElementToXml(element->mLastactive);
+    tag.AddPrefixed(IX_STR_XSI, IX_STR_SCHEMALOCATION, IX_STR_URN_IETF_PARAMS_XML_NS_IM_COMPOSING_ISCOMPOSING_XSD);
+    tag.Close();
+    if (isComposing->mState == nullptr) return 0;
+    AddStateElementToXml(isComposing->mState);
+    if (isComposing->mLastactive != nullptr) {
+        AddLastactiveElementToXml(isComposing->mLastactive);
     } else {
-        ixLog(kSourceFile, kNoLastactive);
+        Log({1, "<XML Module>: IsComposingElement lastactive not present"});
     }
-    if (element->mContenttype != nullptr) {
-        AddContenttypeElementToXml(element->mContenttype);
+    if (isComposing->mContenttype != nullptr) {
+        AddContenttypeElementToXml(isComposing->mContenttype);
     } else {
-        ixLog(kSourceFile, kNoContenttype);
+        Log({1, "<XML Module>: IsComposingElement Content-type not present"});
     }
-    if (element->mRefresh != 0) {
-        AddRefreshElementToXml(element->mRefresh);
+    if (isComposing->mRefresh != 0) {
+        AddRefreshElementToXml(isComposing->mRefresh);
     } else {
-        ixLog(kSourceFile, kNoRefresh);
+        Log({1, "<XML Module>: IsComposingElement Refresh not present"});
     }
     EndElement(IX_STR_ISCOMPOSING);
     return 1;
 }
 
 int IsComposingMarshaller::AddStateElementToXml(const char* state) {
-    ixLog(kSourceFile, kAddState);
+    if (!Enter(state, {2, "<XML Module>: AddStateElementToXml"})) return 0;
     AddTextElement(IX_STR_STATE, state);
     return 1;
 }
 
 int IsComposingMarshaller::AddLastactiveElementToXml(const char* lastactive) {
+    if (!Enter(lastactive, {2, "<XML Module>: AddLastactiveElementToXml"})) return 0;
     AddTextElement(IX_STR_LASTACTIVE, lastactive);
     return 1;
 }
 
 int IsComposingMarshaller::AddContenttypeElementToXml(const char* contenttype) {
+    if (!Enter(contenttype, {2, "<XML Module>: AddContenttypeElementToXml"})) return 0;
     AddTextElement(IX_STR_CONTENTTYPE, contenttype);
     return 1;
 }
 
 int IsComposingMarshaller::AddRefreshElementToXml(unsigned int refresh) {
-    ixLog(kSourceFile, kAddRefresh);
+    Log({2, "<XML Module>: AddRefreshElementToXml"});
     AddDecimalElement(IX_STR_REFRESH, refresh);
     return 1;
 }
 
-IX_OLD_FAMILY(IsComposingContext, IsComposingMarshaller, IsComposingUnMarshaller, IsComposingDataBinder);
-
 char* TestIsComposingMarshall() {
     ix_isComposing root;
-    const bool complete = root.setStateValue(TextOf(IX_STR_ACTIVE)) != 0 &&
+    const bool complete = root.setStateValue(ixString(IX_STR_ACTIVE)) != 0 &&
                           root.setLastactiveValue("2002-05-30T09:30:10-06:00") != 0 &&
                           root.setContenttypeValue("audio") != 0 && root.setRefreshValue(9) != 0;
     IsComposingMarshaller marshaller;

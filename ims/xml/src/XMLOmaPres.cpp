@@ -1,68 +1,68 @@
 #include "XMLOmaPres.h"
 
-#include <cstring>
-#include <iterator>
-
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLOmaPres";
-
-constexpr XmlLogText kRefused = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
+using namespace XmlRow;
 
 constexpr char kStateTexts[][100] = {"active", "terminated"};
-constexpr XmlEnumeration kStates = {kStateTexts[0], sizeof kStateTexts[0], std::size(kStateTexts)};
+constexpr XmlEnumeration kStates = {kStateTexts[0], sizeof kStateTexts[0], ix_ns_oma_pres_stateType::kNotSet};
 
 constexpr XmlField kServiceDescriptionFields[] = {
-    {XmlFieldKind::Text, IX_STR_SERVICE_ID, XmlTextMember(&ix_ns_oma_pres_service_description::mServiceId)},
-    {XmlFieldKind::Text, IX_STR_VERSION, XmlTextMember(&ix_ns_oma_pres_service_description::mVersion)},
-    {XmlFieldKind::Text, IX_STR_DESCRIPTION, XmlTextMember(&ix_ns_oma_pres_service_description::mDescription)},
+    Element<&ix_ns_oma_pres_service_description::mServiceId>(IX_STR_SERVICE_ID),
+    Element<&ix_ns_oma_pres_service_description::mVersion>(IX_STR_VERSION),
+    Element<&ix_ns_oma_pres_service_description::mDescription>(IX_STR_DESCRIPTION),
 };
-constexpr XmlFieldTable kServiceDescriptionTable = {nullptr, kServiceDescriptionFields,
-                                                    std::size(kServiceDescriptionFields)};
 
 constexpr XmlField kBasicFields[] = {
-    {XmlFieldKind::Enumeration, IX_STR_BASIC, XmlIntMember(&ix_ns_oma_pres_basicType::mBasic),
-     ix_ns_oma_pres_basicType::kNotSet, &kPresenceBasics},
+    Element<&ix_ns_oma_pres_basicType::mBasic>(IX_STR_BASIC, kPresenceBasics),
 };
-constexpr XmlFieldTable kBasicTable = {nullptr, kBasicFields, std::size(kBasicFields)};
 
 constexpr XmlField kStateFields[] = {
-    {XmlFieldKind::Enumeration, IX_STR_IX_NULL, XmlIntMember(&ix_ns_oma_pres_stateType::mState),
-     ix_ns_oma_pres_stateType::kNotSet, &kStates, "text"},
+    OwnText<&ix_ns_oma_pres_stateType::mState>(kStates),
 };
-constexpr XmlFieldTable kStateTable = {nullptr, kStateFields, std::size(kStateFields)};
+
+constexpr XmlAnswers LoggedAnswers() {
+    XmlAnswers answers;
+    answers.startsAreUnknown = true;
+    answers.unknown = {2, "Cannot accommodate the element %s with value %s"};
+    answers.unknownObject = {2, "Cannot accommodate the element %s with value %s"};
+    return answers;
+}
+constexpr XmlAnswers kLogged = LoggedAnswers();
+
+constexpr XmlAnswers IgnoringAnswers() {
+    XmlAnswers answers;
+    answers.object = 1;
+    return answers;
+}
+constexpr XmlAnswers kIgnoring = IgnoringAnswers();
 
 }  // namespace
 
-ix_ns_oma_pres_service_description::~ix_ns_oma_pres_service_description() {
-    XmlFields::Release(this, kServiceDescriptionTable);
-}
-
-const XmlFieldTable* ix_ns_oma_pres_service_description::FieldTable() const { return &kServiceDescriptionTable; }
-
-int ix_ns_oma_pres_service_description::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_SERVICE_ID)) return setServiceIdValue(text);
-    if (ixEndNameIs(name, IX_STR_VERSION)) return setVersionValue(text);
-    if (ixEndNameIs(name, IX_STR_DESCRIPTION)) return setDescriptionValue(text);
-    ixLog(kSourceFile, kRefused, name, text);
-    return child == nullptr ? 1 : 0;
-}
-
-ix_ns_oma_pres_basicType::~ix_ns_oma_pres_basicType() { XmlFields::Release(this, kBasicTable); }
-
-const XmlFieldTable* ix_ns_oma_pres_basicType::FieldTable() const { return &kBasicTable; }
-
-int ix_ns_oma_pres_basicType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixEndNameIs(name, IX_STR_BASIC)) return setBasicValue(kPresenceBasics.IndexOfPrefix(text));
-    ixLog(kSourceFile, kRefused, name, text);
-    return child == nullptr ? 1 : 0;
-}
-
-ix_ns_oma_pres_stateType::~ix_ns_oma_pres_stateType() { XmlFields::Release(this, kStateTable); }
-
-const XmlFieldTable* ix_ns_oma_pres_stateType::FieldTable() const { return &kStateTable; }
-
-int ix_ns_oma_pres_stateType::ProcessUnMarshall(char* name, char* text, XMLElement* /*child*/) {
-    if (name == nullptr || std::strcmp(name, EndTag()) != 0) return 1;
-    return setStateValue(kStates.IndexOfPrefix(text));
-}
+constexpr XmlClass ix_ns_oma_pres_service_description::kClass = ixClass<ix_ns_oma_pres_service_description>(
+    "ix_ns_oma_pres_service_description", "ServiceDescription", kSource, kServiceDescriptionFields, kLogged);
+constexpr XmlClass ix_ns_oma_pres_basicType::kClass =
+    ixClass<ix_ns_oma_pres_basicType>("ix_ns_oma_pres_basicType", "BasicType", kSource, kBasicFields, kLogged);
+constexpr XmlClass ix_ns_oma_pres_willingness::kClass =
+    ixDerived(ixClass<ix_ns_oma_pres_willingness>("ix_ns_oma_pres_willingness", "Willingness", kSource, kLogged),
+              ix_ns_oma_pres_basicType::kClass);
+constexpr XmlClass ix_ns_oma_pres_session_participation::kClass =
+    ixDerived(ixClass<ix_ns_oma_pres_session_participation>("ix_ns_oma_pres_session_participation",
+                                                            "SessionParticipation", kSource, kLogged),
+              ix_ns_oma_pres_basicType::kClass);
+constexpr XmlClass ix_ns_oma_pres_overriding_willingness::kClass =
+    ixDerived(ixClass<ix_ns_oma_pres_overriding_willingness>("ix_ns_oma_pres_overriding_willingness",
+                                                             "OverridingWillingness", kSource, kLogged),
+              ix_ns_oma_pres_basicType::kClass);
+constexpr XmlClass ix_ns_oma_pres_stateType::kClass =
+    ixClass<ix_ns_oma_pres_stateType>("ix_ns_oma_pres_stateType", "StateType", kSource, kStateFields, kIgnoring);
+constexpr XmlClass ix_ns_oma_pres_registration_state::kClass =
+    ixDerived(ixClass<ix_ns_oma_pres_registration_state>("ix_ns_oma_pres_registration_state", "RegistrationState",
+                                                         kSource, kIgnoring)
+                  .Of(kXmlNameRegistrationState),
+              ix_ns_oma_pres_stateType::kClass);
+// Required: the text is taken at the end tag of `barring`, and the end tag of `barring-state` is ignored.
+constexpr XmlClass ix_ns_oma_pres_barring_state::kClass =
+    ixDerived(ixClass<ix_ns_oma_pres_barring_state>("ix_ns_oma_pres_barring_state", "BarringState", kSource, kIgnoring)
+                  .Of(kXmlNameBarring),
+              ix_ns_oma_pres_stateType::kClass);

@@ -1,110 +1,12 @@
 #include "XMLReginfo.h"
 
-#include <cstring>
-#include <iterator>
-
 #include "ReginfoDecoder.h"
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLReginfo";
+using namespace XmlRow;
 
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo = IX_OLD_UNMARSHALLER_INFO(XMLReginfoDecoder, "ReginfoUnMarshaller");
-
-constexpr XmlOldWriterRow kWriters[] = {
-    {IX_OLD_WRITER_OF(ReginfoMarshaller, AddReginfoElementToXml, ix_reginfo)},
-};
-
-constexpr XmlOldMarshallerInfo MarshallerInfo() {
-    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
-    info.entered = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller :: Marshall"};
-    info.deleting = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller :: Marshall: Deleting mReginfoXml"};
-    info.written = {2, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller XML %s"};
-    info.failed = {4, kSchemaCode, __LINE__, "<XML Module>: ReginfoMarshaller XML Failed!"};
-    return info;
-}
-constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
-
-/// What an element class logs of what it does not take.
-struct ClassTexts {
-    const char* childClass;  ///< The class of the children that it lists by name; NULL: none.
-    XmlLogText noChild;
-    XmlLogText noChildClass;
-    XmlLogText otherChild;    ///< With the child's class.
-    XmlLogText otherElement;  ///< With the element's name.
-    XmlLogText noAttribute;
-    XmlLogText otherAttribute;  ///< With the attribute's name.
-};
-
-constexpr ClassTexts kReginfoTexts = {
-    ix_registration::kClassName,
-    {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshall: n_Object is Null"},
-    {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshall: pElementName is Null"},
-    {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshall: pElementName is %s while ClassName is ix_registration"},
-    {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshall Cannot accommodate the element %s"},
-    {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshallAttribute n_strAttribute is NULL"},
-    {3, kSchemaCode, __LINE__, "ix_reginfo::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"}};
-constexpr ClassTexts kRegistrationTexts = {
-    ix_ns_reginfo_contact::kClassName,
-    {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshall: n_Object is Null"},
-    {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshall: pElementName is Null"},
-    {3, kSchemaCode, __LINE__,
-     "ix_registration::ProcessUnMarshall: pElementName is %s while ClassName is ix_ns_reginfo_contact"},
-    {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshall Cannot accommodate the element %s"},
-    {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshallAttribute n_strAttribute is NULL"},
-    {3, kSchemaCode, __LINE__, "ix_registration::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"}};
-constexpr ClassTexts kContactTexts = {
-    ix_unknown_param::kClassName,
-    {3, kSchemaCode, __LINE__, "ix_ns_reginfo_contact::ProcessUnMarshall: n_Object is Null"},
-    {3, kSchemaCode, __LINE__, "ix_ns_reginfo_contact::ProcessUnMarshall: pElementName is Null"},
-    {3, kSchemaCode, __LINE__,
-     "ix_ns_reginfo_contact::ProcessUnMarshall: pElementName is %s while ClassName is ix_unknown_param"},
-    {3, kSchemaCode, __LINE__, "ix_ns_reginfo_contact::ProcessUnMarshall Cannot accommodate the element %s"},
-    {3, kSchemaCode, __LINE__, "ix_ns_reginfo_contact::ProcessUnMarshallAttribute n_strAttribute is NULL"},
-    {3, kSchemaCode, __LINE__,
-     "ix_ns_reginfo_contact::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"}};
-constexpr ClassTexts kUnknownParamTexts = {
-    nullptr,
-    {},
-    {},
-    {},
-    {3, kSchemaCode, __LINE__, "ix_unknown_param::ProcessUnMarshall Cannot accommodate the element %s"},
-    {3, kSchemaCode, __LINE__, "ix_unknown_param::ProcessUnMarshallAttribute n_strAttribute is NULL"},
-    {3, kSchemaCode, __LINE__, "ix_unknown_param::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"}};
-
-constexpr XmlLogText kReginfoNoState = {1, kSchemaCode, __LINE__,
-                                        "<XML Module>: AddReginfoElementToXml state is required"};
-constexpr XmlLogText kRegistrationFailed = {4, kSchemaCode, __LINE__,
-                                            "<XML Module>: AddRegistrationElementToXml Failed"};
-constexpr XmlLogText kReginfoAny = {2, kSchemaCode, __LINE__, "<XML Module>: pReginfo: AnyElement not supported"};
-constexpr XmlLogText kRegistrationNoAor = {4, kSchemaCode, __LINE__,
-                                           "<XML Module>: AddRegistrationElementToXml aor is required"};
-constexpr XmlLogText kRegistrationNoId = {4, kSchemaCode, __LINE__,
-                                          "<XML Module>: AddRegistrationElementToXml id is required"};
-constexpr XmlLogText kRegistrationNoState = {1, kSchemaCode, __LINE__,
-                                             "<XML Module>: AddRegistrationElementToXml state is required"};
-constexpr XmlLogText kContactFailed = {4, kSchemaCode, __LINE__, "<XML Module>: AddReginfoContactElementToXml Failed"};
-constexpr XmlLogText kRegistrationAny = {2, kSchemaCode, __LINE__,
-                                         "<XML Module>: pRegistration: AnyElement not supported"};
-constexpr XmlLogText kContactNoState = {1, kSchemaCode, __LINE__,
-                                        "<XML Module>: AddReginfoContactElementToXml state is required"};
-constexpr XmlLogText kContactNoEvent = {1, kSchemaCode, __LINE__,
-                                        "<XML Module>: AddReginfoContactElementToXml event is required"};
-constexpr XmlLogText kContactNoId = {4, kSchemaCode, __LINE__,
-                                     "<XML Module>: AddReginfoContactElementToXml id is required"};
-constexpr XmlLogText kUnknownParamFailed = {4, kSchemaCode, __LINE__,
-                                            "<XML Module>: AddUnknownParamElementToXml Failed"};
-// Required: an element of a contact that is not written is told in the name of the writer of parameters.
-constexpr XmlLogText kContactAny = {
-    2, kSchemaCode, __LINE__, "<XML Module>: AddUnknownParamElementToXml cannot accommodate any element classname: %s"};
-constexpr XmlLogText kUnknownParamNoName = {4, kSchemaCode, __LINE__,
-                                            "<XML Module>: AddUnknownParamElementToXml name is required"};
-constexpr XmlLogText kPubGruuNoUri = {3, kSchemaCode, __LINE__,
-                                      "<XML Module>: AddPubGruuElementToXml: Uri is a mandatory attribute"};
-constexpr XmlLogText kTempGruuNoUri = {3, kSchemaCode, __LINE__,
-                                       "<XML Module>: AddTempGruuElementToXml: Uri is a mandatory attribute"};
-
-/// The texts of all enumerations, one behind the other. Their order counts: see the reach of a word below.
+/// The texts of all enumerations, one behind the other. Their order counts where reading looks past an enumeration.
 constexpr char kTexts[][32] = {
     // States of a document.
     "full", "partial",
@@ -115,365 +17,265 @@ constexpr char kTexts[][32] = {
     "rejected",
     // States of a registration.
     "init", "active", "terminated"};
-constexpr int kContactStates = 2;
-constexpr int kContactEvents = 4;
-constexpr int kRegistrationStates = 13;
 
-constexpr XmlEnumeration Rows(int first, int count) { return {kTexts[first], sizeof kTexts[0], count}; }
-constexpr XmlEnumeration kReginfoState = Rows(0, IX_REGINFO_STATE_UNSET);
-constexpr XmlEnumeration kContactState = Rows(kContactStates, IX_CONTACT_STATE_UNSET);
-constexpr XmlEnumeration kContactEvent = Rows(kContactEvents, IX_CONTACT_EVENT_UNSET);
-constexpr XmlEnumeration kRegistrationState = Rows(kRegistrationStates, IX_REGISTRATION_STATE_UNSET);
-
-/// @name Rows that are looked at for a word, where they are not those of the enumeration.
-/// @{
-// Required: one row past the states, "registered", and one past the events, "init": a word that is no state or event
-// has a number of its own, which is not written either.
-constexpr XmlEnumeration kContactStateReach = Rows(kContactStates, IX_CONTACT_STATE_UNSET + 1);
-constexpr XmlEnumeration kContactEventReach = Rows(kContactEvents, IX_CONTACT_EVENT_UNSET + 1);
+constexpr XmlEnumeration Words(int first, int count, int reach = 0) {
+    return {kTexts[first], sizeof kTexts[0], count, false, reach};
+}
+constexpr XmlEnumeration kReginfoStates = Words(0, IX_REGINFO_STATE_UNSET);
+// Required: reading looks one row past the states, at "registered", and one past the events, at "init": a word that is
+// no state or event has a number of its own, which is not written either.
+constexpr XmlEnumeration kContactStates = Words(2, IX_CONTACT_STATE_UNSET, IX_CONTACT_STATE_UNSET + 1);
+constexpr XmlEnumeration kContactEvents = Words(4, IX_CONTACT_EVENT_UNSET, IX_CONTACT_EVENT_UNSET + 1);
 // Required: the word "terminated" is not looked for, as any other word is taken for it.
-constexpr XmlEnumeration kRegistrationStateReach = Rows(kRegistrationStates, IX_REGISTRATION_STATE_TERMINATED);
-/// @}
+constexpr XmlEnumeration kRegistrationStates = Words(13, IX_REGISTRATION_STATE_UNSET, IX_REGISTRATION_STATE_TERMINATED);
 
 constexpr XmlField kUnknownParamFields[] = {
-    {XmlFieldKind::Text, IX_STR_IX_NULL, XmlTextMember(&ix_unknown_param::mValue), 0, nullptr, "text"},
-    {XmlFieldKind::Text, IX_STR_NAME, XmlTextMember(&ix_unknown_param::mName)},
+    Attribute<&ix_unknown_param::mName>(IX_STR_NAME),
+    OwnText<&ix_unknown_param::mValue>(),
 };
-constexpr XmlFieldTable kUnknownParamTable = {nullptr, kUnknownParamFields, std::size(kUnknownParamFields)};
+
+constexpr XmlNamedClass kGruus[] = {
+    {IX_STR_PUB_GRUU, &ix_pub_gruu::kClass},
+    {IX_STR_TEMP_GRUU, &ix_temp_gruu::kClass},
+};
 
 constexpr XmlField kContactFields[] = {
-    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_ns_reginfo_contact::mUri)},
-    {XmlFieldKind::Text, IX_STR_DISPLAY_NAME, XmlTextMember(&ix_ns_reginfo_contact::mDisplayName)},
-    {XmlFieldKind::ChildList, IX_STR_UNKNOWN_PARAM, XmlListMember(&ix_ns_reginfo_contact::mUnknownParamList)},
-    {XmlFieldKind::Enumeration, IX_STR_STATE, XmlIntMember(&ix_ns_reginfo_contact::mState), IX_CONTACT_STATE_UNSET,
-     &kContactState},
-    {XmlFieldKind::Enumeration, IX_STR_EVENT, XmlIntMember(&ix_ns_reginfo_contact::mEvent), IX_CONTACT_EVENT_UNSET,
-     &kContactEvent},
-    {XmlFieldKind::Number64, IX_STR_DURATION_REGISTERED, XmlInt64Member(&ix_ns_reginfo_contact::mDurationRegistered)},
-    {XmlFieldKind::Number64, IX_STR_EXPIRES, XmlInt64Member(&ix_ns_reginfo_contact::mExpires)},
-    {XmlFieldKind::Number64, IX_STR_RETRY_AFTER, XmlInt64Member(&ix_ns_reginfo_contact::mRetryAfter)},
-    {XmlFieldKind::Text, IX_STR_ID, XmlTextMember(&ix_ns_reginfo_contact::mId)},
-    {XmlFieldKind::Text, IX_STR_Q, XmlTextMember(&ix_ns_reginfo_contact::mQ)},
-    {XmlFieldKind::Text, IX_STR_CALLID, XmlTextMember(&ix_ns_reginfo_contact::mCallid)},
-    {XmlFieldKind::Number64, IX_STR_CSEQ, XmlInt64Member(&ix_ns_reginfo_contact::mCseq)},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_ns_reginfo_contact::mAnyElementList), 0, nullptr,
-     "any"},
+    Attribute<&ix_ns_reginfo_contact::mState>(IX_STR_STATE, kContactStates),
+    Attribute<&ix_ns_reginfo_contact::mEvent>(IX_STR_EVENT, kContactEvents),
+    Attribute<&ix_ns_reginfo_contact::mDurationRegistered>(IX_STR_DURATION_REGISTERED),
+    Attribute<&ix_ns_reginfo_contact::mExpires>(IX_STR_EXPIRES),
+    Attribute<&ix_ns_reginfo_contact::mRetryAfter>(IX_STR_RETRY_AFTER),
+    Attribute<&ix_ns_reginfo_contact::mId>(IX_STR_ID),
+    Attribute<&ix_ns_reginfo_contact::mQ>(IX_STR_Q),
+    Attribute<&ix_ns_reginfo_contact::mCallid>(IX_STR_CALLID),
+    Attribute<&ix_ns_reginfo_contact::mCseq>(IX_STR_CSEQ),
+    Element<&ix_ns_reginfo_contact::mUri>(IX_STR_URI),
+    Element<&ix_ns_reginfo_contact::mDisplayName>(IX_STR_DISPLAY_NAME),
+    Children<&ix_ns_reginfo_contact::mUnknownParamList, ix_unknown_param>(IX_STR_UNKNOWN_PARAM),
+    Others<&ix_ns_reginfo_contact::mAnyElementList>(kGruus),
 };
-constexpr XmlFieldTable kContactTable = {nullptr, kContactFields, std::size(kContactFields)};
 
 constexpr XmlField kRegistrationFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_CONTACT, XmlListMember(&ix_registration::mContactList)},
-    {XmlFieldKind::Text, IX_STR_AOR, XmlTextMember(&ix_registration::mAor)},
-    {XmlFieldKind::Text, IX_STR_ID, XmlTextMember(&ix_registration::mId)},
-    {XmlFieldKind::Enumeration, IX_STR_STATE, XmlIntMember(&ix_registration::mState), IX_REGISTRATION_STATE_UNSET,
-     &kRegistrationState},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_registration::mAnyElementList), 0, nullptr, "any"},
+    Attribute<&ix_registration::mAor>(IX_STR_AOR),
+    Attribute<&ix_registration::mId>(IX_STR_ID),
+    Attribute<&ix_registration::mState>(IX_STR_STATE, kRegistrationStates),
+    Children<&ix_registration::mContactList, ix_ns_reginfo_contact>(IX_STR_CONTACT),
+    Others<&ix_registration::mAnyElementList>(),
 };
-constexpr XmlFieldTable kRegistrationTable = {nullptr, kRegistrationFields, std::size(kRegistrationFields)};
 
 constexpr XmlField kReginfoFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_REGISTRATION, XmlListMember(&ix_reginfo::mRegistrationList)},
-    {XmlFieldKind::Enumeration, IX_STR_STATE, XmlIntMember(&ix_reginfo::mState), IX_REGINFO_STATE_UNSET,
-     &kReginfoState},
-    {XmlFieldKind::Unsigned, IX_STR_VERSION, XmlUnsignedMember(&ix_reginfo::mVersion), kXmlAlwaysSet},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_reginfo::mAnyElementList), 0, nullptr, "any"},
+    Attribute<&ix_reginfo::mVersion>(IX_STR_VERSION).Always(),
+    Attribute<&ix_reginfo::mState>(IX_STR_STATE, kReginfoStates),
+    Children<&ix_reginfo::mRegistrationList, ix_registration>(IX_STR_REGISTRATION),
+    Others<&ix_reginfo::mAnyElementList>(),
 };
-constexpr XmlFieldTable kReginfoTable = {nullptr, kReginfoFields, std::size(kReginfoFields)};
 
-/// True when `child` is of the class that the name it comes under stands for.
-bool IsNamedChild(const XMLElement* child, const ClassTexts& texts) {
-    const char* const name = child != nullptr ? child->ClassName() : nullptr;
-    if (child == nullptr) {
-        ixLog(kSourceFile, texts.noChild);
-    } else if (name == nullptr) {
-        ixLog(kSourceFile, texts.noChildClass);
-    } else if (std::strcmp(name, texts.childClass) != 0) {
-        ixLog(kSourceFile, texts.otherChild, name);
-    } else {
-        return true;
-    }
-    return false;
+/// Every class has texts of its own, the last three where it has children of one class.
+constexpr XmlAnswers Answers(const XmlLogText& noAttribute, const XmlLogText& unknownAttribute,
+                             const XmlLogText& unknown, const XmlLogText& noChild = {},
+                             const XmlLogText& namelessChild = {}, const XmlLogText& otherChild = {}) {
+    XmlAnswers answers;
+    answers.attribute = 0;
+    answers.pair = 0;
+    answers.noAttribute = noAttribute;
+    answers.unknownAttribute = unknownAttribute;
+    answers.unknown = unknown;
+    answers.noChild = noChild;
+    answers.namelessChild = namelessChild;
+    answers.otherChild = otherChild;
+    return answers;
 }
 
-/// Logs an attribute that the class does not have. @return 0.
-int RefuseAttribute(const char* attribute, const ClassTexts& texts) {
-    ixLog(kSourceFile, attribute != nullptr ? texts.otherAttribute : texts.noAttribute, attribute);
-    return 0;
+constexpr XmlAnswers UnknownParamAnswers() {
+    XmlAnswers answers =
+        Answers({3, "ix_unknown_param::ProcessUnMarshallAttribute n_strAttribute is NULL"},
+                {3, "ix_unknown_param::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"},
+                {3, "ix_unknown_param::ProcessUnMarshall Cannot accommodate the element %s"});
+    answers.event = 0;
+    answers.unknownObject = answers.unknown;
+    return answers;
 }
+constexpr XmlAnswers kUnknownParamAnswers = UnknownParamAnswers();
 
-/// Logs what is missing. @return 0.
-int Fail(const XmlLogText& missing) {
-    ixLog(kSourceFile, missing);
-    return 0;
-}
+constexpr XmlAnswers kContactAnswers =
+    Answers({3, "ix_ns_reginfo_contact::ProcessUnMarshallAttribute n_strAttribute is NULL"},
+            {3, "ix_ns_reginfo_contact::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"},
+            {3, "ix_ns_reginfo_contact::ProcessUnMarshall Cannot accommodate the element %s"},
+            {3, "ix_ns_reginfo_contact::ProcessUnMarshall: n_Object is Null"},
+            {3, "ix_ns_reginfo_contact::ProcessUnMarshall: pElementName is Null"},
+            {3, "ix_ns_reginfo_contact::ProcessUnMarshall: pElementName is %s while ClassName is ix_unknown_param"});
+constexpr XmlAnswers kRegistrationAnswers =
+    Answers({3, "ix_registration::ProcessUnMarshallAttribute n_strAttribute is NULL"},
+            {3, "ix_registration::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"},
+            {3, "ix_registration::ProcessUnMarshall Cannot accommodate the element %s"},
+            {3, "ix_registration::ProcessUnMarshall: n_Object is Null"},
+            {3, "ix_registration::ProcessUnMarshall: pElementName is Null"},
+            {3, "ix_registration::ProcessUnMarshall: pElementName is %s while ClassName is ix_ns_reginfo_contact"});
+constexpr XmlAnswers kReginfoAnswers = Answers(
+    {3, "ix_reginfo::ProcessUnMarshallAttribute n_strAttribute is NULL"},
+    {3, "ix_reginfo::ProcessUnMarshallAttribute Cannot accommodate the attribute %s"},
+    {3, "ix_reginfo::ProcessUnMarshall Cannot accommodate the element %s"},
+    {3, "ix_reginfo::ProcessUnMarshall: n_Object is Null"}, {3, "ix_reginfo::ProcessUnMarshall: pElementName is Null"},
+    {3, "ix_reginfo::ProcessUnMarshall: pElementName is %s while ClassName is ix_registration"});
 
-/// Logs that elements of other classes are not written, if there are any.
-void LogAnyElements(const IxSingleElementList* list, const XmlLogText& text) {
-    if (ixNodesOf(list) != nullptr) ixLog(kSourceFile, text);
-}
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLReginfoDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in ReginfoUnMarshaller::UnMarshall"});
+
+constexpr XmlWriterRow kWriters[] = {
+    ixWriter<&ReginfoMarshaller::AddReginfoElementToXml>(),
+};
+constexpr XmlMarshallerInfo kMarshallerInfo =
+    ixMarshallerInfo(kSource, kWriters,
+                     {{2, "<XML Module>: ReginfoMarshaller :: Marshall"},
+                      {2, "<XML Module>: ReginfoMarshaller :: Marshall: Deleting mReginfoXml"},
+                      {2, "<XML Module>: ReginfoMarshaller XML %s"},
+                      {4, "<XML Module>: ReginfoMarshaller XML Failed!"}});
 
 }  // namespace
 
-ix_unknown_param::~ix_unknown_param() { XmlFields::Release(this, kUnknownParamTable); }
+constexpr XmlClass ix_unknown_param::kClass =
+    ixClass<ix_unknown_param>("ix_unknown_param", "unknown-param", kSource, kUnknownParamFields, kUnknownParamAnswers)
+        .Of(IX_STR_UNKNOWN_PARAM)
+        .NoRoot();
+constexpr XmlClass ix_ns_reginfo_contact::kClass =
+    ixClass<ix_ns_reginfo_contact>("ix_ns_reginfo_contact", "contact", kSource, kContactFields, kContactAnswers);
+constexpr XmlClass ix_registration::kClass =
+    ixClass<ix_registration>("ix_registration", "registration", kSource, kRegistrationFields, kRegistrationAnswers);
+constexpr XmlClass ix_reginfo::kClass =
+    ixClass<ix_reginfo>("ix_reginfo", "reginfo", kSource, kReginfoFields, kReginfoAnswers);
 
-const XmlFieldTable* ix_unknown_param::FieldTable() const { return &kUnknownParamTable; }
+XMLElement* ReginfoDataBinder::CreateRootElement() { return ixNew<ix_reginfo>(kSource); }
+ix_registration* ReginfoDataBinder::CreateRegistrationElement() { return ixNew<ix_registration>(kSource); }
+ix_ns_reginfo_contact* ReginfoDataBinder::CreateContactElement() { return ixNew<ix_ns_reginfo_contact>(kSource); }
+ix_unknown_param* ReginfoDataBinder::CreateUnknownParamElement() { return ixNew<ix_unknown_param>(kSource); }
+ix_pub_gruu* ReginfoDataBinder::CreatePubGruuElement() { return ixNew<ix_pub_gruu>(kSource); }
+ix_temp_gruu* ReginfoDataBinder::CreateTempGruuElement() { return ixNew<ix_temp_gruu>(kSource); }
 
-int ix_unknown_param::ProcessUnMarshall(char* name, char* text, XMLElement* /*child*/) {
-    if (ixEndNameIs(name, IX_STR_UNKNOWN_PARAM)) return setValueValue(text);
-    ixLog(kSourceFile, kUnknownParamTexts.otherElement, name);
-    return 0;
-}
+ReginfoUnMarshaller::ReginfoUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
 
-int ix_unknown_param::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* /*pair*/) {
-    if (ixNameIs(attribute, IX_STR_NAME)) return setNameValue(value);
-    return RefuseAttribute(attribute, kUnknownParamTexts);
-}
+ReginfoMarshaller::ReginfoMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
 
-ix_ns_reginfo_contact::~ix_ns_reginfo_contact() { XmlFields::Release(this, kContactTable); }
-
-const XmlFieldTable* ix_ns_reginfo_contact::FieldTable() const { return &kContactTable; }
-
-int ix_ns_reginfo_contact::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_UNKNOWN_PARAM)) {
-        return IsNamedChild(child, kContactTexts) ? addUnknownParam(static_cast<ix_unknown_param*>(child)) : 0;
-    }
-    if (ixNameIs(name, IX_STR_URI) || ixNameIs(name, IX_STR_DISPLAY_NAME)) return 1;
-    if (child != nullptr) return addAnyElement(child);
-    if (text != nullptr && ixEndNameIs(name, IX_STR_URI)) return setUriValue(text);
-    if (text != nullptr && ixEndNameIs(name, IX_STR_DISPLAY_NAME)) return setDisplayNameValue(text);
-    ixLog(kSourceFile, kContactTexts.otherElement, name);
-    return 1;
-}
-
-int ix_ns_reginfo_contact::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* /*pair*/) {
-    if (ixNameIs(attribute, IX_STR_ID)) return setIdValue(value);
-    if (ixNameIs(attribute, IX_STR_Q)) return setQValue(value);
-    if (ixNameIs(attribute, IX_STR_CALLID)) return setCallidValue(value);
-    if (ixNameIs(attribute, IX_STR_DURATION_REGISTERED)) return setDurationRegisteredValue(__atoi64(value));
-    if (ixNameIs(attribute, IX_STR_EXPIRES)) return setExpiresValue(__atoi64(value));
-    if (ixNameIs(attribute, IX_STR_RETRY_AFTER)) return setRetryAfterValue(__atoi64(value));
-    if (ixNameIs(attribute, IX_STR_CSEQ)) return setCseqValue(__atoi64(value));
-    if (ixNameIs(attribute, IX_STR_STATE)) {
-        mState = kContactStateReach.IndexOfPrefix(value);
-    } else if (ixNameIs(attribute, IX_STR_EVENT)) {
-        mEvent = kContactEventReach.IndexOfPrefix(value);
-    } else {
-        return RefuseAttribute(attribute, kContactTexts);
-    }
-    return 1;
-}
-
-int ix_ns_reginfo_contact::addUnknownParam(ix_unknown_param* param) {
-    return ixAppend(mUnknownParamList, param, kSourceFile, __LINE__);
-}
-
-int ix_ns_reginfo_contact::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
-
-ix_registration::~ix_registration() { XmlFields::Release(this, kRegistrationTable); }
-
-const XmlFieldTable* ix_registration::FieldTable() const { return &kRegistrationTable; }
-
-int ix_registration::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_CONTACT)) {
-        return IsNamedChild(child, kRegistrationTexts) ? addContact(static_cast<ix_ns_reginfo_contact*>(child)) : 0;
-    }
-    if (child != nullptr) return addAnyElement(child);
-    ixLog(kSourceFile, kRegistrationTexts.otherElement, name);
-    return 1;
-}
-
-int ix_registration::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* /*pair*/) {
-    if (ixNameIs(attribute, IX_STR_AOR)) return setAorValue(value);
-    if (ixNameIs(attribute, IX_STR_ID)) return setIdValue(value);
-    if (!ixNameIs(attribute, IX_STR_STATE)) return RefuseAttribute(attribute, kRegistrationTexts);
-    mState = kRegistrationStateReach.IndexOfPrefix(value);
-    return 1;
-}
-
-int ix_registration::addContact(ix_ns_reginfo_contact* contact) {
-    return ixAppend(mContactList, contact, kSourceFile, __LINE__);
-}
-
-int ix_registration::addAnyElement(XMLElement* element) {
-    return ixAppend(mAnyElementList, element, kSourceFile, __LINE__);
-}
-
-ix_reginfo::~ix_reginfo() { XmlFields::Release(this, kReginfoTable); }
-
-const XmlFieldTable* ix_reginfo::FieldTable() const { return &kReginfoTable; }
-
-int ix_reginfo::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (ixNameIs(name, IX_STR_REGISTRATION)) {
-        return IsNamedChild(child, kReginfoTexts) ? addRegistration(static_cast<ix_registration*>(child)) : 0;
-    }
-    if (child != nullptr) return addAnyElement(child);
-    ixLog(kSourceFile, kReginfoTexts.otherElement, name);
-    return 1;
-}
-
-int ix_reginfo::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* /*pair*/) {
-    if (ixNameIs(attribute, IX_STR_VERSION)) {
-        // As many of the number's bits as there are, so that a version of 2^31 and more is itself.
-        return value != nullptr ? setVersionValue(static_cast<unsigned int>(__atoi64(value))) : 1;
-    }
-    if (!ixNameIs(attribute, IX_STR_STATE)) return RefuseAttribute(attribute, kReginfoTexts);
-    mState = kReginfoState.IndexOfPrefix(value);
-    return 1;
-}
-
-int ix_reginfo::addRegistration(ix_registration* registration) {
-    return ixAppend(mRegistrationList, registration, kSourceFile, __LINE__);
-}
-
-int ix_reginfo::addAnyElement(XMLElement* element) { return ixAppend(mAnyElementList, element, kSourceFile, __LINE__); }
-
-XMLElement* ReginfoDataBinder::CreateRootElement() { return IX_NEW(ix_reginfo); }
-
-ix_registration* ReginfoDataBinder::CreateRegistrationElement() { return IX_NEW(ix_registration); }
-
-ix_ns_reginfo_contact* ReginfoDataBinder::CreateContactElement() { return IX_NEW(ix_ns_reginfo_contact); }
-
-ix_unknown_param* ReginfoDataBinder::CreateUnknownParamElement() { return IX_NEW(ix_unknown_param); }
-
-ix_pub_gruu* ReginfoDataBinder::CreatePubGruuElement() { return IX_NEW(ix_pub_gruu); }
-
-ix_temp_gruu* ReginfoDataBinder::CreateTempGruuElement() { return IX_NEW(ix_temp_gruu); }
-
-ReginfoMarshaller::ReginfoMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
+ReginfoContext::ReginfoContext()
+    : XmlFamilyContext(ixFamily<ReginfoMarshaller, ReginfoUnMarshaller, ReginfoDataBinder>(kSource)) {}
 
 int ReginfoMarshaller::AddReginfoElementToXml(ix_reginfo* reginfo) {
-    if (reginfo == nullptr) return 0;
-    StartElementOpen(IX_STR_REGINFO);
-    AddAttribute(IX_STR_XMLNS, ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_REGINFO),
-                 Attribute::Open);
-    AddPrefixedAttribute(IX_STR_XMLNS, IX_STR_GR,
-                         ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_GRUUINFO),
-                         Attribute::Open);
-    AddDecimalAttribute(IX_STR_VERSION, reginfo->mVersion, Attribute::Open);
-    const char* const state = kReginfoState.TextOf(reginfo->mState);
-    if (state == nullptr) return Fail(kReginfoNoState);
-    AddAttribute(IX_STR_STATE, state, Attribute::Closing);
-    if (AddChildList(reginfo->mRegistrationList,
-                     IX_OLD_WRITER(ReginfoMarshaller, AddRegistrationElementToXml, ix_registration),
-                     kRegistrationFailed) == 0) {
+    if (!Enter(reginfo, {2, "<XML Module>: AddReginfoElementToXml"})) return 0;
+    XmlStartTag tag(*this, IX_STR_REGINFO);
+    tag.Add(IX_STR_XMLNS, IX_STR_URN_IETF_PARAMS_XML_NS_REGINFO);
+    tag.AddPrefixed(IX_STR_XMLNS, IX_STR_GR, IX_STR_URN_IETF_PARAMS_XML_NS_GRUUINFO);
+    tag.AddDecimal(IX_STR_VERSION, reginfo->mVersion);
+    const char* const state = kReginfoStates.TextOf(reginfo->mState);
+    if (state == nullptr) return Fail({1, "<XML Module>: AddReginfoElementToXml state is required"});
+    tag.Add(IX_STR_STATE, state);
+    tag.Close();
+    if (!AddChildren<&ReginfoMarshaller::AddRegistrationElementToXml>(
+            reginfo->mRegistrationList, {4, "<XML Module>: AddRegistrationElementToXml Failed"})) {
         return 0;
     }
-    LogAnyElements(reginfo->mAnyElementList, kReginfoAny);
+    if (ixNodesOf(reginfo->mAnyElementList) != nullptr) Log({2, "<XML Module>: pReginfo: AnyElement not supported"});
     EndElement(IX_STR_REGINFO);
     return 1;
 }
 
 int ReginfoMarshaller::AddRegistrationElementToXml(ix_registration* registration) {
-    if (registration == nullptr) return 0;
-    StartElementOpen(IX_STR_REGISTRATION);
-    if (registration->mAor == nullptr) return Fail(kRegistrationNoAor);
-    AddAttribute(IX_STR_AOR, registration->mAor, Attribute::Open);
+    if (!Enter(registration, {2, "<XML Module>: AddRegistrationElementToXml"})) return 0;
+    XmlStartTag tag(*this, IX_STR_REGISTRATION);
+    if (registration->mAor == nullptr) return Fail({4, "<XML Module>: AddRegistrationElementToXml aor is required"});
+    tag.Add(IX_STR_AOR, registration->mAor);
     // Required: the address of record is tested a second time where the id is meant, so that a registration without id
     // is written, with an empty one.
-    if (registration->mAor == nullptr) return Fail(kRegistrationNoId);
-    AddAttribute(IX_STR_ID, registration->mId, Attribute::Open);
-    const char* const state = kRegistrationState.TextOf(registration->mState);
-    if (state == nullptr) return Fail(kRegistrationNoState);
-    AddAttribute(IX_STR_STATE, state, Attribute::Closing);
-    if (AddChildList(registration->mContactList,
-                     IX_OLD_WRITER(ReginfoMarshaller, AddReginfoContactElementToXml, ix_ns_reginfo_contact),
-                     kContactFailed) == 0) {
+    if (registration->mAor == nullptr) return Fail({4, "<XML Module>: AddRegistrationElementToXml id is required"});
+    tag.Add(IX_STR_ID, registration->mId != nullptr ? registration->mId : "");
+    const char* const state = kRegistrationStates.TextOf(registration->mState);
+    if (state == nullptr) return Fail({1, "<XML Module>: AddRegistrationElementToXml state is required"});
+    tag.Add(IX_STR_STATE, state);
+    tag.Close();
+    if (!AddChildren<&ReginfoMarshaller::AddReginfoContactElementToXml>(
+            registration->mContactList, {4, "<XML Module>: AddReginfoContactElementToXml Failed"})) {
         return 0;
     }
-    LogAnyElements(registration->mAnyElementList, kRegistrationAny);
+    if (ixNodesOf(registration->mAnyElementList) != nullptr) {
+        Log({2, "<XML Module>: pRegistration: AnyElement not supported"});
+    }
     EndElement(IX_STR_REGISTRATION);
     return 1;
 }
 
 int ReginfoMarshaller::AddReginfoContactElementToXml(ix_ns_reginfo_contact* contact) {
-    if (contact == nullptr) return 0;
-    StartElementOpen(IX_STR_CONTACT);
-    if (AddContactAttributes(*contact) == 0) return 0;
+    if (!Enter(contact, {2, "<XML Module>: AddReginfoContactElementToXml"})) return 0;
+    if (!AddContactStartTag(*contact)) return 0;
     AddTextElement(IX_STR_URI, contact->mUri);
     AddTextElement(IX_STR_DISPLAY_NAME, contact->mDisplayName);
-    if (AddChildList(contact->mUnknownParamList,
-                     IX_OLD_WRITER(ReginfoMarshaller, AddUnknownParamElementToXml, ix_unknown_param),
-                     kUnknownParamFailed) == 0 ||
-        AddChildList(contact->mAnyElementList, IX_OLD_WRITER(ReginfoMarshaller, AddAnyElementToXml, XMLElement)) == 0) {
+    if (!AddChildren<&ReginfoMarshaller::AddUnknownParamElementToXml>(
+            contact->mUnknownParamList, {4, "<XML Module>: AddUnknownParamElementToXml Failed"})) {
         return 0;
     }
+    for (auto* const element : XmlEntries<XMLElement>(contact->mAnyElementList)) AddAnyElementToXml(element);
     EndElement(IX_STR_CONTACT);
     return 1;
 }
 
-int ReginfoMarshaller::AddContactAttributes(const ix_ns_reginfo_contact& contact) {
-    const char* const state = kContactState.TextOf(contact.mState);
-    if (state == nullptr) return Fail(kContactNoState);
-    AddAttribute(IX_STR_STATE, state, Attribute::Open);
-    const char* const event = kContactEvent.TextOf(contact.mEvent);
-    if (event == nullptr) return Fail(kContactNoEvent);
-    AddAttribute(IX_STR_EVENT, event, Attribute::Open);
-    AddNumber(IX_STR_DURATION_REGISTERED, contact.mDurationRegistered);
-    AddNumber(IX_STR_EXPIRES, contact.mExpires);
-    AddNumber(IX_STR_RETRY_AFTER, contact.mRetryAfter);
-    if (contact.mQ != nullptr) AddAttribute(IX_STR_Q, contact.mQ, Attribute::Open);
-    if (contact.mCallid != nullptr) AddAttribute(IX_STR_CALLID, contact.mCallid, Attribute::Open);
-    AddNumber(IX_STR_CSEQ, contact.mCseq);
-    if (contact.mId == nullptr) return Fail(kContactNoId);
-    AddAttribute(IX_STR_ID, contact.mId, Attribute::Closing);
+int ReginfoMarshaller::AddContactStartTag(const ix_ns_reginfo_contact& contact) {
+    XmlStartTag tag(*this, IX_STR_CONTACT);
+    const char* const state = kContactStates.TextOf(contact.mState);
+    if (state == nullptr) return Fail({1, "<XML Module>: AddReginfoContactElementToXml state is required"});
+    tag.Add(IX_STR_STATE, state);
+    const char* const event = kContactEvents.TextOf(contact.mEvent);
+    if (event == nullptr) return Fail({1, "<XML Module>: AddReginfoContactElementToXml event is required"});
+    tag.Add(IX_STR_EVENT, event);
+    if (contact.mDurationRegistered != 0) tag.AddDecimal(IX_STR_DURATION_REGISTERED, contact.mDurationRegistered);
+    if (contact.mExpires != 0) tag.AddDecimal(IX_STR_EXPIRES, contact.mExpires);
+    if (contact.mRetryAfter != 0) tag.AddDecimal(IX_STR_RETRY_AFTER, contact.mRetryAfter);
+    tag.Add(IX_STR_Q, contact.mQ);
+    tag.Add(IX_STR_CALLID, contact.mCallid);
+    if (contact.mCseq != 0) tag.AddDecimal(IX_STR_CSEQ, contact.mCseq);
+    if (contact.mId == nullptr) return Fail({4, "<XML Module>: AddReginfoContactElementToXml id is required"});
+    tag.Add(IX_STR_ID, contact.mId);
+    tag.Close();
     return 1;
 }
 
-/// An attribute that is left out at 0.
-void ReginfoMarshaller::AddNumber(e_XmlStrRef name, std::int64_t value) {
-    if (value != 0) AddDecimalAttribute(name, value, Attribute::Open);
-}
-
 int ReginfoMarshaller::AddUnknownParamElementToXml(ix_unknown_param* param) {
-    if (param == nullptr) return 0;
-    StartElementOpen(IX_STR_UNKNOWN_PARAM);
-    if (param->mName == nullptr) return Fail(kUnknownParamNoName);
-    AddAttribute(IX_STR_NAME, param->mName, Attribute::Closing);
+    if (!Enter(param, {2, "<XML Module>: AddUnknownParamElementToXml"})) return 0;
+    XmlStartTag tag(*this, IX_STR_UNKNOWN_PARAM);
+    if (param->mName == nullptr) {
+        tag.LeaveOpen();
+        return Fail({4, "<XML Module>: AddUnknownParamElementToXml name is required"});
+    }
+    tag.Add(IX_STR_NAME, param->mName);
+    tag.Close();
     m_generator.ixXmlSetData(param->mValue);
     EndElement(IX_STR_UNKNOWN_PARAM);
     return 1;
 }
 
-/// An element of a contact that is none of its own.
-int ReginfoMarshaller::AddAnyElementToXml(XMLElement* element) {
+/// Writes an element of a contact that is of another schema, if it is a GRUU.
+void ReginfoMarshaller::AddAnyElementToXml(XMLElement* element) {
     // Required: a GRUU without URI does not fail its contact.
-    if (ixIs<ix_pub_gruu>(element)) {
-        AddPubGruuElementToXml(static_cast<ix_pub_gruu*>(element));
-    } else if (ixIs<ix_temp_gruu>(element)) {
-        AddTempGruuElementToXml(static_cast<ix_temp_gruu*>(element));
+    if (auto* const pub = ixAs<ix_pub_gruu>(element)) {
+        AddPubGruuElementToXml(pub);
+    } else if (auto* const temp = ixAs<ix_temp_gruu>(element)) {
+        AddTempGruuElementToXml(temp);
     } else {
-        ixLog(kSourceFile, kContactAny, element->ClassName());
+        // Required: an element that is not written is told in the name of the writer of parameters.
+        Log({2, "<XML Module>: AddUnknownParamElementToXml cannot accommodate any element classname: %s"},
+            element != nullptr ? element->ClassName() : nullptr);
     }
-    return 1;
 }
 
 int ReginfoMarshaller::AddPubGruuElementToXml(ix_pub_gruu* gruu) {
-    if (gruu == nullptr) return 0;
-    StartGruu(IX_STR_PUB_GRUU);
-    return AddGruuUri(*gruu, kPubGruuNoUri);
+    if (!Enter(gruu, {2, "<XML Module>: AddPubGruuElementToXml"})) return 0;
+    SetFixedElementPrefix(IX_STR_GR);
+    const bool written = ixWriteGruu(*this, *gruu);
+    ClearElementPrefix();
+    // Required: the start tag of a GRUU without URI stays as it is, unterminated.
+    return written ? 1 : Fail({3, "<XML Module>: AddPubGruuElementToXml: Uri is a mandatory attribute"});
 }
 
 int ReginfoMarshaller::AddTempGruuElementToXml(ix_temp_gruu* gruu) {
-    if (gruu == nullptr) return 0;
-    StartGruu(IX_STR_TEMP_GRUU);
-    AddDecimalAttribute(IX_STR_FIRST_CSEQ, gruu->mFirstCseq, Attribute::Open);
-    return AddGruuUri(*gruu, kTempGruuNoUri);
-}
-
-void ReginfoMarshaller::StartGruu(e_XmlStrRef name) {
+    if (!Enter(gruu, {2, "<XML Module>: AddTempGruuElementToXml"})) return 0;
     SetFixedElementPrefix(IX_STR_GR);
-    StartElementOpen(name);
+    const bool written = ixWriteGruu(*this, *gruu, gruu->mFirstCseq);
     ClearElementPrefix();
+    return written ? 1 : Fail({3, "<XML Module>: AddTempGruuElementToXml: Uri is a mandatory attribute"});
 }
-
-/// The attribute that ends the element.
-int ReginfoMarshaller::AddGruuUri(const ix_gruuType& gruu, const XmlLogText& missing) {
-    // Required: the start tag of a GRUU without URI stays as it is, unterminated.
-    if (gruu.mUri == nullptr) return Fail(missing);
-    AddAttribute(IX_STR_URI, gruu.mUri, Attribute::SelfClosing);
-    return 1;
-}
-
-IX_OLD_FAMILY(ReginfoContext, ReginfoMarshaller, ReginfoUnMarshaller, ReginfoDataBinder);

@@ -1,142 +1,91 @@
 #include "XMLRlsServices.h"
 
-#include <iterator>
-
 #include "RlsServices.h"
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLRlsServices";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
-    IX_OLD_UNMARSHALLER_INFO(XMLRlsServicesDecoder, "RlsServicesUnMarshaller");
-
-constexpr XmlOldWriterRow kWriters[] = {
-    {IX_OLD_WRITER_OF(RlsServicesMarshaller, AddRlsServicesElementToXml, ix_rls_services)},
-};
-
-constexpr XmlOldMarshallerInfo MarshallerInfo() {
-    XmlOldMarshallerInfo info = ixOldMarshallerInfo(kSourceFile, kWriters);
-    IX_OLD_MARSHALL_TEXTS(info, "RlsServicesMarshaller", "mRlsServicesXml");
-    return info;
-}
-constexpr XmlOldMarshallerInfo kMarshallerInfo = MarshallerInfo();
-
-constexpr XmlLogText kCannotAccommodate = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
-constexpr XmlLogText kAddRlsServices = {2, kSchemaCode, __LINE__, "<XML Module>: AddRlsServicesElementToXml"};
-constexpr XmlLogText kServiceFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddServiceElementToXml XML Failed!"};
-constexpr XmlLogText kAddService = {2, kSchemaCode, __LINE__, "<XML Module>: AddServiceElementToXml"};
-constexpr XmlLogText kNoUri = {4, kSchemaCode, __LINE__,
-                               "<XML Module>: AddServiceElementToXml Uri mandatory attribute"};
-constexpr XmlLogText kPackagesFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddPackagesElementToXml XML Failed!"};
-// Required: the packages are announced as a service.
-constexpr XmlLogText kAddPackages = {2, kSchemaCode, __LINE__, "<XML Module>: AddServiceElementToXml"};
-constexpr XmlLogText kPackageFailed = {2, kSchemaCode, __LINE__, "<XML Module>: AddPackageElementToXml XML Failed!"};
-constexpr XmlLogText kAddPackage = {2, kSchemaCode, __LINE__, "<XML Module>: AddPackageElementToXml"};
+using namespace XmlRow;
 
 constexpr XmlField kPackagesFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_PACKAGE, XmlListMember(&ix_ns_rls_services_packagesType::mPackageList)},
+    Children<&ix_ns_rls_services_packagesType::mPackageList, ix_ns_rls_services_packageType>(IX_STR_PACKAGE),
 };
-constexpr XmlFieldTable kPackagesTable = {nullptr, kPackagesFields, std::size(kPackagesFields)};
 
 constexpr XmlField kServiceFields[] = {
-    {XmlFieldKind::Text, IX_STR_RESOURCE_LIST, XmlTextMember(&ix_ns_rls_services_serviceType::mResourceList)},
-    {XmlFieldKind::Child, IX_STR_LIST, IX_CHILD_MEMBER(ix_ns_rls_services_serviceType, mList)},
-    {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_ns_rls_services_serviceType::mAnyAttribute), 0,
-     nullptr, "attributes"},
-    {XmlFieldKind::Child, IX_STR_PACKAGES, IX_CHILD_MEMBER(ix_ns_rls_services_serviceType, mPackages)},
-    {XmlFieldKind::Text, IX_STR_URI, XmlTextMember(&ix_ns_rls_services_serviceType::mUri)},
+    Attribute<&ix_ns_rls_services_serviceType::mUri>(IX_STR_URI),
+    Attributes<&ix_ns_rls_services_serviceType::mAnyAttribute>(),
+    Element<&ix_ns_rls_services_serviceType::mResourceList>(IX_STR_RESOURCE_LIST),
+    Child<&ix_ns_rls_services_serviceType::mList>(IX_STR_LIST),
+    Child<&ix_ns_rls_services_serviceType::mPackages>(IX_STR_PACKAGES),
 };
-constexpr XmlFieldTable kServiceTable = {nullptr, kServiceFields, std::size(kServiceFields)};
 
 constexpr XmlField kRlsServicesFields[] = {
-    {XmlFieldKind::ChildList, IX_STR_SERVICE, XmlListMember(&ix_rls_services::mServiceList)},
+    Children<&ix_rls_services::mServiceList, ix_ns_rls_services_serviceType>(IX_STR_SERVICE),
 };
-constexpr XmlFieldTable kRlsServicesTable = {nullptr, kRlsServicesFields, std::size(kRlsServicesFields)};
+
+/// An object in a package belongs to no tree, but it takes what stands in it, so that the package does not get that.
+constexpr XmlAnswers PackageAnswers() {
+    XmlAnswers answers;
+    answers.object = 1;
+    return answers;
+}
+
+constexpr XmlAnswers ServiceAnswers() {
+    XmlAnswers answers;
+    answers.object = 1;
+    answers.startsAreUnknown = true;
+    answers.missingIsUnknown = true;
+    answers.unknown = {2, "Cannot accommodate the element %s with value %s"};
+    answers.unknownObject = answers.unknown;
+    return answers;
+}
+
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLRlsServicesDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in RlsServicesUnMarshaller::UnMarshall"});
+
+constexpr XmlWriterRow kWriters[] = {
+    ixWriter<&RlsServicesMarshaller::AddRlsServicesElementToXml>(),
+};
+constexpr XmlMarshallerInfo kMarshallerInfo =
+    ixMarshallerInfo(kSource, kWriters, IX_MARSHALL_TEXTS("RlsServicesMarshaller", "mRlsServicesXml"));
 
 }  // namespace
 
-int ix_ns_rls_services_packageType::ProcessUnMarshall(char* name, char* text, XMLElement* /*child*/) {
-    return ixEndNameIs(name, IX_STR_PACKAGE) ? setValueValue(text) : 1;
-}
+constexpr XmlClass ix_ns_rls_services_packageType::kClass = ixDerived(
+    ixClass<ix_ns_rls_services_packageType>("ix_ns_rls_services_packageType", "packageType", kSource, PackageAnswers())
+        .Of(IX_STR_PACKAGE),
+    ix_string::kClass);
+constexpr XmlClass ix_ns_rls_services_packagesType::kClass = ixClass<ix_ns_rls_services_packagesType>(
+    "ix_ns_rls_services_packagesType", "packagesType", kSource, kPackagesFields);
+constexpr XmlClass ix_ns_rls_services_serviceType::kClass = ixClass<ix_ns_rls_services_serviceType>(
+    "ix_ns_rls_services_serviceType", "serviceType", kSource, kServiceFields, ServiceAnswers());
+constexpr XmlClass ix_rls_services::kClass =
+    ixClass<ix_rls_services>("ix_rls_services", "rls-services", kSource, kRlsServicesFields);
 
-ix_ns_rls_services_packagesType::~ix_ns_rls_services_packagesType() { XmlFields::Release(this, kPackagesTable); }
-
-const XmlFieldTable* ix_ns_rls_services_packagesType::FieldTable() const { return &kPackagesTable; }
-
-int ix_ns_rls_services_packagesType::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (child == nullptr) return 1;
-    return ixNameIs(name, IX_STR_PACKAGE)
-               ? ixTakeInto<ix_ns_rls_services_packageType>(mPackageList, child, kSourceFile, __LINE__)
-               : 0;
-}
-
-int ix_ns_rls_services_packagesType::addPackage(ix_ns_rls_services_packageType* package) {
-    return package != nullptr ? ixAppend(mPackageList, package, kSourceFile, __LINE__) : 0;
-}
-
-ix_ns_rls_services_serviceType::~ix_ns_rls_services_serviceType() { XmlFields::Release(this, kServiceTable); }
-
-const XmlFieldTable* ix_ns_rls_services_serviceType::FieldTable() const { return &kServiceTable; }
-
-int ix_ns_rls_services_serviceType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (child == nullptr && ixEndNameIs(name, IX_STR_RESOURCE_LIST)) return setResourceListValue(text);
-    if (child != nullptr && ixNameIs(name, IX_STR_LIST)) return ixTakeChild(mList, child);
-    if (child != nullptr && ixNameIs(name, IX_STR_PACKAGES)) return ixTakeChild(mPackages, child);
-    ixLog(kSourceFile, kCannotAccommodate, name, text);
-    return 1;
-}
-
-int ix_ns_rls_services_serviceType::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* pair) {
-    if (pair == nullptr && ixNameIs(attribute, IX_STR_URI)) return setUriValue(value);
-    return addAnyAttribute(ixAsPair(pair));
-}
-
-int ix_ns_rls_services_serviceType::addAnyAttribute(ix_AttributeValuePair* pair) {
-    return pair != nullptr ? ixAppend(mAnyAttribute, pair, kSourceFile, __LINE__) : 0;
-}
-
-ix_rls_services::~ix_rls_services() { XmlFields::Release(this, kRlsServicesTable); }
-
-const XmlFieldTable* ix_rls_services::FieldTable() const { return &kRlsServicesTable; }
-
-int ix_rls_services::ProcessUnMarshall(char* name, char* /*text*/, XMLElement* child) {
-    if (child == nullptr) return 1;
-    return ixNameIs(name, IX_STR_SERVICE)
-               ? ixTakeInto<ix_ns_rls_services_serviceType>(mServiceList, child, kSourceFile, __LINE__)
-               : 0;
-}
-
-int ix_rls_services::addService(ix_ns_rls_services_serviceType* service) {
-    return service != nullptr ? ixAppend(mServiceList, service, kSourceFile, __LINE__) : 0;
-}
-
-XMLElement* RlsServicesDataBinder::CreateRootElement() { return IX_NEW(ix_rls_services); }
-
+XMLElement* RlsServicesDataBinder::CreateRootElement() { return ixNew<ix_rls_services>(kSource); }
 ix_ns_rls_services_serviceType* RlsServicesDataBinder::CreateServiceElement() {
-    return IX_NEW(ix_ns_rls_services_serviceType);
+    return ixNew<ix_ns_rls_services_serviceType>(kSource);
 }
-
 ix_ns_rls_services_packagesType* RlsServicesDataBinder::CreatePackagesElement() {
-    return IX_NEW(ix_ns_rls_services_packagesType);
+    return ixNew<ix_ns_rls_services_packagesType>(kSource);
 }
-
 ix_ns_rls_services_packageType* RlsServicesDataBinder::CreatePackageElement() {
-    return IX_NEW(ix_ns_rls_services_packageType);
+    return ixNew<ix_ns_rls_services_packageType>(kSource);
 }
 
-RlsServicesMarshaller::RlsServicesMarshaller() : XmlOldFamilyMarshaller(kMarshallerInfo) {}
+RlsServicesUnMarshaller::RlsServicesUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
+
+RlsServicesMarshaller::RlsServicesMarshaller() : XmlFamilyMarshaller(kMarshallerInfo) {}
+
+RlsServicesContext::RlsServicesContext()
+    : XmlFamilyContext(ixFamily<RlsServicesMarshaller, RlsServicesUnMarshaller, RlsServicesDataBinder>(kSource)) {}
 
 int RlsServicesMarshaller::AddRlsServicesElementToXml(ix_rls_services* services) {
-    ixLog(kSourceFile, kAddRlsServices);
-    if (services == nullptr) return 0;
-    StartElementOpen(IX_STR_RLS_SERVICES);
-    AddAttribute(IX_STR_XMLNS,
-                 ix_xml_common_array_definition::getStringName(IX_STR_URN_IETF_PARAMS_XML_NS_RLS_SERVICES),
-                 Attribute::Closing);
-    if (AddChildList(services->mServiceList,
-                     IX_OLD_WRITER(RlsServicesMarshaller, AddServiceElementToXml, ix_ns_rls_services_serviceType),
-                     kServiceFailed) == 0) {
+    if (!Enter(services, {2, "<XML Module>: AddRlsServicesElementToXml"})) return 0;
+    XmlStartTag tag(*this, IX_STR_RLS_SERVICES);
+    tag.Add(IX_STR_XMLNS, IX_STR_URN_IETF_PARAMS_XML_NS_RLS_SERVICES);
+    tag.Close();
+    if (!AddChildren<&RlsServicesMarshaller::AddServiceElementToXml>(
+            services->mServiceList, {2, "<XML Module>: AddServiceElementToXml XML Failed!"})) {
         return 0;
     }
     EndElement(IX_STR_RLS_SERVICES);
@@ -144,31 +93,30 @@ int RlsServicesMarshaller::AddRlsServicesElementToXml(ix_rls_services* services)
 }
 
 int RlsServicesMarshaller::AddServiceElementToXml(ix_ns_rls_services_serviceType* service) {
-    ixLog(kSourceFile, kAddService);
-    if (service == nullptr) return 0;
-    StartElementOpen(IX_STR_SERVICE);
-    AddAttributeList(service->mAnyAttribute);
+    if (!Enter(service, {2, "<XML Module>: AddServiceElementToXml"})) return 0;
+    XmlStartTag tag(*this, IX_STR_SERVICE);
+    tag.AddAll(service->mAnyAttribute);
     if (service->mUri == nullptr) {
-        ixLog(kSourceFile, kNoUri);
-        return 0;
+        tag.LeaveOpen();
+        return Fail({4, "<XML Module>: AddServiceElementToXml Uri mandatory attribute"});
     }
-    AddAttribute(IX_STR_URI, service->mUri, Attribute::Closing);
+    tag.Add(IX_STR_URI, service->mUri);
+    tag.Close();
     AddTextElement(IX_STR_RESOURCE_LIST, service->mResourceList);
     // Required: the service's own list is not written, and that is no failure.
     if (service->mPackages != nullptr && AddPackagesElementToXml(service->mPackages) == 0) {
-        return ReleaseAndFail(kPackagesFailed);
+        return ReleaseAndFail({2, "<XML Module>: AddPackagesElementToXml XML Failed!"});
     }
     EndElement(IX_STR_SERVICE);
     return 1;
 }
 
 int RlsServicesMarshaller::AddPackagesElementToXml(ix_ns_rls_services_packagesType* packages) {
-    ixLog(kSourceFile, kAddPackages);
-    if (packages == nullptr) return 0;
+    // Required: the packages are announced as a service.
+    if (!Enter(packages, {2, "<XML Module>: AddServiceElementToXml"})) return 0;
     StartElement(IX_STR_PACKAGES);
-    if (AddChildList(packages->mPackageList,
-                     IX_OLD_WRITER(RlsServicesMarshaller, AddPackageElementToXml, ix_ns_rls_services_packageType),
-                     kPackageFailed) == 0) {
+    if (!AddChildren<&RlsServicesMarshaller::AddPackageElementToXml>(
+            packages->mPackageList, {2, "<XML Module>: AddPackageElementToXml XML Failed!"})) {
         return 0;
     }
     EndElement(IX_STR_PACKAGES);
@@ -176,10 +124,7 @@ int RlsServicesMarshaller::AddPackagesElementToXml(ix_ns_rls_services_packagesTy
 }
 
 int RlsServicesMarshaller::AddPackageElementToXml(ix_ns_rls_services_packageType* package) {
-    ixLog(kSourceFile, kAddPackage);
-    if (package == nullptr) return 0;
+    if (!Enter(package, {2, "<XML Module>: AddPackageElementToXml"})) return 0;
     AddTextOrEmptyElement(IX_STR_PACKAGE, package->mValue);
     return 1;
 }
-
-IX_OLD_FAMILY(RlsServicesContext, RlsServicesMarshaller, RlsServicesUnMarshaller, RlsServicesDataBinder);

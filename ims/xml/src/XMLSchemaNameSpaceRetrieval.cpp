@@ -13,9 +13,10 @@ constexpr XmlField kFields[] = {
 
 }  // namespace
 
-constexpr XmlClass ix_schema_namespace_retrieval::kClass = ixDerived(
-    ixClass<ix_schema_namespace_retrieval>("ix_schema_namespace_retrieval", "SchemaNamespaceRetrieval", kSource, kFields),
-    XmlNamespaceBinder::kClass);
+constexpr XmlClass ix_schema_namespace_retrieval::kClass =
+    ixDerived(ixClass<ix_schema_namespace_retrieval>("ix_schema_namespace_retrieval", "SchemaNamespaceRetrieval",
+                                                     kSource, kFields),
+              XmlNamespaceBinder::kClass);
 
 // Required: every name that begins like a declaration is one, and no object is taken.
 int ix_schema_namespace_retrieval::ProcessUnMarshallAttribute(char* attribute, char* value, XMLAttribute* /*pair*/) {
@@ -24,8 +25,9 @@ int ix_schema_namespace_retrieval::ProcessUnMarshallAttribute(char* attribute, c
     ix_AttributeValuePair* const declaration = ixCreatePair(colon != nullptr ? colon + 1 : nullptr, value, kSource);
     if (declaration != nullptr && addNameSpaceInfo(declaration) != 0) return 1;
     ixDelete(declaration);
-    ixLog(kSource, {3, "<XML Module>: ix_schema_namespace_retrieval::ProcessUnMarshallAttribute: "
-                       "cannot allocate memory to pXMLNSValuePair "});
+    ixLog(kSource, {3,
+                    "<XML Module>: ix_schema_namespace_retrieval::ProcessUnMarshallAttribute: "
+                    "cannot allocate memory to pXMLNSValuePair "});
     return 0;
 }
 
@@ -51,5 +53,5 @@ SchemaNamespaceRetrievalUnMarshaller::SchemaNamespaceRetrievalUnMarshaller()
     : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
 
 SchemaNamespaceRetrievalContext::SchemaNamespaceRetrievalContext()
-    : XmlFamilyContext(ixReadFamily<SchemaNamespaceRetrievalUnMarshaller, SchemaNamespaceRetrievalDataBinder>(kSource)) {
-}
+    : XmlFamilyContext(
+          ixReadFamily<SchemaNamespaceRetrievalUnMarshaller, SchemaNamespaceRetrievalDataBinder>(kSource)) {}

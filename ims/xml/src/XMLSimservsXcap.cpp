@@ -2,24 +2,95 @@
 
 #include <iterator>
 
-#include "XmlElementSupport.h"
+#include "XmlFields.h"
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLSimservsXcap";
-
-constexpr XmlLogText kNoPlace = {2, kSchemaCode, __LINE__, "Cannot accommodate the element %s with value %s"};
+using namespace XmlRow;
 
 constexpr XmlField kSimservFields[] = {
-    {XmlFieldKind::Flag, IX_STR_ACTIVE, XmlIntMember(&ix_ns_xcap_simservType::mActive), kXmlAlwaysSet},
-    {XmlFieldKind::AttributeList, IX_STR_IX_NULL, XmlListMember(&ix_ns_xcap_simservType::mExtensionList), 0, nullptr,
-     "attributes"},
-    {XmlFieldKind::ChildList, IX_STR_IX_NULL, XmlListMember(&ix_ns_xcap_simservType::mAnyList), 0, nullptr, "any"},
+    Attribute<&ix_ns_xcap_simservType::mActive>(IX_STR_ACTIVE, XmlFlag::TrueOrFalse).Always(),
+    Attributes<&ix_ns_xcap_simservType::mExtensionList>(),
+    Others<&ix_ns_xcap_simservType::mAnyList>(),
 };
+
+constexpr XmlField kMediaFields[] = {
+    OwnText<&ix_ns_xcap_media_type::mMedia>().LeavesEarlier(),
+};
+
+constexpr XmlField kPresenceStatusFields[] = {
+    OwnText<&ix_presence_status_activity_type::mPresenceStatus>().LeavesEarlier(),
+};
+
+constexpr XmlField kExternalListFields[] = {
+    OwnText<&ix_external_list::mExternalList>().LeavesEarlier(),
+};
+
+constexpr char kRevealTexts[][100] = {"false", "not-reveal-GRUU", "true"};
+constexpr XmlEnumeration kReveal = {kRevealTexts[0], sizeof kRevealTexts[0], int{std::size(kRevealTexts)}, true};
+static_assert(kReveal.count == ix_ns_xcap_forward_to_type::kRevealNotSet, "not set is past the last text");
+
+constexpr XmlField kForwardToFields[] = {
+    Element<&ix_ns_xcap_forward_to_type::mTarget>(IX_STR_TARGET),
+    Element<&ix_ns_xcap_forward_to_type::mNotifyCaller>(IX_STR_NOTIFY_CALLER, XmlFlag::TrueOrFalse)
+        .NotSet(ix_ns_xcap_forward_to_type::kNotifyNotSet),
+    Element<&ix_ns_xcap_forward_to_type::mRevealIdentityToCaller>(IX_STR_REVEAL_IDENTITY_TO_CALLER, kReveal),
+    Element<&ix_ns_xcap_forward_to_type::mRevealServedUserIdentityToCaller>(
+        IX_STR_REVEAL_SERVED_USER_IDENTITY_TO_CALLER, kReveal),
+    Element<&ix_ns_xcap_forward_to_type::mNotifyServedUser>(IX_STR_NOTIFY_SERVED_USER, XmlFlag::TrueOrFalse)
+        .NotSet(ix_ns_xcap_forward_to_type::kNotifyNotSet),
+    Element<&ix_ns_xcap_forward_to_type::mNotifyServedUserOnOutboundCall>(IX_STR_NOTIFY_SERVED_USER_ON_OUTBOUND_CALL,
+                                                                          XmlFlag::TrueOrFalse)
+        .NotSet(ix_ns_xcap_forward_to_type::kNotifyNotSet),
+    Element<&ix_ns_xcap_forward_to_type::mRevealIdentityToTarget>(IX_STR_REVEAL_IDENTITY_TO_TARGET, kReveal),
+};
+
+constexpr XmlAnswers SimservAnswers() {
+    XmlAnswers answers;
+    answers.needsName = true;
+    answers.unknown = {2, "Cannot accommodate the element %s with value %s"};
+    return answers;
+}
+
+/// A target refuses what it has no place for.
+constexpr XmlAnswers ForwardToAnswers() {
+    XmlAnswers answers;
+    answers.event = 0;
+    return answers;
+}
 
 }  // namespace
 
-const XmlFieldTable kSimservTable = {nullptr, kSimservFields, std::size(kSimservFields)};
+constexpr XmlClass ix_ns_xcap_simservType::kClass =
+    ixClass<ix_ns_xcap_simservType>("ix_ns_xcap_simservType", "simservType", kSource, kSimservFields, SimservAnswers());
+constexpr XmlClass ix_ns_xcap_media_type::kClass =
+    ixClass<ix_ns_xcap_media_type>("ix_ns_xcap_media_type", "MediaType", kSource, kMediaFields, ixIgnoring())
+        .Of(IX_STR_MEDIA);
+constexpr XmlClass ix_presence_status_activity_type::kClass =
+    ixClass<ix_presence_status_activity_type>("ix_presence_status_activity_type", "PresenceStatusActivityType", kSource,
+                                              kPresenceStatusFields, ixIgnoring())
+        .Of(IX_STR_PRESENCE_STATUS);
+constexpr XmlClass ix_external_list::kClass =
+    ixClass<ix_external_list>("ix_external_list", "ExternalList", kSource, kExternalListFields);
+constexpr XmlClass ix_ns_xcap_forward_to_type::kClass =
+    ixClass<ix_ns_xcap_forward_to_type>("ix_ns_xcap_forward_to_type", "CommunicationDiversion:ForwardToType", kSource,
+                                        kForwardToFields, ForwardToAnswers());
+
+int ix_ns_xcap_simservType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
+    // Required: as an element, the switch is set under its bare name, though texts come with end tags.
+    const bool isSwitch = m_pClass == &kClass && ixNameIs(name, IX_STR_ACTIVE);
+    if (!isSwitch) return XmlDescribedObject::ProcessUnMarshall(name, text, child);
+    return child == nullptr ? XmlDescribedObject::ProcessUnMarshallAttribute(name, text, nullptr) : 0;
+}
+
+// Services with rows of their own have none for this list, so it is deleted without one.
+int ix_ns_xcap_simservType::setAnyListValue(IxSingleElementList* list) {
+    if (mAnyList != list) ix_xml_common_methods::DeleteElementList(mAnyList);
+    mAnyList = list;
+    return 1;
+}
+
+const char* ix_ns_xcap_forward_to_type::RevealText(int value) { return kReveal.TextOf(value); }
 
 const XmlNamespaceRow kSimservsNamespaces[kSimservsNamespaceCount] = {
     {IX_STR_SS, IX_STR_SS, IX_STR_HTTP_URI_ETSI_ORG_NGN_PARAMS_XML_SIMSERVS_XCAP},
@@ -27,48 +98,22 @@ const XmlNamespaceRow kSimservsNamespaces[kSimservsNamespaceCount] = {
     {IX_STR_OCP, IX_STR_OCP, IX_STR_URN_OMA_XML_XDM_COMMON_POLICY},
 };
 
-ix_ns_xcap_simservType::~ix_ns_xcap_simservType() { XmlFields::Release(this, kSimservTable); }
-
-const XmlFieldTable* ix_ns_xcap_simservType::FieldTable() const { return &kSimservTable; }
-
-int ix_ns_xcap_simservType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
-    if (name == nullptr) return 1;
-    if (ixNameIs(name, IX_STR_ACTIVE)) {
-        if (child != nullptr) return 0;
-        if (ixNameIs(text, IX_STR_TRUE)) setActiveValue(1);
-        if (ixNameIs(text, IX_STR_FALSE)) setActiveValue(0);
-        return 1;
-    }
-    if (child != nullptr) return ixAppend(mAnyList, child, SourceFile(), ExtensionListLine());
-    ixLog(kSourceFile, kNoPlace, name, text);
-    return 1;
-}
-
-int ix_ns_xcap_simservType::setActiveValue(int active) {
-    mActive = active;
-    return 1;
-}
-
-int ix_ns_xcap_simservType::setExtensionListValue(IxSingleElementList* list) {
-    return ixSetAttributeList(mExtensionList, list);
-}
-
-int ix_ns_xcap_simservType::addExtension(ix_AttributeValuePair* pair) {
-    return ixAppend(mExtensionList, pair, SourceFile(), ExtensionListLine());
-}
-
-int ix_ns_xcap_simservType::TakeExtension(const char* attribute, XMLAttribute* pair) {
-    if (ixNameIs(attribute, IX_STR_ACTIVE)) return 0;
-    ix_AttributeValuePair* const extension = ixAsPair(pair);
-    if (extension != nullptr) addExtension(extension);
-    return 1;
-}
-
-void XmlServiceMarshaller::AddServiceStart(e_XmlStrRef name, const ix_ns_xcap_simservType& service, Attribute end) {
+void XmlServiceMarshaller::AddServiceStart(e_XmlStrRef name, const ix_ns_xcap_simservType& service, bool isEmpty) {
     SetElementPrefix(IX_STR_SS);
-    StartElementOpen(name);
+    XmlStartTag tag(*this, name);
+    tag.AddAll(service.mExtensionList);
+    tag.Add(IX_STR_ACTIVE, service.mActive != 0 ? IX_STR_TRUE : IX_STR_FALSE);
+    if (isEmpty) {
+        tag.SelfClose();
+    } else {
+        tag.Close();
+    }
     ClearElementPrefix();
-    AddAttributeList(service.mExtensionList);
-    AddAttribute(IX_STR_ACTIVE,
-                 ix_xml_common_array_definition::getStringName(service.mActive != 0 ? IX_STR_TRUE : IX_STR_FALSE), end);
+}
+
+int XmlServiceMarshaller::AddSwitch(const XmlLogText& entered, e_XmlStrRef name,
+                                    const ix_ns_xcap_simservType* service) {
+    if (!Enter(service, entered)) return 0;
+    AddServiceStart(name, *service, true);
+    return 1;
 }

@@ -4,13 +4,18 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLVolteConfigInfo";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
-    IX_OLD_UNMARSHALLER_INFO(XMLVolteConfigInfoDecoder, "VolteConfigInfoUnMarshaller");
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLVolteConfigInfoDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in VolteConfigInfoUnMarshaller::UnMarshall"});
 
 }  // namespace
 
-XMLElement* VolteConfigInfoDataBinder::CreateRootElement() { return IX_NEW(ix_volte_config_info); }
+constexpr XmlClass ix_volte_config_info::kClass =
+    ixDerived(ixClass<ix_volte_config_info>("ix_volte_config_info", "VolteConfigInfo", kSource, ixIgnoring()),
+              ix_characteristicDocType::kClass);
 
-IX_OLD_READING_FAMILY(VolteConfigInfoContext, VolteConfigInfoUnMarshaller, VolteConfigInfoDataBinder);
+XMLElement* VolteConfigInfoDataBinder::CreateRootElement() { return ixNew<ix_volte_config_info>(kSource); }
+
+VolteConfigInfoUnMarshaller::VolteConfigInfoUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
+
+VolteConfigInfoContext::VolteConfigInfoContext()
+    : XmlFamilyContext(ixReadFamily<VolteConfigInfoUnMarshaller, VolteConfigInfoDataBinder>(kSource)) {}

@@ -4,13 +4,18 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XMLWapProvisioningDoc";
-
-constexpr XmlOldUnMarshallerInfo kUnMarshallerInfo =
-    IX_OLD_UNMARSHALLER_INFO(XMLWapProvisioningDocDecoder, "WapProvisioningDocUnMarshaller");
+constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLWapProvisioningDocDecoder>(
+    kSource, {4, "<XML Module>: StrDup failed in WapProvisioningDocUnMarshaller::UnMarshall"});
 
 }  // namespace
 
-XMLElement* WapProvisioningDocDataBinder::CreateRootElement() { return IX_NEW(ix_wap_provisioning_doc); }
+constexpr XmlClass ix_wap_provisioning_doc::kClass =
+    ixDerived(ixClass<ix_wap_provisioning_doc>("ix_wap_provisioning_doc", "WapProvisioningDoc", kSource, ixIgnoring()),
+              ix_characteristicDocType::kClass);
 
-IX_OLD_READING_FAMILY(WapProvisioningDocContext, WapProvisioningDocUnMarshaller, WapProvisioningDocDataBinder);
+XMLElement* WapProvisioningDocDataBinder::CreateRootElement() { return ixNew<ix_wap_provisioning_doc>(kSource); }
+
+WapProvisioningDocUnMarshaller::WapProvisioningDocUnMarshaller() : XmlFamilyUnMarshaller(kUnMarshallerInfo) {}
+
+WapProvisioningDocContext::WapProvisioningDocContext()
+    : XmlFamilyContext(ixReadFamily<WapProvisioningDocUnMarshaller, WapProvisioningDocDataBinder>(kSource)) {}

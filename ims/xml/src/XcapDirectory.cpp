@@ -4,31 +4,26 @@
 
 namespace {
 
-const char kSourceFile[] = "ims/xml/src/XcapDirectory";
+using namespace XmlContainer;
 
-constexpr XmlOldKnownName kFolder = {IX_STR_FOLDER};
-constexpr XmlOldKnownName kEntry = {IX_STR_ENTRY};
-
-constexpr XmlOldContainerRow kContainers[] = {
-    {{IX_STR_XCAP_DIRECTORY}, XmlOldContainerRow::Root, nullptr, IX_OLD_CREATOR(ix_xcap_directory)},
-    {kFolder, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_folder)},
-    {kEntry, XmlOldContainerRow::Child, IX_OLD_OBJECT(ix_entry)},
+constexpr XmlContainerRow kContainers[] = {
+    Root<ix_xcap_directory>(IX_STR_XCAP_DIRECTORY),
+    Child<ix_folder>(IX_STR_FOLDER),
+    Child<ix_entry>(IX_STR_ENTRY),
 };
 
-constexpr XmlOldAttributeRow kAttributes[] = {
-    {kFolder, IX_STR_AUID},         {kEntry, IX_STR_URI},  {kEntry, IX_STR_ETAG},
-    {kEntry, IX_STR_LAST_MODIFIED}, {kEntry, IX_STR_SIZE},
-};
-
-constexpr XmlOldDecoderInfo Info() {
-    XmlOldDecoderInfo info = ixOldDecoderInfo(kSourceFile, __LINE__, kContainers, kAttributes);
-    info.names = XmlOldNamePolicy::Stripped;
-    IX_OLD_DECODER_TEXTS(info.texts, "XMLXcapDirectoryDecoder", "m_strDup or m_PassName", "m_strDup");
-    info.texts.removeTagNoMemory = IX_OLD_REMOVE_TAG_TEXT("XMLXcapDirectoryDecoder");
+constexpr XmlDecoderInfo Info() {
+    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
+    info.names = XmlNamePolicy::Stripped;
+    info.texts.noElement = IX_NO_ELEMENT_TEXT("XMLXcapDirectoryDecoder");
+    info.texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLXcapDirectoryDecoder", "m_strDup or m_PassName");
+    info.texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLXcapDirectoryDecoder");
+    info.texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLXcapDirectoryDecoder", "m_strDup");
+    info.texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLXcapDirectoryDecoder");
     return info;
 }
-constexpr XmlOldDecoderInfo kInfo = Info();
+constexpr XmlDecoderInfo kInfo = Info();
 
 }  // namespace
 
-XMLXcapDirectoryDecoder::XMLXcapDirectoryDecoder() : XmlOldFamilyDecoder(kInfo) {}
+XMLXcapDirectoryDecoder::XMLXcapDirectoryDecoder() : XmlFamilyDecoder(kInfo) {}

@@ -66,8 +66,8 @@ int ixAddText(XMLElement& element, IxSingleElementList* const& field, const char
 
 constexpr XmlClass ix_string::kClass = ixClass<ix_string>("ix_string", "string_class", kSource, kStringFields);
 
-constexpr XmlClass ix_empty_element_type::kClass =
-    ixClass<ix_empty_element_type>("ix_empty_element_type", "empty_element", kSource, kEmptyElementFields);
+constexpr XmlClass ix_empty_element_type::kClass = ixClass<ix_empty_element_type>(
+    "ix_empty_element_type", "empty_element", kSource, kEmptyElementFields, ixIgnoring());
 
 ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line) {
     auto* const pair = ixNew<ix_AttributeValuePair>(source, line);

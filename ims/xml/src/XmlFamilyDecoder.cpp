@@ -223,8 +223,9 @@ int XmlFamilyDecoder::StartElement(const XmlTag& tag) {
     if (row == nullptr) return OtherElement(tag, nullptr);
     const bool isResult = IsResult(*row);
     if (!isResult && m_stack.empty()) return 0;
-    XMLElement* const object = row->make != nullptr ? row->make(local.text, m_info.source, row->line)
-                                                    : row->made->create(m_info.source, row->line);
+    const int line = row->line != 0 ? row->line : m_info.pairLine;
+    XMLElement* const object =
+        row->make != nullptr ? row->make(local.text, m_info.source, line) : row->made->create(m_info.source, line);
     if (object == nullptr) {
         ixLog(m_info.source, m_info.texts.noObject, tag.text);
         return 0;

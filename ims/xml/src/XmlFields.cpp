@@ -148,7 +148,7 @@ bool XmlFields::IsSet(const XMLElement& element, const XmlField& field) {
 
 const XmlField* XmlFields::Find(const XMLElement& element, const char* name) {
     if (name == nullptr) return nullptr;
-    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+    for (const XmlFieldTable* table = ixRowsOf(element); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             if (std::strcmp(table->fields[i].Name(), name) == 0) return &table->fields[i];
         }
@@ -157,7 +157,7 @@ const XmlField* XmlFields::Find(const XMLElement& element, const char* name) {
 }
 
 const XmlField* XmlFields::RowOf(const XMLElement& element, const IxSingleElementList* const& list) {
-    for (const XmlFieldTable* table = element.FieldTable(); table != nullptr; table = table->base) {
+    for (const XmlFieldTable* table = ixRowsOf(element); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& row = table->fields[i];
             const bool isList = row.kind == XmlFieldKind::ChildList || row.kind == XmlFieldKind::TextList ||
@@ -169,7 +169,7 @@ const XmlField* XmlFields::RowOf(const XMLElement& element, const IxSingleElemen
 }
 
 const char* XmlFields::SourceOf(const XMLElement& element, const XmlField& row) {
-    const XmlFieldTable* table = element.FieldTable();
+    const XmlFieldTable* table = ixRowsOf(element);
     while (table != nullptr && (&row < table->fields || &row >= table->fields + table->count)) table = table->base;
     return table != nullptr ? table->source : nullptr;
 }
@@ -211,7 +211,7 @@ void XmlFields::DeleteList(const XmlField& row, IxSingleElementList* list) {
 }
 
 bool XmlFields::HoldsChild(const XMLElement& element, const XMLElement* child) {
-    const XmlFieldTable* table = element.FieldTable();
+    const XmlFieldTable* table = ixRowsOf(element);
     if (table == nullptr) return true;
     for (; table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
@@ -226,7 +226,7 @@ bool XmlFields::HoldsChild(const XMLElement& element, const XMLElement* child) {
 }
 
 bool XmlFields::HoldsAttribute(const XMLElement& element, const XMLAttribute* pair) {
-    const XmlFieldTable* table = element.FieldTable();
+    const XmlFieldTable* table = ixRowsOf(element);
     if (table == nullptr) return true;
     for (; table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
@@ -238,7 +238,7 @@ bool XmlFields::HoldsAttribute(const XMLElement& element, const XMLAttribute* pa
 }
 
 void XmlFields::HandOverChildLists(XMLElement* element, IxSingleElementList& list) {
-    for (const XmlFieldTable* table = element->FieldTable(); table != nullptr; table = table->base) {
+    for (const XmlFieldTable* table = ixRowsOf(*element); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& field = table->fields[i];
             if (field.kind == XmlFieldKind::Child) {
@@ -253,8 +253,8 @@ void XmlFields::HandOverChildLists(XMLElement* element, IxSingleElementList& lis
 
 bool XmlFields::Equal(const XMLElement* left, const XMLElement* right) {
     if (left == nullptr || right == nullptr) return left == right;
-    if (!TextsEqual(left->ClassName(), right->ClassName()) || left->FieldTable() != right->FieldTable()) return false;
-    for (const XmlFieldTable* table = left->FieldTable(); table != nullptr; table = table->base) {
+    if (!TextsEqual(left->ClassName(), right->ClassName()) || ixRowsOf(*left) != ixRowsOf(*right)) return false;
+    for (const XmlFieldTable* table = ixRowsOf(*left); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             if (!FieldsEqual(*left, *right, table->fields[i])) return false;
         }

@@ -19,9 +19,13 @@ unsigned int ToUnsigned(const char* text, bool nearest) {
     return static_cast<unsigned int>(value);
 }
 
-void StoreFlag(int& field, XmlFlag reading, const char* text) {
+void StoreFlag(int& field, const XmlField& row, const char* text) {
     const bool isTrue = std::strcmp(text, "true") == 0;
-    if (reading == XmlFlag::TrueOrNot || isTrue || std::strcmp(text, "false") == 0) field = isTrue ? 1 : 0;
+    if (row.flag == XmlFlag::TrueOrNot || isTrue || std::strcmp(text, "false") == 0) {
+        field = isTrue ? 1 : 0;
+    } else if (row.flag == XmlFlag::TrueFalseOrUnset) {
+        field = static_cast<int>(row.notSet);
+    }
 }
 
 /// Stores the text of a field that is no list and no child. @return false without memory.
@@ -32,7 +36,7 @@ bool StoreValue(XMLElement& element, const XmlField& row, const char* text) {
             return (row.leavesEarlier ? ixOverwriteText(field, text) : ixSetText(field, text)) != 0;
         }
         case XmlFieldKind::Flag:
-            StoreFlag(element.*row.member.number, row.flag, text);
+            StoreFlag(element.*row.member.number, row, text);
             return true;
         case XmlFieldKind::Number:
             element.*row.member.number = __atoi(text);
@@ -84,9 +88,15 @@ XmlAnswer TakeText(XMLElement& element, const XmlField& row, const XmlTag& tag, 
 
 XmlAnswer TakeChild(XMLElement& element, const XmlClass& description, const XmlField& row, const XmlClass& expected,
                     XMLElement* child) {
-    if (child == nullptr) return XmlAnswer::Refused;
+    const XmlAnswers& answers = description.answers;
+    if (child == nullptr) {
+        ixLog(description.source, answers.noChild);
+        return XmlAnswer::Refused;
+    }
     if (!ixIsClass(child, expected)) {
-        return child->ClassName() == nullptr ? AnswerOf(description.answers.nameless) : XmlAnswer::Refused;
+        const char* const name = child->ClassName();
+        ixLog(description.source, name != nullptr ? answers.otherChild : answers.namelessChild, name);
+        return name == nullptr ? AnswerOf(answers.nameless) : XmlAnswer::Refused;
     }
     if (row.store == nullptr) return TakenIf(XmlHooks::Append(element, row, child));
     XMLElement* const earlier = row.member.child(element);
@@ -132,6 +142,8 @@ XmlTag::XmlTag(char* tag)
 XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, const XmlTag& tag, const char* text,
                           XMLElement* child) {
     ixLog(description.source, description.answers.entered);
+    if (tag.text == nullptr && description.answers.needsName) return XmlAnswer::Ignored;
+    const bool isMissing = child == nullptr && description.answers.missingIsUnknown;
     for (const XmlFieldTable* table = &description.table; table != nullptr && tag.name.IsKnown(); table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& row = table->fields[i];
@@ -146,11 +158,11 @@ XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, cons
                     return TakeText(element, row, tag, text, child);
                 case XmlRole::Child:
                 case XmlRole::Children:
-                    if (row.name != tag.name || tag.isEnd) break;
+                    if (row.name != tag.name || tag.isEnd || isMissing) break;
                     return TakeChild(element, description, row, *row.description, child);
                 case XmlRole::OneOf:
                 case XmlRole::Mixed: {
-                    const XmlClass* const expected = tag.isEnd ? nullptr : ClassNamed(row, tag.name);
+                    const XmlClass* const expected = tag.isEnd || isMissing ? nullptr : ClassNamed(row, tag.name);
                     if (expected == nullptr) break;
                     return TakeChild(element, description, row, *expected, child);
                 }
@@ -189,7 +201,8 @@ XmlAnswer XmlHooks::OfferAttribute(XMLElement& element, const XmlClass& descript
         ix_AttributeValuePair* const other = ixAsPair(pair);
         return TakenIf(other != nullptr && Append(element, *others, other));
     }
-    ixLog(description.source, answers.unknownAttribute, attribute);
+    const bool isNameless = attribute == nullptr && answers.noAttribute.format != nullptr;
+    ixLog(description.source, isNameless ? answers.noAttribute : answers.unknownAttribute, attribute);
     return AnswerOf(pair != nullptr ? answers.pair : answers.attribute);
 }
 

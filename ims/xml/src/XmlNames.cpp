@@ -5,8 +5,10 @@
 
 namespace {
 
-constexpr const char* kExtraNames[] = {"parm", "characteristic", "wap-provisioningdoc", "volte-config-info",
-                                       "processing-notification"};
+constexpr const char* kExtraNames[] = {
+    "parm",        "characteristic",        "wap-provisioningdoc",    "volte-config-info",  "processing-notification",
+    "willingness", "session-participation", "overriding-willingness", "registration-state", "barring-state",
+    "barring"};
 static_assert(sizeof kExtraNames / sizeof *kExtraNames == kXmlNameCount - kXmlStrRefCount, "a text for each number");
 
 constexpr std::size_t kSlots = 1024;
@@ -30,7 +32,8 @@ constexpr std::size_t SlotOf(const char* text, std::size_t length) {
 constexpr const char* kTexts[kXmlNameCount] = {
 #define IX_STRING(number, name, text) text,
 #include "XmlStringTable.inc"
-    kExtraNames[0], kExtraNames[1], kExtraNames[2], kExtraNames[3], kExtraNames[4],
+    kExtraNames[0], kExtraNames[1], kExtraNames[2], kExtraNames[3], kExtraNames[4],  kExtraNames[5],
+    kExtraNames[6], kExtraNames[7], kExtraNames[8], kExtraNames[9], kExtraNames[10],
 };
 
 /// Where each name is found: its number, and that of the next name with the same slot.
