@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <ostream>
+#include <set>
 
 std::ostream& operator<<(std::ostream& stream, const LogLine& line) {
     return stream << line.level << ' ' << line.code << ' ' << line.source << ':' << line.line << ' ' << line.text;
@@ -49,6 +50,16 @@ std::vector<LogLine> XmlTest::LogOf(const std::string& file) {
     return lines;
 }
 
+std::vector<LogLine> XmlTest::LogOfSchemas() {
+    static const std::set<std::string> others = {"ims/xml/src/XmlDecoder", "ims/xml/src/ixXMLDocGenerator",
+                                                 "ims/xml/src/XMLList", "ims/xml/src/XMLFile"};
+    std::vector<LogLine> lines = Log();
+    lines.erase(
+        std::remove_if(lines.begin(), lines.end(), [](const LogLine& line) { return others.count(line.source) != 0; }),
+        lines.end());
+    return lines;
+}
+
 std::vector<std::string> XmlTest::LevelsAndTexts(const std::vector<LogLine>& log) {
     std::vector<std::string> lines;
     for (const LogLine& line : log) lines.push_back(std::to_string(line.level) + ' ' + line.text);
@@ -75,6 +86,10 @@ bool XmlTest::Logged(const std::string& text) {
 void XmlTest::ClearLog() {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_log.clear();
+}
+
+void XmlTest::LogNowhere() {
+    ixDplHostSetLogSink([](const ixDplHostLogLine&, void*) {}, nullptr, kIxDplHostAllLevels);
 }
 
 void XmlTest::ExpectLeftBehind(std::size_t objects) {

@@ -40,6 +40,8 @@ class XmlTest : public testing::Test {
     std::vector<LogLine> Log();
     /// The lines of one source file, "XMLList" for example.
     std::vector<LogLine> LogOf(const std::string& file);
+    /// The lines of the schemas: without those of tokenizer, generator, lists and files, which have tests of their own.
+    std::vector<LogLine> LogOfSchemas();
     /// "level text" of each line.
     static std::vector<std::string> LevelsAndTexts(const std::vector<LogLine>& log);
     /// "level text" of each line of one source file since the last call; forgets all lines.
@@ -49,6 +51,8 @@ class XmlTest : public testing::Test {
     /// True when a line with exactly this text was logged.
     bool Logged(const std::string& text);
     void ClearLog();
+    /// From now on lines are made, but not kept: for what logs much.
+    static void LogNowhere();
 
     /// For an operation that leaves memory to nobody: checks that this many objects are alive, and frees everything.
     void ExpectLeftBehind(std::size_t objects);

@@ -53,6 +53,8 @@ class IX_XML_EXPORT ix_ns_xcap_simservType : public XmlDescribedObject {
 /// of attributes is registered under its own file; each class frees its own members all the same.
 constexpr XmlClass ixServiceClass(XmlClass description) {
     description.parent = &ix_ns_xcap_simservType::kClass;
+    // Required: an attribute that cannot be kept is no error.
+    description.answers.lostPair = 1;
     return description;
 }
 

@@ -186,6 +186,7 @@ struct XmlAnswers {
     int event = 1;                  ///< ... to a tag without an object ...
     int attribute = 1;              ///< ... to an attribute without a pair ...
     int pair = 1;                   ///< ... and to one with a pair.
+    int lostPair = 0;               ///< Answer to a pair that there is no memory to keep, or that is none.
     int nameless = 0;               ///< Answer to an object without a class name under the name of a child.
     bool needsName = false;         ///< A call without a name does nothing and answers 1.
     bool startsAreUnknown = false;  ///< The start tag of a text element is as unknown as any other.

@@ -14,25 +14,10 @@ constexpr XmlContainerRow kContainers[] = {
 };
 
 constexpr XmlDecoderInfo Info() {
-    XmlDecoderInfo info = ixDecoderInfo<kContainers>(kSource);
-    info.names = XmlNamePolicy::Mapped;
+    XmlDecoderInfo info = ixServiceDecoderInfo(
+        ixDecoderInfo<kContainers>(kSource),
+        IX_SERVICE_DECODER_TEXTS("XMLSimservsDecoder", "XMLSimservsDecoder", "m_strDup", "XMLSimservsDecoder"));
     info.attributes = XmlAttributePolicy::OwnNoPairs;
-    info.namespaces = kSimservsNamespaces;
-    info.namespaceCount = kSimservsNamespaceCount;
-    XmlDecoderTexts& texts = info.texts;
-    texts.noElement = IX_NO_ELEMENT_TEXT("XMLSimservsDecoder");
-    texts.noElementName = IX_NO_ELEMENT_NAME_TEXT("XMLSimservsDecoder", "m_strDup or m_PassName");
-    texts.noAttribute = IX_NO_ATTRIBUTE_TEXT("XMLSimservsDecoder");
-    texts.noAttributeName = IX_NO_ATTRIBUTE_NAME_TEXT("XMLSimservsDecoder", "m_strDup");
-    texts.noObject = {3, "<XML Module>: New Failed at element = \"%s\""};
-    texts.noFirstNamespace = {2, "XMLSimservsDecoder :: XMLSimservsDecoder: Malloc cannot allocate memory"};
-    texts.noNamespace = texts.noFirstNamespace;
-    texts.changeTagNoMemory = {2, kDecoderCode, __LINE__,
-                               "XMLSimservsDecoder :: XMLChangeNamespaceTag Malloc unable to allocate memory"};
-    texts.changeEndTagNoMemory = texts.changeTagNoMemory;
-    texts.mappedTagNoMemory = {2, kDecoderCode, __LINE__, "XmlDecoder:: m_strDup: Malloc unable to allocate memory"};
-    texts.mappedEndTagNoMemory = texts.mappedTagNoMemory;
-    texts.removeTagNoMemory = IX_REMOVE_TAG_TEXT("XMLSimservsDecoder");
     return info;
 }
 constexpr XmlDecoderInfo kInfo = Info();

@@ -199,7 +199,8 @@ XmlAnswer XmlHooks::OfferAttribute(XMLElement& element, const XmlClass& descript
     const XmlField* const others = pair != nullptr ? RowOfRole(description, XmlRole::Attributes) : nullptr;
     if (others != nullptr) {
         ix_AttributeValuePair* const other = ixAsPair(pair);
-        return TakenIf(other != nullptr && Append(element, *others, other));
+        const bool isKept = other != nullptr && Append(element, *others, other);
+        return isKept ? XmlAnswer::Taken : AnswerOf(answers.lostPair);
     }
     const bool isNameless = attribute == nullptr && answers.noAttribute.format != nullptr;
     ixLog(description.source, isNameless ? answers.noAttribute : answers.unknownAttribute, attribute);
