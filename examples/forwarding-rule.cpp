@@ -17,7 +17,7 @@ bool Taken(int result, XMLElement* child) {
 bool Declare(ix_communication_diversion& service, const char* attribute, const char* uri) {
     ix_AttributeValuePair* const pair = ixCreatePair(attribute, uri, "examples/forwarding-rule", __LINE__);
     if (pair == nullptr || service.addExtension(pair) != 0) return pair != nullptr;
-    IX_DELETE(pair);
+    ixDelete(pair);
     return false;
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "XMLReginfo.h"
+#include "XmlFields.h"
 
 namespace {
 

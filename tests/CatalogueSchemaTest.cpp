@@ -119,13 +119,14 @@ class CatalogueTest : public XmlTest {
 };
 
 TEST_F(CatalogueTest, ContainersAreFiledPushedAndPopped) {
-    const OwnedElement root(
+    const XmlOwned<> root(
         Decode("<folder auid=\"a\" size=\"12kB\" other=\"dropped\">"
                "<op:term><title>one</title><op:term><title>two</title></op:term><title>uno</title></op:term>"
                "<op:term><title>three</title></op:term></folder>"));
     ASSERT_NE(root.get(), nullptr);
-    EXPECT_EQ(root.as<ix_catalogue>()->mSize, 12);
-    const auto* const first = static_cast<ix_term*>(root.as<ix_catalogue>()->mTermList->GetKeyAtIndex(0));
+    EXPECT_EQ(static_cast<ix_catalogue*>(root.get())->mSize, 12);
+    const auto* const first =
+        static_cast<ix_term*>(static_cast<ix_catalogue*>(root.get())->mTermList->GetKeyAtIndex(0));
     EXPECT_STREQ(first->mTitle, "uno");
     CatalogueMarshaller writer;
     EXPECT_STREQ(writer.Marshall(root.get()),
@@ -147,18 +148,18 @@ TEST_F(CatalogueTest, AnAttributeBelongsToTheElementThatItNames) {
     decoder.ProcessAttribute(name, auid, value);
     std::strcpy(name, "other");
     decoder.ProcessAttribute(name, size, number);
-    const OwnedElement root(decoder.GetSessionData());
-    EXPECT_STREQ(root.as<ix_catalogue>()->mAuid, "a");
-    EXPECT_EQ(root.as<ix_catalogue>()->mSize, 0);
+    const XmlOwned<> root(decoder.GetSessionData());
+    EXPECT_STREQ(static_cast<ix_catalogue*>(root.get())->mAuid, "a");
+    EXPECT_EQ(static_cast<ix_catalogue*>(root.get())->mSize, 0);
 }
 
 TEST_F(CatalogueTest, WhatNobodyKeepsIsFreedWithTheDecoder) {
     // `term` without its prefix is none of the containers; `note` is one that the root takes and does not keep.
-    const OwnedElement root(
+    const XmlOwned<> root(
         Decode("<folder><term><title>x</title></term><note><op:term/><title>y</title></note>"
                "<note/><folder><note/></folder></folder>"));
     ASSERT_NE(root.get(), nullptr);
-    EXPECT_EQ(root.as<ix_catalogue>()->mTermList, nullptr);
+    EXPECT_EQ(static_cast<ix_catalogue*>(root.get())->mTermList, nullptr);
     EXPECT_EQ(ixDplHostLedger().liveObjects, 1U);
     EXPECT_EQ(Decode("<op:term/>"), nullptr);
 }
@@ -167,7 +168,7 @@ TEST_F(CatalogueTest, DocumentsDeeperThanTheStackAreReadAsFarAsItGoes) {
     std::string text = "<folder>";
     for (int i = 0; i < 150; ++i) text += "<op:term>";
     for (int i = 0; i < 150; ++i) text += "</op:term>";
-    const OwnedElement root(Decode(text + "</folder>"));
+    const XmlOwned<> root(Decode(text + "</folder>"));
     ASSERT_NE(root.get(), nullptr);
     EXPECT_TRUE(Logged("stack overflow\n"));
 }
@@ -177,12 +178,12 @@ TEST_F(CatalogueTest, ATextPastTheCapacityIsCutAndSaysSo) {
     const std::string frame = "<folder auid=\"\" size=\"0\"><op:term><title></title></op:term></folder>";
     const std::size_t at = frame.find("</title>");
     for (const std::size_t length : {30000U, 40000U}) {
-        const OwnedElement root(Decode(std::string(frame).insert(at, std::string(length, 'x'))));
+        const XmlOwned<> root(Decode(std::string(frame).insert(at, std::string(length, 'x'))));
         const char* const text = writer.Marshall(root.get());
         EXPECT_EQ(writer.IsTruncated(), length > 32767 ? 1 : 0);
         EXPECT_EQ(std::string(text).size() == 32767, length > 32767);
     }
-    const OwnedElement untitled(Decode("<folder><op:term><title/></op:term><op:term/></folder>"));
+    const XmlOwned<> untitled(Decode("<folder><op:term><title/></op:term><op:term/></folder>"));
     EXPECT_EQ(writer.Marshall(untitled.get()), nullptr);
     EXPECT_TRUE(Logged("<XML Module>: AddTermElementToXml: term 1 failed"));
 }

@@ -15,7 +15,7 @@ class FactoryTest : public XmlTest {};
 TEST_F(FactoryTest, KnowsEverySchemaAndAnswersNullForTheRest) {
     std::set<std::string> names;
     for (int id = -1; id <= kXmlSchemaCount; ++id) {
-        const OwnedContext context(static_cast<eXMLSchemaID>(id));
+        const XmlOwnedContext context(XMLFactory::newInstance(static_cast<eXMLSchemaID>(id)));
         const XmlSchemaInfo* const info = XMLFactory::SchemaInfo(id);
         const bool reserved = id < 0 || id == 6 || id == 8 || id >= kXmlSchemaCount;
         ASSERT_EQ(info == nullptr, reserved) << id;
@@ -29,7 +29,7 @@ TEST_F(FactoryTest, KnowsEverySchemaAndAnswersNullForTheRest) {
 
 TEST_F(FactoryTest, AContextDeletesWhatItCreatedButNoTree) {
     XMLContext* const context = XMLFactory::newInstance(IX_XML_SCHEMA_COMMUNICATION_WAITING);
-    const OwnedElement root(context->createBinderFactory()->CreateRootElement());
+    const XmlOwned<> root(context->createBinderFactory()->CreateRootElement());
     context->createMarshaller();
     context->createUnMarshaller();
     XMLFactory::deleteContext(context);
@@ -78,7 +78,7 @@ TEST_P(SchemaTest, HasThreeSamples) {
 
 TEST_P(SchemaTest, HasAContextWithItsParts) {
     const XmlSchemaInfo& schema = *XMLFactory::SchemaInfo(GetParam());
-    const OwnedContext context(GetParam());
+    const XmlOwnedContext context(XMLFactory::newInstance(GetParam()));
     ixDplHostFailAllocation(1, 3);
     EXPECT_EQ(context->createUnMarshaller(), nullptr);
     EXPECT_EQ(context->createMarshaller(), nullptr);
@@ -88,7 +88,7 @@ TEST_P(SchemaTest, HasAContextWithItsParts) {
     EXPECT_EQ(context->createUnMarshaller()->UnMarshall(static_cast<XMLFile*>(nullptr)), nullptr);
     EXPECT_EQ(context->createMarshaller() != nullptr, schema.writes);
     XMLObjectFactory* const factory = context->createBinderFactory();
-    const OwnedElement root(factory->CreateRootElement());
+    const XmlOwned<> root(factory->CreateRootElement());
     // Which of two roots is wanted, these factories have to be told first.
     const bool isTold = GetParam() == IX_XML_SCHEMA_GRUU || GetParam() == IX_XML_SCHEMA_COMMUNICATION_BARRING;
     EXPECT_EQ(root.get() == nullptr, isTold);

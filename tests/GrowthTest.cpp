@@ -47,8 +47,8 @@ class GrowthTest : public XmlTest, public testing::WithParamInterface<eXMLSchema
         ClearLog();
         std::string tail;
         {
-            const OwnedContext context(GetParam());
-            const OwnedElement root(context->createUnMarshaller()->UnMarshall(text.c_str()));
+            const XmlOwnedContext context(XMLFactory::newInstance(GetParam()));
+            const XmlOwned<> root(context->createUnMarshaller()->UnMarshall(text.c_str()));
             Json tree = JsonOf(root.get());
             const Json::json_pointer first(row.value("from", ""));
             if (tree.contains(first)) tree = Json(tree.at(first));
@@ -64,10 +64,10 @@ class GrowthTest : public XmlTest, public testing::WithParamInterface<eXMLSchema
     long long CostOf(const std::string& text) {
         long long allocations = -1;
         {
-            const OwnedContext context(GetParam());
+            const XmlOwnedContext context(XMLFactory::newInstance(GetParam()));
             XMLUnMarshaller* const reader = context->createUnMarshaller();
             ixDplHostFailAllocation(0);
-            const OwnedElement root(reader->UnMarshall(text.c_str()));
+            const XmlOwned<> root(reader->UnMarshall(text.c_str()));
             if (root.get() != nullptr) allocations = static_cast<long long>(ixDplHostAllocations());
             ixDplHostStopCounting();
             XMLMarshaller* const writer = root.get() != nullptr ? context->createMarshaller() : nullptr;
@@ -131,7 +131,7 @@ TEST_P(GrowthTest, ADeepDocumentTakesTheSameForEachLevel) {
 TEST_P(GrowthTest, ATreeOfAnyDepthIsWrittenAndReleased) {
     ixDplHostSetLogSink(nullptr, nullptr, 0);
     for (const Json& row : Rows("chain")) {
-        const OwnedElement root(TreeFromJson(GetParam(), row.at("root")));
+        const XmlOwned<> root(TreeFromJson(GetParam(), row.at("root")));
         XMLElement* last = root.get();
         for (std::size_t i = 0; i < 100000; ++i) {
             const Json& link = row.at("chain")[i % row.at("chain").size()];
@@ -140,7 +140,7 @@ TEST_P(GrowthTest, ATreeOfAnyDepthIsWrittenAndReleased) {
             ASSERT_EQ(last->ProcessUnMarshall(name.data(), nullptr, next), 1) << row;
             last = next;
         }
-        const OwnedContext context(GetParam());
+        const XmlOwnedContext context(XMLFactory::newInstance(GetParam()));
         XMLMarshaller* const writer = context->createMarshaller();
         if (writer == nullptr) continue;
         const char* const text = writer->Marshall(root.get());

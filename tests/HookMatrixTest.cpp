@@ -118,7 +118,7 @@ class HookMatrixTest : public XmlTest, public testing::WithParamInterface<eXMLSc
     HookMatrixTest() {
         m_children.push_back(nullptr);
         for (const XmlClass* const create : m_children) {
-            const OwnedElement element(New(create));
+            const XmlOwned<> element(New(create));
             for (const char* const how : {"", kTwice, kWithoutMemory}) {
                 m_groups[std::string("object") + how].push_back(NameOf(*element.get()) + how);
             }
@@ -139,7 +139,7 @@ class HookMatrixTest : public XmlTest, public testing::WithParamInterface<eXMLSc
         std::map<std::string, const XmlField*> own;
         std::string text;
         {
-            const OwnedElement element(New(create));
+            const XmlOwned<> element(New(create));
             own = FieldsOf(*element.get());
             text = Introduction(*element.get());
         }
@@ -394,7 +394,7 @@ class DecoderEventsTest : public XmlTest, public testing::WithParamInterface<eXM
                                              : decoder->ProcessElement(element, text);
         m_reached = ixDplHostAllocations() >= failing;
         ixDplHostStopCounting();
-        const OwnedElement session(decoder->GetSessionData());
+        const XmlOwned<> session(decoder->GetSessionData());
         std::string outcome = std::to_string(answer);
         for (const LogLine& line : LogOfSchemas()) outcome += " \"" + ShownWithSource(line) + '"';
         Replace(outcome, m_long, "long");

@@ -177,8 +177,8 @@ TEST_F(ObjectModelTest, ADeepTreeIsDeletedWithoutACallForEveryLevel) {
 }
 
 TEST_F(ObjectModelTest, TreesAreEqualWhenAllOfTheirFieldsAre) {
-    const OwnedElement tree(NewTree());
-    const OwnedElement same(NewTree());
+    const XmlOwned<> tree(NewTree());
+    const XmlOwned<> same(NewTree());
     EXPECT_TRUE(XmlFields::Equal(tree.get(), same.get()));
     EXPECT_TRUE(XmlFields::Equal(nullptr, nullptr));
     EXPECT_FALSE(XmlFields::Equal(tree.get(), nullptr));
@@ -205,8 +205,8 @@ TEST_F(ObjectModelTest, TreesAreEqualWhenAllOfTheirFieldsAre) {
     };
     int number = 0;
     for (const auto change : changes) {
-        const OwnedElement other(NewTree());
-        change(*other.as<NestingElement>());
+        const XmlOwned<> other(NewTree());
+        change(*static_cast<NestingElement*>(other.get()));
         EXPECT_FALSE(XmlFields::Equal(tree.get(), other.get())) << number;
         EXPECT_FALSE(XmlFields::Equal(other.get(), tree.get())) << number;
         ++number;

@@ -36,7 +36,7 @@ namespace {
 class OperationsTest : public XmlTest {
   protected:
     static XMLElement* Read(eXMLSchemaID id, const std::string& text) {
-        const OwnedContext context(id);
+        const XmlOwnedContext context(XMLFactory::newInstance(id));
         return context->createUnMarshaller()->UnMarshall(text.c_str());
     }
 
@@ -132,7 +132,7 @@ TEST_F(OperationsTest, ANotificationIsWrittenUnderItsOwnNamesOnly) {
 TEST_F(OperationsTest, DocumentsThatAreOnlyReadHaveMarshallersThatWriteNothing) {
     WapProvisioningDocMarshall wap;
     VolteConfigInfoMarshall volte;
-    const OwnedElement root(Read(IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "<wap-provisioningdoc/>"));
+    const XmlOwned<> root(Read(IX_XML_SCHEMA_WAP_PROVISIONING_DOC, "<wap-provisioningdoc/>"));
     for (XMLMarshaller* const marshaller : {static_cast<XMLMarshaller*>(&wap), static_cast<XMLMarshaller*>(&volte)}) {
         EXPECT_EQ(marshaller->Marshall(root.get()), nullptr);
         EXPECT_EQ(marshaller->Marshall(nullptr), nullptr);
@@ -146,9 +146,9 @@ TEST_F(OperationsTest, FactoriesOfTwoRootsAreToldWhichOne) {
                                 "<XML Module>: CB Type is invalid "}));
     EXPECT_EQ(barring.setCBType(static_cast<XML_COMMUNICATION_BARRING_TYPE>(0)), 0);
     EXPECT_EQ(barring.setCBType(XML_CB_OUTGOING), 1);
-    EXPECT_STREQ(OwnedElement(barring.CreateRootElement()).get()->ClassName(), "outgoing-communication-barring");
+    EXPECT_STREQ(XmlOwned<>(barring.CreateRootElement()).get()->ClassName(), "outgoing-communication-barring");
     EXPECT_EQ(barring.setCBType(XML_CB_INCOMING), 1);
-    EXPECT_STREQ(OwnedElement(barring.CreateRootElement()).get()->ClassName(), "incoming-communication-barring");
+    EXPECT_STREQ(XmlOwned<>(barring.CreateRootElement()).get()->ClassName(), "incoming-communication-barring");
     GruuDataBinder gruu;
     EXPECT_EQ(gruu.CreateRootElement(), nullptr);
     EXPECT_TRUE(Logged("<XML Module>: GruuDataBinder :: Gruutype is NULL"));
@@ -160,7 +160,7 @@ TEST_F(OperationsTest, FactoriesOfTwoRootsAreToldWhichOne) {
                 {"temp", "ix_temp_gruu"},    {"temp-gruus", nullptr},       {"x", nullptr}};
     for (const auto& row : rows) {
         ASSERT_EQ(gruu.setGruutypeValue(row.type), 1);
-        const OwnedElement root(gruu.CreateRootElement());
+        const XmlOwned<> root(gruu.CreateRootElement());
         EXPECT_STREQ(root.get() != nullptr ? root.get()->ClassName() : nullptr, row.className) << row.type;
     }
     EXPECT_TRUE(Logged("<XML Module>: In GruuDataBinder::CreateRootElement with m_pGruutype=temp"));
@@ -197,18 +197,18 @@ TEST_F(OperationsTest, PrefixesAreRemovedWithinSixteenBits) {
     // 65542 leaves room for "reginfo".
     for (const std::size_t length : {65533U, 65534U, 65535U, 65542U}) {
         const std::string name = "reginfo" + std::string(length - 7, 'x');
-        const OwnedElement root(Read(IX_XML_SCHEMA_REGINFO, "<" + name + " version=\"5\"></" + name + ">"));
+        const XmlOwned<> root(Read(IX_XML_SCHEMA_REGINFO, "<" + name + " version=\"5\"></" + name + ">"));
         EXPECT_EQ(root.get() != nullptr, length == 65542U) << length;
     }
 }
 
 TEST_F(OperationsTest, ObjectsAreRegisteredUnderTheirLines) {
-    const OwnedContext context(IX_XML_SCHEMA_COMMUNICATION_WAITING);
+    const XmlOwnedContext context(XMLFactory::newInstance(IX_XML_SCHEMA_COMMUNICATION_WAITING));
     context->createMarshaller();
     context->createBinderFactory();
     XMLUnMarshaller* const reader = context->createUnMarshaller();
     ixDplHostFailAllocation(0);
-    const OwnedElement root(reader->UnMarshall("<communication-waiting a=\"b\"/>"));
+    const XmlOwned<> root(reader->UnMarshall("<communication-waiting a=\"b\"/>"));
     EXPECT_LE(ixDplHostAllocations(), 25U);
     ixDplHostStopCounting();
     Strings blocks;
@@ -226,7 +226,7 @@ TEST_F(OperationsTest, ObjectsAreRegisteredUnderTheirLines) {
 
 // A sidebar that fails past the capacity must not leave the mark of the cut on what is written behind it.
 TEST_F(OperationsTest, ALongSidebarThatFailsDoesNotCutTheText) {
-    const OwnedElement root(
+    const XmlOwned<> root(
         Read(IX_XML_SCHEMA_CONFERENCE_INFO,
              "<conference-info entity=\"e\"><sidebars-by-val><entry entity=\"1\">"
              "<conference-description><subject>" +
@@ -309,8 +309,8 @@ TEST_F(SimservsPiecesTest, InsertsInFrontOfTheFirstEndTag) {
 TEST_F(SimservsPiecesTest, SaysWhenAServiceWasCut) {
     std::string rules;
     for (int i = 0; i < 2000; ++i) rules += "<cp:rule id=\"r\"/>";
-    const OwnedElement root(Read(IX_XML_SCHEMA_SIMSERVS, "<simservs><communication-diversion><cp:ruleset>" + rules +
-                                                             "</cp:ruleset></communication-diversion></simservs>"));
+    const XmlOwned<> root(Read(IX_XML_SCHEMA_SIMSERVS, "<simservs><communication-diversion><cp:ruleset>" + rules +
+                                                           "</cp:ruleset></communication-diversion></simservs>"));
     SimservsMarshaller marshaller;
     EXPECT_NE(marshaller.Marshall(root.get()), nullptr);
     EXPECT_EQ(marshaller.IsTruncated(), 1);

@@ -19,8 +19,8 @@ class Session {
   public:
     /// Once the binder is there, the allocation `failing` fails; 0: none.
     Session(eXMLSchemaID id, const char* binder, unsigned long failing = 0)
-        : m_binder(BinderOf(binder)), m_failing(failing), m_context(Failing(id, failing)) {
-        if (m_context.get() != nullptr) m_context->SetNamespaceBinder(m_binder.as<XMLObject>());
+        : m_binder(BinderOf(binder)), m_failing(failing), m_context(XMLFactory::newInstance(Failing(id, failing))) {
+        if (m_context.get() != nullptr) m_context->SetNamespaceBinder(static_cast<XMLObject*>(m_binder.get()));
     }
 
     XMLUnMarshaller* Reader() { return m_context.get() != nullptr ? m_context->createUnMarshaller() : nullptr; }
@@ -40,13 +40,13 @@ class Session {
     }
 
     static XMLElement* BinderOf(const char* text) {
-        const OwnedContext context(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL);
+        const XmlOwnedContext context(XMLFactory::newInstance(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL));
         return text != nullptr ? context->createUnMarshaller()->UnMarshall(text) : nullptr;
     }
 
-    OwnedElement m_binder;
+    XmlOwned<> m_binder;
     unsigned long m_failing;
-    OwnedContext m_context;
+    XmlOwnedContext m_context;
 };
 
 class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSchemaID> {
@@ -65,7 +65,7 @@ class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSche
             Session session(Id(), scenario.Binder());
             ClearLog();
             XMLUnMarshaller* const reader = session.Reader();
-            const OwnedElement root(Root(scenario, reader));
+            const XmlOwned<> root(Root(scenario, reader));
             XMLMarshaller* const writer = session.Writer();
             const bool isWritten = writer != nullptr && (root.get() != nullptr || !scenario.HasText());
             const char* const text = isWritten ? writer->Marshall(root.get()) : nullptr;
@@ -78,7 +78,7 @@ class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSche
         ixDplHostReleaseHeap();
         if (outcome.written.is_string()) {
             Session session(Id(), scenario.Binder());
-            const OwnedElement again(session.Reader()->UnMarshall(outcome.written.get<std::string>().c_str()));
+            const XmlOwned<> again(session.Reader()->UnMarshall(outcome.written.get<std::string>().c_str()));
             outcome.again = JsonOf(again.get()) == outcome.tree;
         }
         ixDplHostReleaseHeap();
@@ -138,13 +138,13 @@ class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSche
             {
                 Session session(Id(), scenario.Binder(), failing);
                 XMLUnMarshaller* const reader = session.Reader();
-                const OwnedElement root(Root(scenario, reader));
+                const XmlOwned<> root(Root(scenario, reader));
                 reached = session.StopFailing();
                 decoded = root.get() != nullptr;
                 XMLMarshaller* const writer = decoded ? session.Writer() : nullptr;
                 const char* const text = writer != nullptr ? writer->Marshall(root.get()) : nullptr;
                 Note(scenario, text);
-                const OwnedElement again(reader != nullptr ? Root(scenario, reader) : nullptr);
+                const XmlOwned<> again(reader != nullptr ? Root(scenario, reader) : nullptr);
                 EXPECT_EQ(again.get() != nullptr, reader != nullptr && !plain.tree.is_null());
                 EXPECT_TRUE(reached || XmlFields::Equal(root.get(), again.get()));
             }
@@ -158,7 +158,7 @@ class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSche
     /// left out.
     void FailWriting(const Scenario& scenario, const Outcome& plain) {
         Session reading(Id(), scenario.Binder());
-        const OwnedElement root(Root(scenario, reading.Reader()));
+        const XmlOwned<> root(Root(scenario, reading.Reader()));
         const bool escapes =
             plain.written.is_string() && plain.written.get<std::string>().find("&quot;") != std::string::npos;
         bool reached = true;
@@ -187,7 +187,7 @@ class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSche
         Session session(Id(), scenario.Binder());
         ClearLog();
         XMLFile file(path.c_str(), eXMLFileRead);
-        const OwnedElement root(session.Reader()->UnMarshall(&file));
+        const XmlOwned<> root(session.Reader()->UnMarshall(&file));
         EXPECT_EQ(JsonOf(root.get()), plain.tree);
         Note(scenario, nullptr);
         std::filesystem::remove(path);
@@ -254,7 +254,7 @@ TEST_P(ScenarioTest, StandsEveryPrefix) {
         for (std::size_t length = 0; length < text.size(); ++length) {
             SCOPED_TRACE(length);
             Session session(Id(), scenario.Binder());
-            const OwnedElement root(session.Reader()->UnMarshall(text.substr(0, length).c_str()));
+            const XmlOwned<> root(session.Reader()->UnMarshall(text.substr(0, length).c_str()));
             const bool ends = root.get() != nullptr && !decoded && text[length - 1] == '>';
             EXPECT_EQ(root.get() != nullptr, decoded || ends);
             EXPECT_EQ(JsonOf(root.get()), decoded || ends ? plain.tree : Json());
@@ -274,7 +274,7 @@ TEST_P(ScenarioTest, StandsEveryCharacterMissing) {
         for (std::size_t at = 0; at < text.size(); ++at) {
             Session session(Id(), scenario.Binder());
             XMLUnMarshaller* const reader = session.Reader();
-            const OwnedElement root(reader->UnMarshall(std::string(text).erase(at, 1).c_str()));
+            const XmlOwned<> root(reader->UnMarshall(std::string(text).erase(at, 1).c_str()));
             XMLMarshaller* const writer = root.get() != nullptr ? session.Writer() : nullptr;
             if (writer != nullptr) writer->Marshall(root.get());
         }
@@ -289,7 +289,7 @@ TEST_P(ScenarioTest, TwoThreadsDoNotDisturbEachOther) {
     ixDplHostEnableLedger(false);
     const auto written = [&](const Scenario& scenario) {
         Session session(Id(), scenario.Binder());
-        const OwnedElement root(Root(scenario, session.Reader()));
+        const XmlOwned<> root(Root(scenario, session.Reader()));
         XMLMarshaller* const writer = root.get() != nullptr ? session.Writer() : nullptr;
         const char* const text = writer != nullptr ? writer->Marshall(root.get()) : nullptr;
         return std::string(text != nullptr ? text : "(null)");

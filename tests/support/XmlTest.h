@@ -74,35 +74,4 @@ inline int ixAppend(IxSingleElementList*& list, void* entry, const char* source,
     return list != nullptr && list->Add(entry) != 0 ? 1 : 0;
 }
 
-/// A context that deletes itself.
-class OwnedContext {
-  public:
-    explicit OwnedContext(eXMLSchemaID id) : m_context(XMLFactory::newInstance(id)) {}
-    ~OwnedContext() { XMLFactory::deleteContext(m_context); }
-    OwnedContext(const OwnedContext&) = delete;
-    OwnedContext& operator=(const OwnedContext&) = delete;
-    XMLContext* operator->() const { return m_context; }
-    XMLContext* get() const { return m_context; }
-
-  private:
-    XMLContext* m_context;
-};
-
-/// A tree that deletes itself.
-class OwnedElement {
-  public:
-    explicit OwnedElement(XMLElement* element) : m_element(element) {}
-    ~OwnedElement() { XMLFactory::DeleteElement(m_element); }
-    OwnedElement(const OwnedElement&) = delete;
-    OwnedElement& operator=(const OwnedElement&) = delete;
-    XMLElement* get() const { return m_element; }
-    template <class Element>
-    Element* as() const {
-        return static_cast<Element*>(m_element);
-    }
-
-  private:
-    XMLElement* m_element;
-};
-
 #endif

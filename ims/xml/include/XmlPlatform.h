@@ -98,16 +98,16 @@ enum XmlLogCode {
 
 /// A log line: `{3, "text"}` where it is logged.
 struct XmlLogText {
-    int level = 0;                 ///< As the platform layer has it (ixDpl.h), 1 to 4.
-    int code = kSchemaCode;        ///< One of `XmlLogCode`.
+    short level = 0;               ///< As the platform layer has it (ixDpl.h), 1 to 4.
+    short code = kSchemaCode;      ///< One of `XmlLogCode`.
     int line = 0;                  ///< Source line the log shows: that of the statement, unless it is fixed.
     const char* format = nullptr;  ///< printf-style, at most three conversions; NULL: nothing is logged.
 
     constexpr XmlLogText() = default;
     constexpr XmlLogText(int textLevel, const char* text, int textLine = __builtin_LINE())
-        : level(textLevel), line(textLine), format(text) {}
+        : XmlLogText(textLevel, kSchemaCode, textLine, text) {}
     constexpr XmlLogText(int textLevel, int textCode, int textLine, const char* text)
-        : level(textLevel), code(textCode), line(textLine), format(text) {}
+        : level(static_cast<short>(textLevel)), code(static_cast<short>(textCode)), line(textLine), format(text) {}
 };
 
 /// One argument of a log line, as the machine word that the platform layer takes.
