@@ -130,8 +130,8 @@ struct XmlSchemaInfo {
     bool writes;               ///< False: documents are only read.
     bool takesBinder;          ///< True: `SetNamespaceBinder` has an effect.
     XMLContext* (*create)();   ///< A new context of the schema; NULL without memory.
-    /// The descriptions (XmlClass.h) of the roots, and of what may stand in their documents and no row names; NULL behind
-    /// the last one. All other classes are found through the rows of these.
+    /// The descriptions (XmlClass.h) of the roots, and of what may stand in their documents and no row names; NULL
+    /// behind the last one. All other classes are found through the rows of these.
     const XmlClass* const* classes;
 };
 
