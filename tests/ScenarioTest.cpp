@@ -283,7 +283,8 @@ TEST_P(ScenarioTest, StandsEveryCharacterMissing) {
     }
 }
 
-// Without ledger and log, whose locks would keep the threads in step.
+// Without ledger and log, whose locks would keep the threads in step, so that what a document leaves behind would be
+// lost.
 TEST_P(ScenarioTest, TwoThreadsDoNotDisturbEachOther) {
     ixDplHostSetLogSink(nullptr, nullptr, 0);
     ixDplHostEnableLedger(false);
@@ -294,11 +295,13 @@ TEST_P(ScenarioTest, TwoThreadsDoNotDisturbEachOther) {
         const char* const text = writer != nullptr ? writer->Marshall(root.get()) : nullptr;
         return std::string(text != nullptr ? text : "(null)");
     };
-    Strings expected;
-    for (const Scenario& scenario : m_file.Scenarios()) expected.push_back(written(scenario));
+    std::vector<std::pair<const Scenario*, std::string>> expected;
+    for (const Scenario& scenario : m_file.Scenarios()) {
+        if (!scenario.Leaves()) expected.emplace_back(&scenario, written(scenario));
+    }
     const auto run = [&] {
         for (int round = 0; round < 20; ++round) {
-            for (std::size_t i = 0; i < expected.size(); ++i) EXPECT_EQ(written(m_file.Scenarios()[i]), expected[i]);
+            for (const auto& [scenario, text] : expected) EXPECT_EQ(written(*scenario), text);
         }
     };
     std::thread first(run);

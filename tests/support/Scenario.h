@@ -42,6 +42,8 @@ class Scenario {
     /// The text whose declarations are the binder, or NULL.
     const char* Binder() const { return m_binder.empty() ? nullptr : m_binder.c_str(); }
     bool Decodes() const { return !m_data.contains("expect") || !m_data["expect"].contains("decoded"); }
+    /// The document is to leave memory behind.
+    bool Leaves() const { return m_data.contains("expect") && m_data["expect"].contains("left"); }
     /// Where it is in its file.
     std::string Name() const;
     /// What is expected of a sample stands in files of this name.

@@ -33,8 +33,8 @@ class XmlSourcePath {
 };
 
 namespace {
-/// The path of the source file that includes this one.
-constexpr XmlSourcePath kSource(__BASE_FILE__);
+/// The path of the source file that includes this one. Each has its own, so inline functions do not use it.
+constexpr XmlSourcePath kSource(__BASE_FILE__);  // NOLINT(misc-definitions-in-headers)
 }  // namespace
 
 /// Base of every class whose objects are created with `new`: their memory comes from the platform layer, like that of
