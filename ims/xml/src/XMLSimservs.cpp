@@ -358,7 +358,7 @@ std::size_t SimservsMarshaller::WriteEach(const IxSingleElementList& services, c
         Log(piece != nullptr ? service->written : service->notWritten);
         if (piece != nullptr) {
             const std::size_t pieceLength = std::strlen(piece);
-            if (length + pieceLength < size) std::memcpy(text + length, piece, pieceLength);
+            if (length + pieceLength < size) std::memcpy(text + length, piece, pieceLength + 1);
             length += pieceLength;
             m_bServiceTruncated = m_bServiceTruncated || marshaller->IsTruncated() != 0;
         }
@@ -383,7 +383,7 @@ char* SimservsMarshaller::InsertString(char* document, const char* piece) {
         return document;
     }
     std::memcpy(text, document, before);
-    std::memcpy(text + before, piece, pieceLength);
+    std::memcpy(text + before, piece, pieceLength + 1);
     std::memcpy(text + before + pieceLength, endTag, after + 1);
     __free(document);
     return text;
