@@ -267,7 +267,7 @@ class HookMatrixTest : public XmlTest, public testing::WithParamInterface<eXMLSc
         if (alive + taken > offer.texts.size()) outcome += " not kept";
         const std::size_t left = ixDplHostLedger().liveHeapBlocks;
         if (left != 0) outcome += " left " + std::to_string(left);
-        ixDplHostReleaseHeap();
+        ReleaseLeftovers();
         return outcome;
     }
 

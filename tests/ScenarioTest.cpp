@@ -75,13 +75,13 @@ class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSche
         }
         outcome.objects = ixDplHostLedger().liveObjects;
         outcome.blocks = ixDplHostLedger().liveHeapBlocks;
-        ixDplHostReleaseHeap();
+        ReleaseLeftovers();
         if (outcome.written.is_string()) {
             Session session(Id(), scenario.Binder());
             const XmlOwned<> again(session.Reader()->UnMarshall(outcome.written.get<std::string>().c_str()));
             outcome.again = JsonOf(again.get()) == outcome.tree;
         }
-        ixDplHostReleaseHeap();
+        ReleaseLeftovers();
         return outcome;
     }
 
@@ -150,7 +150,7 @@ class ScenarioTest : public XmlTest, public testing::WithParamInterface<eXMLSche
             }
             // What is cut short is left behind.
             EXPECT_TRUE(!decoded || plain.blocks != 0 || m_isEndless || ixDplHostLedger().liveHeapBlocks == 0);
-            ixDplHostReleaseHeap();
+            ReleaseLeftovers();
         }
     }
 
@@ -234,7 +234,7 @@ TEST_P(ScenarioTest, StandsEveryAllocationFailing) {
         const Outcome plain = Run(scenario);
         ClearLog();
         if (scenario.Text() != nullptr) ReadFromFile(scenario, plain);
-        ixDplHostReleaseHeap();
+        ReleaseLeftovers();
         if (scenario.HasText()) FailReading(scenario, plain);
         if (Schema().writes && plain.blocks == 0) FailWriting(scenario, plain);
         EXPECT_EQ(ixDplHostLedger().unknownRemovals + ixDplHostLedger().doubleRemovals, 0U);
@@ -260,7 +260,7 @@ TEST_P(ScenarioTest, StandsEveryPrefix) {
             EXPECT_EQ(JsonOf(root.get()), decoded || ends ? plain.tree : Json());
             decoded = decoded || ends;
         }
-        ixDplHostReleaseHeap();
+        ReleaseLeftovers();
     }
 }
 
@@ -279,7 +279,7 @@ TEST_P(ScenarioTest, StandsEveryCharacterMissing) {
             if (writer != nullptr) writer->Marshall(root.get());
         }
         EXPECT_EQ(ixDplHostLedger().unknownRemovals + ixDplHostLedger().doubleRemovals, 0U);
-        ixDplHostReleaseHeap();
+        ReleaseLeftovers();
     }
 }
 

@@ -92,6 +92,10 @@ void XmlTest::LogNowhere() {
     ixDplHostSetLogSink([](const ixDplHostLogLine&, void*) {}, nullptr, kIxDplHostAllLevels);
 }
 
+void XmlTest::ReleaseLeftovers() {
+    if (ixDplHostLedger().liveHeapBlocks != 0) ixDplHostReleaseHeap();
+}
+
 void XmlTest::ExpectLeftBehind(std::size_t objects) {
     EXPECT_EQ(ixDplHostLedger().liveObjects, objects);
     ixDplHostReleaseHeap();

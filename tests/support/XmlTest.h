@@ -42,6 +42,8 @@ class XmlTest : public testing::Test {
     std::vector<LogLine> LogOf(const std::string& file);
     /// The lines of the schemas: without those of tokenizer, generator, lists and files, which have tests of their own.
     std::vector<LogLine> LogOfSchemas();
+    /// Frees what a document has left to nobody, if anything.
+    static void ReleaseLeftovers();
     /// "level text" of each line.
     static std::vector<std::string> LevelsAndTexts(const std::vector<LogLine>& log);
     /// "level text" of each line of one source file since the last call; forgets all lines.
