@@ -88,7 +88,7 @@ class Answers {
         for (const Row& row : m_rows) {
             Strings labels = row.labels;
             for (const auto& [common, members] : groups) {
-                const auto isMember = [&](const std::string& label) {
+                const auto isMember = [&members = members](const std::string& label) {
                     return std::find(members.begin(), members.end(), label) != members.end();
                 };
                 const auto rest = std::stable_partition(labels.begin(), labels.end(), std::not_fn(isMember));

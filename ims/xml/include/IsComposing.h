@@ -11,7 +11,7 @@ class IX_XML_EXPORT XMLIsComposingDecoder : public XmlFamilyDecoder {
 
   protected:
     /// Offers the attribute as if it were an element.
-    int OtherAttribute(XMLElement& receiver, char* attribute, char* value) override;
+    int OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value) override;
 };
 
 #endif

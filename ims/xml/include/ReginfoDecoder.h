@@ -17,7 +17,7 @@ class IX_XML_EXPORT XMLReginfoDecoder : public XmlFamilyDecoder {
   protected:
     int EndElement(const XmlTag& tag, char* text) override;
     int OtherElement(const XmlTag& tag, char* text) override;
-    int OtherAttribute(XMLElement& receiver, char* attribute, char* value) override;
+    int OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value) override;
 
   private:
     XMLElement* AnyElement(const XmlTag& tag);

@@ -17,6 +17,13 @@
 
 #include "XmlFamily.h"
 
+/// Required: an attribute comes as a start tag does, its value as the text. Other objects are ignored.
+constexpr XmlAnswers ixSettingAnswers() {
+    XmlAnswers answers = ixIgnoring();
+    answers.attributesAreTags = true;
+    return answers;
+}
+
 /// The element `parm`: one setting.
 class IX_XML_EXPORT ix_parm : public XmlDescribedElement {
   public:
@@ -24,8 +31,6 @@ class IX_XML_EXPORT ix_parm : public XmlDescribedElement {
 
     ix_parm() : XmlDescribedElement(kClass) {}
     ~ix_parm() override { ixRelease(*this, kClass); }
-    /// As the rows say; an attribute comes as an element does.
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Copies `name`; NULL changes nothing. @return 1, or 0 without memory, the earlier name kept.
     int setParmName(const char* name) { return name != nullptr ? ixSetText(mName, name) : 1; }
@@ -47,8 +52,6 @@ class IX_XML_EXPORT ix_characteristic : public XmlDescribedElement {
 
     ix_characteristic() : XmlDescribedElement(kClass) {}
     ~ix_characteristic() override { ixRelease(*this, kClass); }
-    /// As the rows say; an attribute comes as an element does.
-    int ProcessUnMarshall(char* name, char* text, XMLElement* child) override;
 
     /// Copies `type`; NULL changes nothing. @return 1, or 0 without memory, the earlier type kept.
     int setTypeValue(const char* type) { return type != nullptr ? ixSetText(mType, type) : 1; }

@@ -39,8 +39,8 @@ class IX_XML_EXPORT XmlImsBodyDecoder : public XmlFamilyDecoder {
     XmlImsBodyDecoder(const XmlDecoderInfo& info, e_XmlStrRef element, e_XmlStrRef attribute)
         : XmlFamilyDecoder(info), m_element(element), m_attribute(attribute) {}
 
-    int KnownAttribute(XMLElement& receiver, char* attribute, char* value) override;
-    int OtherAttribute(XMLElement& receiver, char* attribute, char* value) override;
+    int KnownAttribute(XMLElement& receiver, const XmlField& row, const XmlTag& attribute, char* value) override;
+    int OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value) override;
 
   private:
     const e_XmlStrRef m_element;

@@ -178,28 +178,30 @@ struct XmlFieldTable {
     const XmlField* fields;
     std::size_t count;
     const char* source = nullptr;  ///< Path of the file that the rows stand in.
+    bool hasUnnamed = false;       ///< There are rows without a name that take what is offered.
 };
 
 /// What the regular hooks answer and log for what no row takes. A log line without a format is not logged.
 struct XmlAnswers {
-    int object = 0;                 ///< Answer to an object under a name that no row has: 0 refused, 1 ignored ...
-    int event = 1;                  ///< ... to a tag without an object ...
-    int attribute = 1;              ///< ... to an attribute without a pair ...
-    int pair = 1;                   ///< ... and to one with a pair.
-    int lostPair = 0;               ///< Answer to a pair that there is no memory to keep, or that is none.
-    int nameless = 0;               ///< Answer to an object without a class name under the name of a child.
-    bool needsName = false;         ///< A call without a name does nothing and answers 1.
-    bool startsAreUnknown = false;  ///< The start tag of a text element is as unknown as any other.
-    bool missingIsUnknown = false;  ///< So is the start tag of a child without the child.
-    XmlLogText entered{};           ///< At each call for a tag or an object.
-    XmlLogText attributeEntered{};  ///< At each call for an attribute.
-    XmlLogText unknown{};           ///< A tag without an object that no row takes: its name and text ...
-    XmlLogText unknownObject{};     ///< ... one with an object ...
-    XmlLogText unknownAttribute{};  ///< ... and an attribute: its name.
-    XmlLogText noAttribute{};       ///< An attribute without a name; none: `unknownAttribute`.
-    XmlLogText noChild{};           ///< Under the name of a child: no object ...
-    XmlLogText namelessChild{};     ///< ... one without a class name ...
-    XmlLogText otherChild{};        ///< ... and one of another class: its class name.
+    int object = 0;                  ///< Answer to an object under a name that no row has: 0 refused, 1 ignored ...
+    int event = 1;                   ///< ... to a tag without an object ...
+    int attribute = 1;               ///< ... to an attribute without a pair ...
+    int pair = 1;                    ///< ... and to one with a pair.
+    int lostPair = 0;                ///< Answer to a pair that there is no memory to keep, or that is none.
+    int nameless = 0;                ///< Answer to an object without a class name under the name of a child.
+    bool needsName = false;          ///< A call without a name does nothing and answers 1.
+    bool startsAreUnknown = false;   ///< The start tag of a text element is as unknown as any other.
+    bool attributesAreTags = false;  ///< An attribute comes as a start tag does, its value as the text.
+    bool missingIsUnknown = false;   ///< So is the start tag of a child without the child.
+    XmlLogText entered{};            ///< At each call for a tag or an object.
+    XmlLogText attributeEntered{};   ///< At each call for an attribute.
+    XmlLogText unknown{};            ///< A tag without an object that no row takes: its name and text ...
+    XmlLogText unknownObject{};      ///< ... one with an object ...
+    XmlLogText unknownAttribute{};   ///< ... and an attribute: its name.
+    XmlLogText noAttribute{};        ///< An attribute without a name; none: `unknownAttribute`.
+    XmlLogText noChild{};            ///< Under the name of a child: no object ...
+    XmlLogText namelessChild{};      ///< ... one without a class name ...
+    XmlLogText otherChild{};         ///< ... and one of another class: its class name.
 };
 
 /// The answers of a class that ignores objects under names that no row has.
@@ -329,6 +331,10 @@ constexpr XmlClass ixClass(const char* name, const char* type, const char* sourc
     XmlClass description = ixClass<Element>(name, type, source, answers);
     description.table.fields = rows;
     description.table.count = count;
+    for (const XmlField& row : rows) {
+        const bool isUnnamed = row.role == XmlRole::OwnText || row.role == XmlRole::OneOf || row.role == XmlRole::Mixed;
+        description.table.hasUnnamed = description.table.hasUnnamed || isUnnamed;
+    }
     return description;
 }
 

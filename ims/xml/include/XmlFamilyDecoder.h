@@ -261,9 +261,9 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     /// An element that is none of the containers: goes to the object on top of the stack.
     virtual int OtherElement(const XmlTag& tag, char* text);
     /// An attribute that `receiver` has a row for, of the very element that it stands for.
-    virtual int KnownAttribute(XMLElement& receiver, char* attribute, char* value);
+    virtual int KnownAttribute(XMLElement& receiver, const XmlField& row, const XmlTag& attribute, char* value);
     /// Any other attribute: goes to `receiver` as a pair.
-    virtual int OtherAttribute(XMLElement& receiver, char* attribute, char* value);
+    virtual int OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value);
     /// The object of a start tag may be the result. The default: when it is that of a root.
     virtual bool IsResult(const XmlContainerRow& row) const { return row.role == XmlContainerRow::Root; }
 
@@ -294,7 +294,7 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     const XmlContainerRow* NextRow(const XmlContainerRow* row) const;
     static bool Matches(const XmlContainerRow& row, const XmlTag& tag, XmlTag& local);
     const XmlContainerRow* FindContainer(const XmlTag& tag, XmlTag& local) const;
-    static bool Knows(const XmlContainerRow* row, const XMLElement& receiver, const char* attribute);
+    static const XmlField* KnownRow(const XmlContainerRow* row, const XMLElement& receiver, XmlName attribute);
     bool EndContainer(const XmlContainerRow& row, const XmlTag& tag, char* text, bool& offered);
     char* ComparedName(char* element);
     bool IsStarted(const char* element) const;
@@ -305,6 +305,8 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     StartTag m_started;
     XmlNamespaceTable m_namespaces;
     char* m_pMappedTag = nullptr;
+    std::size_t m_tagLength = 0;       ///< Of the last tag that was mapped or had its prefix removed ...
+    std::size_t m_comparedLength = 0;  ///< ... and of what it is compared as.
     char* m_pPassName = nullptr;
 
     const XmlDecoderInfo& m_info;

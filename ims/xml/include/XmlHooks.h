@@ -39,7 +39,7 @@ class IX_XML_EXPORT XmlHooks {
     /// Where a class has the regular hook, no name is compared once more.
     /// @{
     static XmlAnswer OfferTo(XMLElement& receiver, const XmlTag& tag, char* text, XMLElement* child);
-    static XmlAnswer OfferAttributeTo(XMLElement& receiver, char* attribute, char* value, XMLAttribute* pair);
+    static XmlAnswer OfferAttributeTo(XMLElement& receiver, const XmlTag& attribute, char* value, XMLAttribute* pair);
     /// @}
 
     /// @name The regular hooks
@@ -50,6 +50,9 @@ class IX_XML_EXPORT XmlHooks {
     static XmlAnswer OfferAttribute(XMLElement& element, const XmlClass& description, XmlName name,
                                     const char* attribute, const char* value, XMLAttribute* pair);
     /// @}
+
+    /// Stores the value of an attribute that comes without a pair, or drops it. NULL leaves the field as it is.
+    static XmlAnswer TakeAttribute(XMLElement& element, const XmlField& row, const char* value);
 
     /// The row of an attribute; NULL: the class does not know it.
     static const XmlField* AttributeRow(const XmlClass& description, XmlName name);

@@ -27,9 +27,9 @@ constexpr XmlDecoderInfo kInfo = Info();
 
 XMLIsComposingDecoder::XMLIsComposingDecoder() : XmlFamilyDecoder(kInfo) {}
 
-int XMLIsComposingDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char* value) {
+int XMLIsComposingDecoder::OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value) {
     // Required: attributes are offered as if they were elements, which the root knows none of; so each is logged, and
     // none is kept.
-    XmlHooks::OfferTo(receiver, XmlTag(attribute), value, nullptr);
+    XmlHooks::OfferTo(receiver, XmlTag(attribute.text), value, nullptr);
     return 0;
 }

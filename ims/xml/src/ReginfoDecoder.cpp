@@ -68,6 +68,7 @@ int XMLReginfoDecoder::OtherElement(const XmlTag& tag, char* text) {
 }
 
 /// Every attribute goes to the object of its element, which knows its own: no pair is made of the others.
-int XMLReginfoDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char* value) {
-    return KnownAttribute(receiver, attribute, value);
+int XMLReginfoDecoder::OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value) {
+    XmlHooks::OfferAttributeTo(receiver, attribute, value, nullptr);
+    return 0;
 }

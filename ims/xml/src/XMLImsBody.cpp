@@ -18,13 +18,14 @@ int ix_imsBodyType::ProcessUnMarshallAttribute(char* attribute, char* value, XML
     return 1;
 }
 
-int XmlImsBodyDecoder::KnownAttribute(XMLElement& receiver, char* attribute, char* value) {
+int XmlImsBodyDecoder::KnownAttribute(XMLElement& receiver, const XmlField& /*row*/, const XmlTag& attribute,
+                                      char* value) {
     return OtherAttribute(receiver, attribute, value);
 }
 
-int XmlImsBodyDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char* value) {
+int XmlImsBodyDecoder::OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value) {
     // Required: an attribute that comes without a pair comes once more, with one.
-    if (ixNameIs(PassName(), m_element) && ixNameIs(attribute, m_attribute)) {
+    if (ixNameIs(PassName(), m_element) && ixNameIs(attribute.text, m_attribute)) {
         XmlHooks::OfferAttributeTo(receiver, attribute, value, nullptr);
     }
     return XmlFamilyDecoder::OtherAttribute(receiver, attribute, value);

@@ -10,7 +10,7 @@ constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLVolteCon
 }  // namespace
 
 constexpr XmlClass ix_volte_config_info::kClass =
-    ixDerived(ixClass<ix_volte_config_info>("ix_volte_config_info", "VolteConfigInfo", kSource, ixIgnoring()),
+    ixDerived(ixClass<ix_volte_config_info>("ix_volte_config_info", "VolteConfigInfo", kSource, ixSettingAnswers()),
               ix_characteristicDocType::kClass);
 
 XMLElement* VolteConfigInfoDataBinder::CreateRootElement() { return ixNew<ix_volte_config_info>(kSource); }

@@ -9,9 +9,9 @@ constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLWapProvi
 
 }  // namespace
 
-constexpr XmlClass ix_wap_provisioning_doc::kClass =
-    ixDerived(ixClass<ix_wap_provisioning_doc>("ix_wap_provisioning_doc", "WapProvisioningDoc", kSource, ixIgnoring()),
-              ix_characteristicDocType::kClass);
+constexpr XmlClass ix_wap_provisioning_doc::kClass = ixDerived(
+    ixClass<ix_wap_provisioning_doc>("ix_wap_provisioning_doc", "WapProvisioningDoc", kSource, ixSettingAnswers()),
+    ix_characteristicDocType::kClass);
 
 XMLElement* WapProvisioningDocDataBinder::CreateRootElement() { return ixNew<ix_wap_provisioning_doc>(kSource); }
 

@@ -34,7 +34,7 @@ int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
     m_pMappedTag = nullptr;
     if (tag == nullptr) return 0;
     const bool isEnd = *tag == '/';
-    const std::size_t length = std::strlen(tag);
+    const std::size_t length = m_tagLength = std::strlen(tag);
     if (!m_mappedText.Reserve(length + 2)) {
         ixLog(m_info.source, isEnd ? m_info.texts.changeEndTagNoMemory : m_info.texts.changeTagNoMemory);
         return 0;
@@ -68,7 +68,7 @@ int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
         ixLog(m_info.source, m_info.texts.removeTagNoTag);
         return 0;
     }
-    const std::size_t length = std::strlen(tag);
+    const std::size_t length = m_tagLength = std::strlen(tag);
     std::size_t size = length + 2;
     // Required: some decoders count the size in 16 bits, so that of a name of 65534 characters and more only the
     // beginning is there. It is cut to its room, never written past it.
@@ -85,6 +85,7 @@ int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
     std::memcpy(to, tag, static_cast<std::size_t>(end - tag));
     to[end - tag] = '\0';
     m_pPassName = m_passText.Text();
+    m_comparedLength = static_cast<std::size_t>(to + (end - tag) - m_pPassName);
     return 1;
 }
 
@@ -93,11 +94,13 @@ char* XmlFamilyDecoder::ComparedName(char* element) {
     switch (m_info.names) {
         case XmlNamePolicy::Mapped:
             XMLChangeNamespaceTag(element);
+            m_comparedLength = m_pMappedTag != nullptr ? std::strlen(m_pMappedTag) : 0;
             return m_pMappedTag;
         case XmlNamePolicy::Stripped:
             XMLRemoveNameSpaceTag(element);
             return m_pPassName;
         default:
+            m_tagLength = m_comparedLength = std::strlen(element);
             return element;
     }
 }
@@ -119,9 +122,10 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
         ixLog(m_info.source, m_info.texts.noElementName);
         return -1;
     }
-    const XmlTag tag(name);
-    if (tag.isEnd) return EndElement(tag, text);
-    const std::size_t size = std::strlen(element) + 1;
+    const bool isEnd = *name == '/';
+    const XmlTag tag(name, isEnd, XmlName(name + (isEnd ? 1 : 0), m_comparedLength - (isEnd ? 1 : 0)));
+    if (isEnd) return EndElement(tag, text);
+    const std::size_t size = m_tagLength + 1;
     m_started.isOpen = m_started.name.Reserve(size);
     if (m_started.isOpen) std::memcpy(m_started.name.Text(), element, size);
     return StartElement(tag);
@@ -153,17 +157,21 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     const XmlAttributePolicy policy = m_info.attributes;
     XMLElement* const receiver = policy == XmlAttributePolicy::Top ? Top() : m_started.own;
     if (receiver == nullptr) return 0;
-    if (Knows(row, *receiver, attribute)) return value != nullptr ? KnownAttribute(*receiver, attribute, value) : 0;
+    const XmlTag tag(attribute, false, XmlName(attribute, std::strlen(attribute)));
+    const XmlField* const known = KnownRow(row, *receiver, tag.name);
+    if (known != nullptr) return value != nullptr ? KnownAttribute(*receiver, *known, tag, value) : 0;
     if (policy == XmlAttributePolicy::OwnNoPairs) return 0;
     if (policy == XmlAttributePolicy::RootPairs && (row == nullptr || row->role != XmlContainerRow::Root)) return 0;
-    return OtherAttribute(*receiver, attribute, value);
+    return OtherAttribute(*receiver, tag, value);
 }
 
-/// True when `receiver` stands for the element of `row` and has a row for `attribute`. Only a root drops attributes.
-bool XmlFamilyDecoder::Knows(const XmlContainerRow* row, const XMLElement& receiver, const char* attribute) {
-    if (row == nullptr || row->made != receiver.Class()) return false;
-    const XmlField* const known = XmlHooks::AttributeRow(*row->made, XmlName(attribute, std::strlen(attribute)));
-    return known != nullptr && (known->role != XmlRole::Dropped || row->role == XmlContainerRow::Root);
+/// The row of `receiver` for `attribute`; NULL: there is none, or it does not stand for the element of `row`. Only a
+/// root drops attributes.
+const XmlField* XmlFamilyDecoder::KnownRow(const XmlContainerRow* row, const XMLElement& receiver, XmlName attribute) {
+    if (row == nullptr || row->made != receiver.Class()) return nullptr;
+    const XmlField* const known = XmlHooks::AttributeRow(*row->made, attribute);
+    const bool isKept = known == nullptr || known->role != XmlRole::Dropped || row->role == XmlContainerRow::Root;
+    return isKept ? known : nullptr;
 }
 
 int XmlFamilyDecoder::ProcessEndOfStartTag(char* /*element*/) { return 0; }
@@ -270,20 +278,24 @@ int XmlFamilyDecoder::OtherElement(const XmlTag& tag, char* text) {
     return 0;
 }
 
-int XmlFamilyDecoder::KnownAttribute(XMLElement& receiver, char* attribute, char* value) {
-    XmlHooks::OfferAttributeTo(receiver, attribute, value, nullptr);
+int XmlFamilyDecoder::KnownAttribute(XMLElement& receiver, const XmlField& row, const XmlTag& attribute, char* value) {
+    if (receiver.Class()->takesAttributesByRows) {
+        XmlHooks::TakeAttribute(receiver, row, value);
+    } else {
+        receiver.ProcessUnMarshallAttribute(attribute.text, value, nullptr);
+    }
     return 0;
 }
 
-int XmlFamilyDecoder::OtherAttribute(XMLElement& receiver, char* attribute, char* value) {
-    ix_AttributeValuePair* const pair = ixCreatePair(attribute, value, m_info.source, m_info.pairLine);
+int XmlFamilyDecoder::OtherAttribute(XMLElement& receiver, const XmlTag& attribute, char* value) {
+    ix_AttributeValuePair* const pair = ixCreatePair(attribute.text, value, m_info.source, m_info.pairLine);
     if (pair == nullptr) {
-        ixLog(m_info.source, m_info.texts.noPair, attribute);
+        ixLog(m_info.source, m_info.texts.noPair, attribute.text);
         ixLog(m_info.source, m_info.texts.noPairOf, m_info.names == XmlNamePolicy::Mapped ? m_pMappedTag : m_pPassName);
         return 0;
     }
     const XmlAnswer answer = XmlHooks::OfferAttributeTo(receiver, attribute, value, pair);
-    if (answer == XmlAnswer::Refused) ixLog(m_info.source, m_info.texts.pairRefused, attribute);
+    if (answer == XmlAnswer::Refused) ixLog(m_info.source, m_info.texts.pairRefused, attribute.text);
     if (answer != XmlAnswer::Taken) ixDelete(pair);
     return 0;
 }

@@ -123,6 +123,61 @@ const XmlField* RowOfRole(const XmlClass& description, XmlRole role) {
     return nullptr;
 }
 
+/// Something that is offered to an element.
+struct Place {
+    XMLElement& element;
+    const XmlClass& description;
+    const XmlTag& tag;
+    const char* text;
+    XMLElement* child;
+
+    bool IsMissing() const { return child == nullptr && description.answers.missingIsUnknown; }
+};
+
+/// @return false when the row, which has the tag's name, says nothing to it.
+bool TakeByName(const Place& place, const XmlField& row, XmlAnswer& answer) {
+    switch (row.role) {
+        case XmlRole::Element:
+        case XmlRole::Words:
+        case XmlRole::Texts:
+            if (!place.tag.isEnd && place.description.answers.startsAreUnknown) return false;
+            answer = TakeText(place.element, row, place.tag, place.text, place.child);
+            return true;
+        case XmlRole::Attribute:
+            if (!place.description.answers.attributesAreTags || place.tag.isEnd) return false;
+            if (place.child != nullptr) return true;
+            answer = place.text == nullptr ? XmlAnswer::Ignored : TakenIf(StoreValue(place.element, row, place.text));
+            return true;
+        case XmlRole::Child:
+        case XmlRole::Children:
+            if (place.tag.isEnd || place.IsMissing()) return false;
+            answer = TakeChild(place.element, place.description, row, *row.description, place.child);
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// The same for the rows that have no name of their own.
+bool TakeByClass(const Place& place, XmlAnswer& answer) {
+    for (const XmlFieldTable* table = &place.description.table; table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count && table->hasUnnamed; ++i) {
+            const XmlField& row = table->fields[i];
+            if (row.role == XmlRole::OwnText && place.tag.Ends(place.description.element)) {
+                answer = TakeText(place.element, row, place.tag, place.text, place.child);
+                return true;
+            }
+            const bool isEntry = row.role == XmlRole::OneOf || row.role == XmlRole::Mixed;
+            if (!isEntry || place.tag.isEnd || place.IsMissing()) continue;
+            const XmlClass* const expected = ClassNamed(row, place.tag.name);
+            if (expected == nullptr) continue;
+            answer = TakeChild(place.element, place.description, row, *expected, place.child);
+            return true;
+        }
+    }
+    return false;
+}
+
 XmlAnswer OfferUnknown(XMLElement& element, const XmlClass& description, const XmlTag& tag, const char* text,
                        XMLElement* child) {
     const XmlAnswers& answers = description.answers;
@@ -143,33 +198,16 @@ XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, cons
                           XMLElement* child) {
     ixLog(description.source, description.answers.entered);
     if (tag.text == nullptr && description.answers.needsName) return XmlAnswer::Ignored;
-    const bool isMissing = child == nullptr && description.answers.missingIsUnknown;
-    for (const XmlFieldTable* table = &description.table; table != nullptr && tag.name.IsKnown(); table = table->base) {
-        for (std::size_t i = 0; i < table->count; ++i) {
-            const XmlField& row = table->fields[i];
-            switch (row.role) {
-                case XmlRole::OwnText:
-                    if (tag.isEnd && description.element == tag.name) return TakeText(element, row, tag, text, child);
-                    break;
-                case XmlRole::Element:
-                case XmlRole::Words:
-                case XmlRole::Texts:
-                    if (row.name != tag.name || (!tag.isEnd && description.answers.startsAreUnknown)) break;
-                    return TakeText(element, row, tag, text, child);
-                case XmlRole::Child:
-                case XmlRole::Children:
-                    if (row.name != tag.name || tag.isEnd || isMissing) break;
-                    return TakeChild(element, description, row, *row.description, child);
-                case XmlRole::OneOf:
-                case XmlRole::Mixed: {
-                    const XmlClass* const expected = tag.isEnd || isMissing ? nullptr : ClassNamed(row, tag.name);
-                    if (expected == nullptr) break;
-                    return TakeChild(element, description, row, *expected, child);
-                }
-                default:
-                    break;
+    if (tag.name.IsKnown()) {
+        const Place place = {element, description, tag, text, child};
+        XmlAnswer answer = XmlAnswer::Refused;
+        for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+            for (std::size_t i = 0; i < table->count; ++i) {
+                const XmlField& row = table->fields[i];
+                if (row.name == tag.name && TakeByName(place, row, answer)) return answer;
             }
         }
+        if (TakeByClass(place, answer)) return answer;
     }
     return OfferUnknown(element, description, tag, text, child);
 }
@@ -185,17 +223,19 @@ const XmlField* XmlHooks::AttributeRow(const XmlClass& description, XmlName name
     return nullptr;
 }
 
+XmlAnswer XmlHooks::TakeAttribute(XMLElement& element, const XmlField& row, const char* value) {
+    ixLog(element.Class()->source, element.Class()->answers.attributeEntered);
+    if (row.role == XmlRole::Dropped || value == nullptr) return XmlAnswer::Ignored;
+    return TakenIf(StoreValue(element, row, value));
+}
+
 XmlAnswer XmlHooks::OfferAttribute(XMLElement& element, const XmlClass& description, XmlName name,
                                    const char* attribute, const char* value, XMLAttribute* pair) {
     const XmlAnswers& answers = description.answers;
-    ixLog(description.source, answers.attributeEntered);
     const XmlField* const known = AttributeRow(description, name);
-    const bool isDropped = known != nullptr && known->role == XmlRole::Dropped;
-    if (known != nullptr && !(isDropped && pair != nullptr)) {
-        if (pair != nullptr) return XmlAnswer::Refused;
-        if (isDropped || value == nullptr) return XmlAnswer::Ignored;
-        return TakenIf(StoreValue(element, *known, value));
-    }
+    if (known != nullptr && pair == nullptr) return TakeAttribute(element, *known, value);
+    ixLog(description.source, answers.attributeEntered);
+    if (known != nullptr && known->role != XmlRole::Dropped) return XmlAnswer::Refused;
     const XmlField* const others = pair != nullptr ? RowOfRole(description, XmlRole::Attributes) : nullptr;
     if (others != nullptr) {
         ix_AttributeValuePair* const other = ixAsPair(pair);
@@ -214,13 +254,12 @@ XmlAnswer XmlHooks::OfferTo(XMLElement& receiver, const XmlTag& tag, char* text,
     return XmlFields::HoldsChild(receiver, child) ? XmlAnswer::Taken : XmlAnswer::Ignored;
 }
 
-XmlAnswer XmlHooks::OfferAttributeTo(XMLElement& receiver, char* attribute, char* value, XMLAttribute* pair) {
+XmlAnswer XmlHooks::OfferAttributeTo(XMLElement& receiver, const XmlTag& attribute, char* value, XMLAttribute* pair) {
     const XmlClass* const description = receiver.Class();
     if (description != nullptr && description->takesAttributesByRows) {
-        return OfferAttribute(receiver, *description, XmlName(attribute, std::strlen(attribute)), attribute, value,
-                              pair);
+        return OfferAttribute(receiver, *description, attribute.name, attribute.text, value, pair);
     }
-    if (receiver.ProcessUnMarshallAttribute(attribute, value, pair) == 0) return XmlAnswer::Refused;
+    if (receiver.ProcessUnMarshallAttribute(attribute.text, value, pair) == 0) return XmlAnswer::Refused;
     return XmlFields::HoldsAttribute(receiver, pair) ? XmlAnswer::Taken : XmlAnswer::Ignored;
 }
 

@@ -36,34 +36,45 @@ constexpr const char* kTexts[kXmlNameCount] = {
     kExtraNames[6], kExtraNames[7], kExtraNames[8], kExtraNames[9], kExtraNames[10],
 };
 
-/// Where each name is found: its number, and that of the next name with the same slot.
-struct Index {
-    std::int16_t first[kSlots] = {};
-    std::int16_t next[kXmlNameCount] = {};
-    std::uint8_t length[kXmlNameCount] = {};
+/// What a slot holds: a name, and how to look on. The first fixed string stands for no name.
+struct Slot {
+    std::int16_t number = XmlName::kUnknown;
+    std::uint8_t length = 0;
+};
 
-    constexpr Index() {
-        for (std::int16_t& entry : first) entry = XmlName::kUnknown;
-        // Backwards, so that the lower one of two equal names is found. The first entry stands for no name.
+struct Index {
+    Slot slots[kSlots];
+    Slot next[kXmlNameCount];  ///< The next name with the same slot.
+
+    constexpr Index() : slots{}, next{} {
+        // Backwards, so that the lower one of two equal names is found.
         for (int i = kXmlNameCount - 1; i > 0; --i) {
-            length[i] = static_cast<std::uint8_t>(LengthOf(kTexts[i]));
-            std::int16_t& entry = first[SlotOf(kTexts[i], length[i])];
-            next[i] = entry;
-            entry = static_cast<std::int16_t>(i);
+            const std::size_t length = LengthOf(kTexts[i]);
+            Slot& slot = slots[SlotOf(kTexts[i], length)];
+            next[i] = slot;
+            slot.number = static_cast<std::int16_t>(i);
+            slot.length = static_cast<std::uint8_t>(length);
         }
     }
 };
 constexpr Index kIndex;
 
+const char* TextOf(int number) {
+    return number < kXmlStrRefCount ? ix_xml_common_array_definition::arrXmlStrRef[number]
+                                    : kExtraNames[number - kXmlStrRefCount];
+}
+
 }  // namespace
 
-XmlName::XmlName(const char* text, std::size_t length) : number(kIndex.first[SlotOf(text, length)]) {
-    while (number != kUnknown && (kIndex.length[number] != length || std::memcmp(Text(), text, length) != 0)) {
-        number = kIndex.next[number];
+XmlName::XmlName(const char* text, std::size_t length) : number(kUnknown) {
+    const Slot* slot = &kIndex.slots[SlotOf(text, length)];
+    while (slot->number != kUnknown) {
+        if (slot->length == length && std::memcmp(TextOf(slot->number), text, length) == 0) {
+            number = slot->number;
+            return;
+        }
+        slot = &kIndex.next[slot->number];
     }
 }
 
-const char* XmlName::Text() const {
-    if (number >= kXmlStrRefCount) return kExtraNames[number - kXmlStrRefCount];
-    return number >= 0 ? ix_xml_common_array_definition::arrXmlStrRef[number] : nullptr;
-}
+const char* XmlName::Text() const { return number != kUnknown ? TextOf(number) : nullptr; }
