@@ -61,7 +61,7 @@ contents() {
 }
 lib=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 contents libimsxml0 "$lib/libimsxml\.so\.0" "$lib/libimsxml\.so\.$version" "$lib/libixdpl\.so\.0" "$lib/libixdpl\.so\.$version"
-contents libimsxml-dev '/usr/include/imsxml/\w+\.h' "$lib/libimsxml\.so" "$lib/libixdpl\.so" "$lib/libimsxml\.a" \
+contents libimsxml-dev '/usr/include/imsxml/\w+\.(h|inc)' "$lib/libimsxml\.so" "$lib/libixdpl\.so" "$lib/libimsxml\.a" \
     "$lib/libixdpl\.a" "$lib/cmake/imsxml/imsxml\w+(-\w+)?\.cmake" "$lib/pkgconfig/imsxml\.pc"
 contents imsxml /usr/bin/imsxml /usr/share/bash-completion/completions/imsxml /usr/share/man/man1/imsxml.1.gz
 headers=$(dpkg-deb --contents "${files[1]}" | grep -c '\.h$')

@@ -9,6 +9,7 @@
 #define IX_XML_CLASS_H
 
 #include <climits>
+#include <cstdint>
 #include <type_traits>
 
 #include "XMLCommonDef.h"
@@ -174,11 +175,34 @@ struct IX_XML_EXPORT XmlField {
 
 /// The fields of a class.
 struct XmlFieldTable {
+    static constexpr unsigned kSlots = 64;
+
     const XmlFieldTable* base;  ///< Those of the base class, which come first; NULL: none.
     const XmlField* fields;
     std::size_t count;
     const char* source = nullptr;  ///< Path of the file that the rows stand in.
     bool hasUnnamed = false;       ///< There are rows without a name that take what is offered.
+    /// The place of a row and one, from the slot of its name on; 0: no further row of that slot's names.
+    std::uint8_t slots[kSlots] = {};
+
+    static constexpr unsigned SlotOf(XmlName name) { return static_cast<unsigned>(name.number) % kSlots; }
+    static constexpr unsigned Behind(unsigned slot) { return (slot + 1) % kSlots; }
+    constexpr void Index() {
+        for (std::size_t i = 0; i < count; ++i) {
+            unsigned slot = SlotOf(fields[i].name);
+            while (slots[slot] != 0) slot = Behind(slot);
+            slots[slot] = static_cast<std::uint8_t>(i + 1);
+        }
+    }
+    /// The first row of a known name, not of the base class, that `fits`; NULL: there is none.
+    template <class Predicate>
+    const XmlField* Find(XmlName name, Predicate fits) const {
+        for (unsigned slot = SlotOf(name); slots[slot] != 0; slot = Behind(slot)) {
+            const XmlField& row = fields[slots[slot] - 1];
+            if (row.name == name && fits(row)) return &row;
+        }
+        return nullptr;
+    }
 };
 
 /// What the regular hooks answer and log for what no row takes. A log line without a format is not logged.
@@ -331,6 +355,8 @@ constexpr XmlClass ixClass(const char* name, const char* type, const char* sourc
     XmlClass description = ixClass<Element>(name, type, source, answers);
     description.table.fields = rows;
     description.table.count = count;
+    static_assert(count < XmlFieldTable::kSlots, "there is a free slot");
+    description.table.Index();
     for (const XmlField& row : rows) {
         const bool isUnnamed = row.role == XmlRole::OwnText || row.role == XmlRole::OneOf || row.role == XmlRole::Mixed;
         description.table.hasUnnamed = description.table.hasUnnamed || isUnnamed;

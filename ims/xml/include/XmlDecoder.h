@@ -80,6 +80,10 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     void ResetXmlDecoder();
     /// Sets the receiver of the events, which stays with the caller. Call it before `Decode`.
     void SetSchemaDecoder(XmlDecoderSchema* decoder) { m_pSchemaDecoder = decoder; }
+    /// The length of the name that is being reported, if `name` is that; else counted. A receiver spares the counting.
+    std::size_t LengthOf(const char* name) const { return IsReported(name) ? m_event.length : __strlen(name); }
+    /// True while `name` is being reported: an element with its "/", or an attribute.
+    bool IsReported(const char* name) const { return name == m_event.text; }
 
     /// Decodes up to `length` characters of `text`, or fewer if a NUL comes first. The text is copied and not changed.
     ///
@@ -136,6 +140,29 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
         std::size_t length = 0;
     };
 
+    /// The name in the event that is being reported; none between events.
+    struct EventName {
+        const char* text = nullptr;
+        std::size_t length = 0;
+    };
+
+    /// Where the attributes of a tag stand. They are noted while the list is checked, if they are few and each has a
+    /// name.
+    struct AttributePlaces {
+        static constexpr std::size_t kMost = 16;
+        struct {
+            char* name;
+            char* equals;
+            char* value;
+            char* close;
+        } places[kMost];
+        std::size_t count = 0;
+        bool isComplete = true;
+        char* rest = nullptr;  ///< White space behind the last one.
+
+        void Add(char* name, char* equals, char* value, char* close);
+    };
+
     bool AppendToPending(const char* text, std::size_t length);
     void FreePending();
     int KeepFrom(char* rest, char* begin);
@@ -145,8 +172,11 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     int DecodeSelfClosingTag(char* content, char* end);
     int DecodeStartTag(char* content, char* end);
     int SplitAttributes(char* content, char* end, TagName* name);
-    static int ValidateList(char* text, const char* end);
-    int ReportAttributes(const TagName& name, char* rest, char* end);
+    static int ValidateList(char* text, const char* end, AttributePlaces& attributes);
+    int ReportAttributes(const TagName& name, char* rest, char* end, bool hasEntities);
+    int ReportPlaces(const TagName& name, const AttributePlaces& attributes, bool hasEntities);
+    int ReportElement(char* name, std::size_t length, char* text);
+    void ReportAttribute(const TagName& element, char* name, std::size_t length, char* value);
     int ReportSelfClosingEnd(const TagName& name, char* rest);
     bool PushName(const char* name, std::size_t length);
     OpenName* NextOpenName();
@@ -173,6 +203,7 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     XmlWorkText m_unescapeCopy;
     XmlWorkText m_attributeList;
     XmlWorkText m_endName;
+    EventName m_event;
 };
 
 #endif

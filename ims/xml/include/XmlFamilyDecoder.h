@@ -239,6 +239,8 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     int ProcessEndOfStartTag(char* element) override;
     XMLElement* GetSessionData() override { return m_pSessionData; }
 
+    /// Says whose events are to come; it knows the lengths of the names. Without one they are counted.
+    void SetTokenizer(const XmlDecoder* tokenizer) { m_pTokenizer = tokenizer; }
     /// Takes over the prefixes of a binder (see `XMLContext::SetNamespaceBinder`). NULL, or a binder without
     /// namespaces, changes nothing. @return 1.
     int SetNameSpaceBinderInfo(XMLObject* binder);
@@ -267,6 +269,8 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     /// The object of a start tag may be the result. The default: when it is that of a root.
     virtual bool IsResult(const XmlContainerRow& row) const { return row.role == XmlContainerRow::Root; }
 
+    /// The length of a name in the event that is being handled.
+    std::size_t LengthOf(const char* name) const;
     /// The object on top of the stack, or NULL.
     XMLElement* Top() const { return m_stack.empty() ? nullptr : static_cast<XMLElement*>(m_stack.top()); }
     /// Puts a new object on the stack; the attributes that follow are its own. A full stack drops it.
@@ -283,8 +287,10 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
   private:
     /// The start tag whose attributes come next.
     struct StartTag {
-        XmlWorkText name;                      ///< As it came.
         bool isOpen = false;                   ///< There is one.
+        const char* reported = nullptr;        ///< Its name in the events of the tokenizer; NULL: it is none of them.
+        XmlName resolved = IX_STR_IX_NULL;     ///< Its name as it is compared, when it was reported.
+        XmlWorkText name;                      ///< A copy for attributes that other callers bring.
         const XmlContainerRow* row = nullptr;  ///< Of its name; NULL: no container.
         XMLElement* own = nullptr;             ///< The object that it put on the stack, if it did.
     };
@@ -296,8 +302,12 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     const XmlContainerRow* FindContainer(const XmlTag& tag, XmlTag& local) const;
     static const XmlField* KnownRow(const XmlContainerRow* row, const XMLElement& receiver, XmlName attribute);
     bool EndContainer(const XmlContainerRow& row, const XmlTag& tag, char* text, bool& offered);
-    char* ComparedName(char* element);
-    bool IsStarted(const char* element) const;
+    bool IsReported(const char* name) const { return m_pTokenizer != nullptr && m_pTokenizer->IsReported(name); }
+    int MapPrefix(const char* tag, std::size_t length);
+    int RemovePrefix(const char* tag, std::size_t length);
+    char* ComparedName(char* element, std::size_t length);
+    void KeepStarted(const char* element, std::size_t length, XmlName resolved);
+    bool IsStarted(const char* element, const char* attribute) const;
     bool KeepOrphan(XMLElement* object);
 
     XmlCodeGenStack m_stack;
@@ -305,9 +315,10 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     StartTag m_started;
     XmlNamespaceTable m_namespaces;
     char* m_pMappedTag = nullptr;
-    std::size_t m_tagLength = 0;       ///< Of the last tag that was mapped or had its prefix removed ...
-    std::size_t m_comparedLength = 0;  ///< ... and of what it is compared as.
     char* m_pPassName = nullptr;
+    const XmlDecoder* m_pTokenizer = nullptr;
+    const char* m_pCompared = nullptr;  ///< What the last tag is compared as, without "/", and wherever it stands ...
+    std::size_t m_comparedLength = 0;   ///< ... and its length.
 
     const XmlDecoderInfo& m_info;
     XmlWorkText m_mappedText;

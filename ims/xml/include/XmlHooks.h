@@ -18,7 +18,8 @@ struct IX_XML_EXPORT XmlTag {
     bool isEnd;
     XmlName name;  ///< Without the "/".
 
-    explicit XmlTag(char* tag);
+    explicit XmlTag(char* tag) : XmlTag(tag, tag != nullptr ? __strlen(tag) : 0) {}
+    XmlTag(char* tag, std::size_t length);
     XmlTag(char* tag, bool ends, XmlName resolved) : text(tag), isEnd(ends), name(resolved) {}
     /// True for the start tag of the element.
     bool Starts(XmlName element) const { return !isEnd && name == element; }

@@ -38,7 +38,7 @@ int XmlCharacteristicDecoder::ProcessAttribute(char* element, char* attribute, c
     if (element == nullptr || attribute == nullptr)
         return XmlFamilyDecoder::ProcessAttribute(element, attribute, value);
     // Required: whatever element it stands at, and whatever its name is.
-    if (Top() != nullptr) XmlHooks::OfferTo(*Top(), XmlTag(attribute), value, nullptr);
+    if (Top() != nullptr) XmlHooks::OfferTo(*Top(), XmlTag(attribute, LengthOf(attribute)), value, nullptr);
     return 0;
 }
 

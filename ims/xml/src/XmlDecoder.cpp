@@ -281,7 +281,7 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
             ixLog(kSource, Line(2, 323, "<XML Decoder>XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"));
             return IX_XML_ERROR;
         }
-        if (m_pSchemaDecoder->ProcessElement(endName, text) != 0)
+        if (ReportElement(endName, length + 1, text) != 0)
             ixLog(kSource,
                   Line(3, 331, "<XML Decoder>:ProcessElement(pStrEndElement, start) failed when pStrEndElement=\"%s\""),
                   endName);
@@ -309,7 +309,7 @@ int XmlDecoder::DecodeStartTag(char* content, char* end) {
         return kSyntaxError;
     }
     if (m_pSchemaDecoder != nullptr) {
-        if (result == 1) m_pSchemaDecoder->ProcessElement(name.text, nullptr);
+        if (result == 1) ReportElement(name.text, name.length, nullptr);
         m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
     }
     if (!PushName(name.text, name.length)) {
@@ -354,7 +354,7 @@ int XmlDecoder::SplitAttributes(char* content, char* end, TagName* name) {
     const char* token = rest;
     while (*token == '=') ++token;
     if ((*token != '\0' || m_iSelfClosing == 1) && m_pSchemaDecoder != nullptr) {
-        m_pSchemaDecoder->ProcessElement(name->text, nullptr);
+        ReportElement(name->text, name->length, nullptr);
     }
     // Required: memory for a copy of the list is taken here, and its failure told, although the check needs no copy.
     if (!m_attributeList.Reserve(static_cast<std::size_t>(end - rest) + 1)) {
@@ -362,18 +362,53 @@ int XmlDecoder::SplitAttributes(char* content, char* end, TagName* name) {
         ixLog(kSource, {2, "XmlDecoder:: Malloc failed, Unable to validate attributeList", 540});
         return IX_XML_ERROR;
     }
-    const int valid = ValidateList(rest, end);
+    AttributePlaces attributes;
+    const int valid = ValidateList(rest, end, attributes);
     ixLog(kSource, Line(2, 547, "XmlDecoder:: DecodeAttributes %d"), valid);
     if (valid != 0) {
         ixLog(kSource, Line(2, 552, "XmlDecoder:: DecodeAttributes - Attribute list invalid"));
         return IX_XML_ERROR;
     }
-    return m_pSchemaDecoder != nullptr ? ReportAttributes(*name, rest, end) : 0;
+    if (m_pSchemaDecoder == nullptr) return 0;
+    if (rest == end) return m_iSelfClosing == 1 ? ReportSelfClosingEnd(*name, rest) : 1;
+    const bool hasEntities = std::memchr(rest, '&', static_cast<std::size_t>(end - rest)) != nullptr;
+    if (attributes.isComplete && attributes.count != 0) return ReportPlaces(*name, attributes, hasEntities);
+    return ReportAttributes(*name, rest, end, hasEntities);
 }
 
-int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end) {
+int XmlDecoder::ReportElement(char* name, std::size_t length, char* text) {
+    m_event = {name, length};
+    const int result = m_pSchemaDecoder->ProcessElement(name, text);
+    m_event = {};
+    return result;
+}
+
+void XmlDecoder::ReportAttribute(const TagName& element, char* name, std::size_t length, char* value) {
+    m_event = {name, length};
+    m_pSchemaDecoder->ProcessAttribute(element.text, name, value);
+    m_event = {};
+}
+
+/// The events of attributes whose places are known.
+int XmlDecoder::ReportPlaces(const TagName& name, const AttributePlaces& attributes, bool hasEntities) {
+    // All ends first: what has just been written is slow to read in larger units.
+    for (std::size_t i = 0; i < attributes.count; ++i) {
+        *attributes.places[i].equals = '\0';
+        *attributes.places[i].close = '\0';
+    }
+    for (std::size_t i = 0; i < attributes.count; ++i) {
+        const auto& place = attributes.places[i];
+        if (hasEntities) UnescapeXml(place.value);
+        ReportAttribute(name, place.name, static_cast<std::size_t>(place.equals - place.name), place.value);
+    }
+    char* const rest = XmlCommon::SkipSpaces(attributes.rest);
+    if (rest != attributes.rest) ReportAttribute(name, rest, 0, rest);
+    return m_iSelfClosing == 1 ? ReportSelfClosingEnd(name, rest) : 0;
+}
+
+/// The events of any list: names run up to the next "=", even over a value whose attribute has no name.
+int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end, bool hasEntities) {
     int result = 0;
-    const bool hasEntities = rest != end && std::memchr(rest, '&', static_cast<std::size_t>(end - rest)) != nullptr;
     do {
         char* attribute = CutAt(rest, '=', end, &rest);
         if (attribute == nullptr) {
@@ -394,41 +429,52 @@ int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end) {
             if (value == nullptr) value = end;
         }
         if (hasEntities) UnescapeXml(value);
-        m_pSchemaDecoder->ProcessAttribute(name.text, attribute, value);
+        ReportAttribute(name, attribute, __strlen(attribute), value);
     } while (*rest != '\0');
     return m_iSelfClosing == 1 ? ReportSelfClosingEnd(name, rest) : result;
 }
 
-/// Reports "/name", for which a tag that closes itself has no place.
+/// Reports "/name": the "/" takes the place of the "<", or of white space behind it.
 int XmlDecoder::ReportSelfClosingEnd(const TagName& name, char* rest) {
     m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
+    // Required: memory for a copy of the name is taken here, and its failure told, although no copy is needed.
     if (!m_endName.Reserve(name.length + 2)) {
         ixLog(kSource, Line(2, 627, "XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"));
         return IX_XML_ERROR;
     }
-    char* const endName = m_endName.Text();
-    endName[0] = '/';
-    std::memcpy(endName + 1, name.text, name.length + 1);
-    m_pSchemaDecoder->ProcessElement(endName, rest);
+    char* const endName = name.text - 1;
+    *endName = '/';
+    ReportElement(endName, name.length + 1, rest);
     m_iSelfClosing = 0;
     return 0;
 }
 
 int XmlDecoder::ValidateAttributeList(char* list) {
-    return list != nullptr ? ValidateList(list, list + __strlen(list)) : -1;
+    if (list == nullptr) return -1;
+    AttributePlaces attributes;
+    return ValidateList(list, list + __strlen(list), attributes);
+}
+
+void XmlDecoder::AttributePlaces::Add(char* name, char* equals, char* value, char* close) {
+    isComplete = isComplete && count < kMost && name != equals;
+    if (!isComplete) return;
+    places[count++] = {name, equals, value, close};
+    rest = close + 1;
 }
 
 /// ValidateAttributeList for a list whose NUL stands at `end`: names, which may be empty, each with "=" and a quoted
 /// value behind it, and white space between all of these.
-int XmlDecoder::ValidateList(char* text, const char* end) {
+int XmlDecoder::ValidateList(char* text, const char* end, AttributePlaces& attributes) {
     for (text = XmlCommon::SkipSpaces(text); text != end; text = XmlCommon::SkipSpaces(text)) {
-        text = XmlCommon::SkipSpaces(kNameEnds.EndOf(text));
-        if (*text != '=') return -1;
-        text = XmlCommon::SkipSpaces(text + 1);
+        char* const name = text;
+        char* const equals = XmlCommon::SkipSpaces(kNameEnds.EndOf(text));
+        if (*equals != '=') return -1;
+        text = XmlCommon::SkipSpaces(equals + 1);
         const char quote = *text;
         if (quote != '"' && quote != '\'') return -1;
         char* const close = FindByte(text + 1, end, quote);
         if (close == nullptr) return -1;
+        attributes.Add(name, equals, text + 1, close);
         text = close + 1;
     }
     return 0;

@@ -36,6 +36,7 @@ XMLElement* XmlFamilyUnMarshaller::Decode(const char* text, int tokenizerLine, i
     if (tokenizer != nullptr && decoder != nullptr) {
         if (binder != nullptr) decoder->SetNameSpaceBinderInfo(binder);
         tokenizer->SetSchemaDecoder(decoder);
+        decoder->SetTokenizer(tokenizer);
         const std::size_t length = __strlen(text);
         complete = length <= INT_MAX && tokenizer->Decode(text, static_cast<int>(length)) == IX_XML_SUCCESS;
         ixLog(m_info.source, complete ? m_info.decoded : m_info.notDecoded);

@@ -11,6 +11,12 @@ char* BehindPrefix(const XmlKnownName& known, char* name) {
     return *expected == '\0' && *name == ':' ? name + 1 : nullptr;
 }
 
+/// The first colon of a name, or its end. Names are short, and often just written: not worth a call.
+const char* FindColon(const char* name, const char* end) {
+    while (name != end && *name != ':') ++name;
+    return name;
+}
+
 }  // namespace
 
 XmlFamilyDecoder::XmlFamilyDecoder(const XmlDecoderInfo& info) : m_info(info) {
@@ -32,24 +38,30 @@ int XmlFamilyDecoder::SetNameSpaceBinderInfo(XMLObject* binder) {
 
 int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
     m_pMappedTag = nullptr;
-    if (tag == nullptr) return 0;
+    return tag != nullptr ? MapPrefix(tag, std::strlen(tag)) : 0;
+}
+
+int XmlFamilyDecoder::MapPrefix(const char* tag, std::size_t length) {
+    m_pMappedTag = nullptr;
     const bool isEnd = *tag == '/';
-    const std::size_t length = m_tagLength = std::strlen(tag);
     if (!m_mappedText.Reserve(length + 2)) {
         ixLog(m_info.source, isEnd ? m_info.texts.changeEndTagNoMemory : m_info.texts.changeTagNoMemory);
         return 0;
     }
     const char* const name = isEnd ? tag + 1 : tag;
-    const char* const colon = std::strchr(name, ':');
+    const char* const end = tag + length;
+    const char* const colon = FindColon(name, end);
     const XmlNamespaceTable::Entry* const entry =
-        colon != nullptr ? m_namespaces.FindDocumentPrefix(name, static_cast<std::size_t>(colon - name)) : nullptr;
+        colon != end ? m_namespaces.FindDocumentPrefix(name, static_cast<std::size_t>(colon - name)) : nullptr;
     if (entry == nullptr || *entry->canonicalPrefix == '\0') {
         std::memcpy(m_mappedText.Text(), tag, length + 1);
         m_pMappedTag = m_mappedText.Text();
+        m_pCompared = name;
+        m_comparedLength = static_cast<std::size_t>(end - name);
         return 1;
     }
     const std::size_t prefixLength = std::strlen(entry->canonicalPrefix);
-    const std::size_t localSize = std::strlen(colon) + 1;
+    const auto localSize = static_cast<std::size_t>(end - colon) + 1;
     if (!m_mappedText.Reserve(prefixLength + localSize + 2)) {
         ixLog(m_info.source, isEnd ? m_info.texts.mappedEndTagNoMemory : m_info.texts.mappedTagNoMemory);
         return 0;
@@ -59,16 +71,20 @@ int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
     std::memcpy(to, entry->canonicalPrefix, prefixLength);
     std::memcpy(to + prefixLength, colon, localSize);
     m_pMappedTag = m_mappedText.Text();
+    m_pCompared = to;
+    m_comparedLength = prefixLength + localSize - 1;
     return 1;
 }
 
 int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
     m_pPassName = nullptr;
-    if (tag == nullptr) {
-        ixLog(m_info.source, m_info.texts.removeTagNoTag);
-        return 0;
-    }
-    const std::size_t length = m_tagLength = std::strlen(tag);
+    if (tag != nullptr) return RemovePrefix(tag, std::strlen(tag));
+    ixLog(m_info.source, m_info.texts.removeTagNoTag);
+    return 0;
+}
+
+int XmlFamilyDecoder::RemovePrefix(const char* tag, std::size_t length) {
+    m_pPassName = nullptr;
     std::size_t size = length + 2;
     // Required: some decoders count the size in 16 bits, so that of a name of 65534 characters and more only the
     // beginning is there. It is cut to its room, never written past it.
@@ -79,30 +95,35 @@ int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
     }
     const char* const end = tag + (length < size ? length : size - (size != 0 ? 1 : 0));
     char* to = m_passText.Text();
+    m_pPassName = to;
     if (*tag == '/' && tag != end) *to++ = *tag++;
-    const void* const colon = std::memchr(tag, ':', static_cast<std::size_t>(end - tag));
-    if (colon != nullptr) tag = static_cast<const char*>(colon) + 1;
-    std::memcpy(to, tag, static_cast<std::size_t>(end - tag));
-    to[end - tag] = '\0';
-    m_pPassName = m_passText.Text();
-    m_comparedLength = static_cast<std::size_t>(to + (end - tag) - m_pPassName);
+    const char* const colon = FindColon(tag, end);
+    if (colon != end) tag = colon + 1;
+    m_pCompared = tag;
+    m_comparedLength = static_cast<std::size_t>(end - tag);
+    std::memcpy(to, tag, m_comparedLength);
+    to[m_comparedLength] = '\0';
     return 1;
 }
 
 /// The name as the tables of the schema have it; NULL without memory.
-char* XmlFamilyDecoder::ComparedName(char* element) {
+char* XmlFamilyDecoder::ComparedName(char* element, std::size_t length) {
     switch (m_info.names) {
         case XmlNamePolicy::Mapped:
-            XMLChangeNamespaceTag(element);
-            m_comparedLength = m_pMappedTag != nullptr ? std::strlen(m_pMappedTag) : 0;
+            MapPrefix(element, length);
             return m_pMappedTag;
         case XmlNamePolicy::Stripped:
-            XMLRemoveNameSpaceTag(element);
+            RemovePrefix(element, length);
             return m_pPassName;
         default:
-            m_tagLength = m_comparedLength = std::strlen(element);
+            m_pCompared = element + (*element == '/' ? 1 : 0);
+            m_comparedLength = static_cast<std::size_t>(element + length - m_pCompared);
             return element;
     }
+}
+
+std::size_t XmlFamilyDecoder::LengthOf(const char* name) const {
+    return m_pTokenizer != nullptr ? m_pTokenizer->LengthOf(name) : std::strlen(name);
 }
 
 int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
@@ -113,9 +134,10 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
     m_started.isOpen = false;
     m_started.row = nullptr;
     m_started.own = nullptr;
+    const std::size_t length = LengthOf(element);
     // Where names are compared with their prefix, the local name is at hand as well.
-    const bool ready = m_info.names != XmlNamePolicy::Mapped || XMLRemoveNameSpaceTag(element) != 0;
-    char* const name = ready ? ComparedName(element) : nullptr;
+    const bool ready = m_info.names != XmlNamePolicy::Mapped || RemovePrefix(element, length) != 0;
+    char* const name = ready ? ComparedName(element, length) : nullptr;
     if (name == nullptr) {
         m_pPassName = nullptr;
         m_pMappedTag = nullptr;
@@ -123,18 +145,29 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
         return -1;
     }
     const bool isEnd = *name == '/';
-    const XmlTag tag(name, isEnd, XmlName(name + (isEnd ? 1 : 0), m_comparedLength - (isEnd ? 1 : 0)));
+    // A tag that closes itself is reported twice, from one place.
+    const bool isSame = isEnd && m_started.reported == element + 1 && IsReported(element);
+    const XmlTag tag(name, isEnd, isSame ? m_started.resolved : XmlName(m_pCompared, m_comparedLength));
     if (isEnd) return EndElement(tag, text);
-    const std::size_t size = m_tagLength + 1;
-    m_started.isOpen = m_started.name.Reserve(size);
-    if (m_started.isOpen) std::memcpy(m_started.name.Text(), element, size);
+    KeepStarted(element, length, tag.name);
     return StartElement(tag);
 }
 
-/// True when `element` is the name of the last start tag. It is judged by its characters: a caller may use one buffer
-/// for all names.
-bool XmlFamilyDecoder::IsStarted(const char* element) const {
-    return m_started.isOpen && std::strcmp(m_started.name.Text(), element) == 0;
+void XmlFamilyDecoder::KeepStarted(const char* element, std::size_t length, XmlName resolved) {
+    m_started.resolved = resolved;
+    m_started.reported = IsReported(element) ? element : nullptr;
+    m_started.isOpen = m_started.reported != nullptr || m_started.name.Reserve(length + 1);
+    if (m_started.isOpen && m_started.reported == nullptr) {
+        std::memcpy(m_started.name.Text(), element, length + 1);
+    }
+}
+
+/// True when `element` is the name of the last start tag. The tokenizer reports both of one text. Other callers may use
+/// one buffer for all names: there it is judged by its characters.
+bool XmlFamilyDecoder::IsStarted(const char* element, const char* attribute) const {
+    if (!m_started.isOpen) return false;
+    if (m_started.reported != nullptr) return m_started.reported == element && IsReported(attribute);
+    return std::strcmp(m_started.name.Text(), element) == 0;
 }
 
 int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* value) {
@@ -145,8 +178,8 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     // White space at the end of a tag arrives as an attribute without a name.
     if (*attribute == '\0') return 0;
     const XmlContainerRow* row = m_started.row;
-    if (!IsStarted(element)) {
-        char* const name = ComparedName(element);
+    if (!IsStarted(element, attribute)) {
+        char* const name = ComparedName(element, std::strlen(element));
         if (name == nullptr) {
             ixLog(m_info.source, m_info.texts.noAttributeName);
             return -1;
@@ -157,7 +190,7 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     const XmlAttributePolicy policy = m_info.attributes;
     XMLElement* const receiver = policy == XmlAttributePolicy::Top ? Top() : m_started.own;
     if (receiver == nullptr) return 0;
-    const XmlTag tag(attribute, false, XmlName(attribute, std::strlen(attribute)));
+    const XmlTag tag(attribute, false, XmlName(attribute, LengthOf(attribute)));
     const XmlField* const known = KnownRow(row, *receiver, tag.name);
     if (known != nullptr) return value != nullptr ? KnownAttribute(*receiver, *known, tag, value) : 0;
     if (policy == XmlAttributePolicy::OwnNoPairs) return 0;

@@ -189,10 +189,8 @@ XmlAnswer OfferUnknown(XMLElement& element, const XmlClass& description, const X
 
 }  // namespace
 
-XmlTag::XmlTag(char* tag)
-    : text(tag),
-      isEnd(tag != nullptr && *tag == '/'),
-      name(tag != nullptr ? tag + (isEnd ? 1 : 0) : "", tag != nullptr ? std::strlen(tag) - (isEnd ? 1 : 0) : 0) {}
+XmlTag::XmlTag(char* tag, std::size_t length)
+    : text(tag), isEnd(tag != nullptr && *tag == '/'), name(tag + (isEnd ? 1 : 0), length - (isEnd ? 1 : 0)) {}
 
 XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, const XmlTag& tag, const char* text,
                           XMLElement* child) {
@@ -201,11 +199,9 @@ XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, cons
     if (tag.name.IsKnown()) {
         const Place place = {element, description, tag, text, child};
         XmlAnswer answer = XmlAnswer::Refused;
+        const auto isTaken = [&](const XmlField& row) { return TakeByName(place, row, answer); };
         for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
-            for (std::size_t i = 0; i < table->count; ++i) {
-                const XmlField& row = table->fields[i];
-                if (row.name == tag.name && TakeByName(place, row, answer)) return answer;
-            }
+            if (table->Find(tag.name, isTaken) != nullptr) return answer;
         }
         if (TakeByClass(place, answer)) return answer;
     }
@@ -214,13 +210,14 @@ XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, cons
 
 const XmlField* XmlHooks::AttributeRow(const XmlClass& description, XmlName name) {
     if (!name.IsKnown()) return nullptr;
-    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
-        for (std::size_t i = 0; i < table->count; ++i) {
-            const XmlField& row = table->fields[i];
-            if (row.name == name && (row.role == XmlRole::Attribute || row.role == XmlRole::Dropped)) return &row;
-        }
+    const auto isAttribute = [](const XmlField& row) {
+        return row.role == XmlRole::Attribute || row.role == XmlRole::Dropped;
+    };
+    const XmlField* row = nullptr;
+    for (const XmlFieldTable* table = &description.table; table != nullptr && row == nullptr; table = table->base) {
+        row = table->Find(name, isAttribute);
     }
-    return nullptr;
+    return row;
 }
 
 XmlAnswer XmlHooks::TakeAttribute(XMLElement& element, const XmlField& row, const char* value) {

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr const char* kExtraNames[] = {
+constexpr char kExtraNames[][100] = {
     "parm",        "characteristic",        "wap-provisioningdoc",    "volte-config-info",  "processing-notification",
     "willingness", "session-participation", "overriding-willingness", "registration-state", "barring-state",
     "barring"};
@@ -19,14 +19,35 @@ constexpr std::size_t LengthOf(const char* text) {
     return length;
 }
 
-/// A few characters tell most names apart.
-constexpr std::size_t SlotOf(const char* text, std::size_t length) {
-    if (length == 0) return 0;
-    const auto first = static_cast<unsigned char>(text[0]);
-    const auto middle = static_cast<unsigned char>(text[length / 2]);
-    const auto last = static_cast<unsigned char>(text[length - 1]);
-    return (first * 31U + middle * 7U + last * 131U + length * 17U) % kSlots;
+constexpr std::uint64_t Byte(const char* text, std::size_t at) { return static_cast<unsigned char>(text[at]); }
+
+/// Compilers make one load of each.
+constexpr std::uint64_t Load4(const char* text) {
+    return Byte(text, 0) | Byte(text, 1) << 8 | Byte(text, 2) << 16 | Byte(text, 3) << 24;
 }
+constexpr std::uint64_t Load8(const char* text) { return Load4(text) | Load4(text + 4) << 32; }
+
+/// The beginning and the end of a name, which are all of it up to 16 characters.
+struct Ends {
+    std::uint64_t first = 0;
+    std::uint64_t last = 0;
+
+    constexpr Ends() = default;
+    constexpr Ends(const char* text, std::size_t length) {
+        if (length >= 8) {
+            first = Load8(text);
+            last = Load8(text + length - 8);
+        } else if (length >= 4) {
+            first = Load4(text) | Load4(text + length - 4) << (8 * (length - 4));
+        } else if (length > 0) {
+            first = Byte(text, 0) | Byte(text, length / 2) << (8 * (length / 2)) |
+                    Byte(text, length - 1) << (8 * (length - 1));
+        }
+    }
+    constexpr bool operator==(const Ends& other) const { return first == other.first && last == other.last; }
+    constexpr std::size_t Slot() const { return ((first ^ last << 7) * 0x9e3779b97f4a7c15U) >> 54; }
+};
+static_assert(kSlots == std::size_t{1} << (64 - 54), "the upper bits number the slots");
 
 /// For the index only, which is made at compile time.
 constexpr const char* kTexts[kXmlNameCount] = {
@@ -45,12 +66,14 @@ struct Slot {
 struct Index {
     Slot slots[kSlots];
     Slot next[kXmlNameCount];  ///< The next name with the same slot.
+    Ends ends[kXmlNameCount];
 
-    constexpr Index() : slots{}, next{} {
+    constexpr Index() : slots{}, next{}, ends{} {
         // Backwards, so that the lower one of two equal names is found.
         for (int i = kXmlNameCount - 1; i > 0; --i) {
             const std::size_t length = LengthOf(kTexts[i]);
-            Slot& slot = slots[SlotOf(kTexts[i], length)];
+            ends[i] = Ends(kTexts[i], length);
+            Slot& slot = slots[ends[i].Slot()];
             next[i] = slot;
             slot.number = static_cast<std::int16_t>(i);
             slot.length = static_cast<std::uint8_t>(length);
@@ -64,17 +87,27 @@ const char* TextOf(int number) {
                                     : kExtraNames[number - kXmlStrRefCount];
 }
 
+/// A name that is longer than its beginning and its end.
+[[gnu::noinline]] int NumberOfLong(const char* text, std::size_t length, const Ends& ends) {
+    const Slot* slot = &kIndex.slots[ends.Slot()];
+    for (; slot->number != XmlName::kUnknown; slot = &kIndex.next[slot->number]) {
+        if (slot->length == length && std::memcmp(TextOf(slot->number), text, length) == 0) break;
+    }
+    return slot->number;
+}
+
+int NumberOf(const char* text, std::size_t length) {
+    const Ends ends(text, length);
+    if (length > sizeof ends) return NumberOfLong(text, length, ends);
+    const Slot* slot = &kIndex.slots[ends.Slot()];
+    for (; slot->number != XmlName::kUnknown; slot = &kIndex.next[slot->number]) {
+        if (slot->length == length && kIndex.ends[slot->number] == ends) break;
+    }
+    return slot->number;
+}
+
 }  // namespace
 
-XmlName::XmlName(const char* text, std::size_t length) : number(kUnknown) {
-    const Slot* slot = &kIndex.slots[SlotOf(text, length)];
-    while (slot->number != kUnknown) {
-        if (slot->length == length && std::memcmp(TextOf(slot->number), text, length) == 0) {
-            number = slot->number;
-            return;
-        }
-        slot = &kIndex.next[slot->number];
-    }
-}
+XmlName::XmlName(const char* text, std::size_t length) : number(NumberOf(text, length)) {}
 
 const char* XmlName::Text() const { return number != kUnknown ? TextOf(number) : nullptr; }
