@@ -19,6 +19,8 @@
 
 #include "Classes.h"
 #include "Scenario.h"
+#include "XMLSchemaNameSpaceRetrieval.h"
+#include "XmlFamilyDecoder.h"
 #include "XmlFields.h"
 
 namespace {
@@ -367,7 +369,41 @@ class DecoderEventsTest : public XmlTest, public testing::WithParamInterface<eXM
         return answers.Text(root.empty() ? "in nothing:" : "in " + root + ':', {});
     }
 
+    /// The same of the operations on names with prefixes, and of making a decoder.
+    std::string AnswersWithoutMemory() {
+        Answers answers;
+        for (unsigned long failing = 1;; ++failing) {
+            std::unique_ptr<XmlDecoderSchema> decoder;
+            const std::string outcome = Answer(failing, [&] {
+                decoder = NewDecoder(GetParam());
+                return decoder != nullptr ? 1 : 0;
+            });
+            const XmlOwned<> session(decoder != nullptr ? decoder->GetSessionData() : nullptr);
+            if (!m_reached) break;
+            answers.Add("made", "without memory " + std::to_string(failing), outcome);
+        }
+        for (const char* const begin : {"", "/", "x:", "/x:"}) {
+            const std::string tag = begin + m_long;
+            for (unsigned long failing = 1; failing <= 2; ++failing) {
+                const std::string label = begin + ("long" + (kWithoutMemory + (' ' + std::to_string(failing))));
+                answers.Add("mapped", label, Change(tag, failing, &XmlFamilyDecoder::XMLChangeNamespaceTag));
+                answers.Add("removed", label, Change(tag, failing, &XmlFamilyDecoder::XMLRemoveNameSpaceTag));
+            }
+        }
+        return answers.Text("decoder", {});
+    }
+
   private:
+    std::string Change(const std::string& tag, unsigned long failing, int (XmlFamilyDecoder::*change)(const char*)) {
+        ix_schema_namespace_retrieval binder;
+        binder.addNameSpaceInfo(ixCreatePair("x", "http://uri.etsi.org/ngn/params/xml/simservs/xcap", "test"));
+        const std::unique_ptr<XmlDecoderSchema> made = NewDecoder(GetParam());
+        const XmlOwned<> session(made->GetSessionData());
+        auto& decoder = static_cast<XmlFamilyDecoder&>(*made);
+        decoder.SetNameSpaceBinderInfo(&binder);
+        return Answer(failing, [&] { return (decoder.*change)(tag.c_str()); });
+    }
+
     void Add(Answers& answers, const std::string& root, const Event& event) {
         const std::string label = Shown(event.element) + (event.isAttribute ? ' ' + Shown(event.attribute) : "") +
                                   (event.text != nullptr ? " text" : "");
@@ -388,14 +424,22 @@ class DecoderEventsTest : public XmlTest, public testing::WithParamInterface<eXM
         auto* const element = const_cast<char*>(event.element);
         auto* const attribute = const_cast<char*>(event.attribute);
         auto* const text = const_cast<char*>(event.text);
+        std::string outcome = Answer(failing, [&] {
+            return event.isAttribute ? decoder->ProcessAttribute(element, attribute, text)
+                                     : decoder->ProcessElement(element, text);
+        });
+        const XmlOwned<> session(decoder->GetSessionData());
+        return outcome;
+    }
+
+    /// What a call answers, and logs.
+    template <class Call>
+    std::string Answer(unsigned long failing, const Call& call) {
         ClearLog();
         ixDplHostFailAllocation(failing);
-        const int answer = event.isAttribute ? decoder->ProcessAttribute(element, attribute, text)
-                                             : decoder->ProcessElement(element, text);
+        std::string outcome = std::to_string(call());
         m_reached = ixDplHostAllocations() >= failing;
         ixDplHostStopCounting();
-        const XmlOwned<> session(decoder->GetSessionData());
-        std::string outcome = std::to_string(answer);
         for (const LogLine& line : LogOfSchemas()) outcome += " \"" + ShownWithSource(line) + '"';
         Replace(outcome, m_long, "long");
         return outcome;
@@ -406,7 +450,7 @@ class DecoderEventsTest : public XmlTest, public testing::WithParamInterface<eXM
     }
 
     /// Longer than the room for names that a decoder begins with.
-    const std::string m_long = std::string(100, 'x');
+    const std::string m_long = std::string(200, 'x');
     bool m_reached = false;
 };
 
@@ -414,7 +458,7 @@ INSTANTIATE_TEST_SUITE_P(Schemas, DecoderEventsTest, testing::ValuesIn(AllSchema
 
 TEST_P(DecoderEventsTest, AreAnsweredAsExpected) {
     const XmlSchemaInfo& schema = *XMLFactory::SchemaInfo(GetParam());
-    std::string text = AnswersIn("");
+    std::string text = AnswersWithoutMemory() + AnswersIn("");
     std::istringstream roots(schema.rootElements);
     for (std::string root; roots >> root;) text += AnswersIn(root);
     text.pop_back();

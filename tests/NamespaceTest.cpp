@@ -17,10 +17,6 @@ struct Mapping {
     const char *tag, *mapped;
 };
 
-LogLine Line(int level, int code, int line, const std::string& text) {
-    return {level, code, "ims/xml/src/CommunicationWaiting", line, text};
-}
-
 class NamespaceTest : public XmlTest {
   protected:
     /// Binds the declarations to a decoder, and checks what the tags become.
@@ -110,36 +106,6 @@ TEST_F(NamespaceTest, PrefixesAreRemoved) {
     for (const Mapping& row : table) {
         EXPECT_EQ(decoder.XMLRemoveNameSpaceTag(row.tag), 1);
         EXPECT_STREQ(decoder.PassName(), row.mapped) << row.tag;
-    }
-}
-
-TEST_F(NamespaceTest, FailedAllocationsAreLoggedAndLeaveNoResult) {
-    // Required: these texts name other classes.
-    const char kChange[] = "XMLCommunicationDiversionDecoder :: XMLChangeNamespaceTag Malloc unable to allocate memory";
-    const char kMapped[] = "XmlDecoder:: m_strDup: Malloc unable to allocate memory";
-    const std::string tag(200, 't');  // Longer than what a decoder has at hand.
-    struct {
-        std::string tag;
-        unsigned long failing;
-        LogLine line;
-    } const table[] = {
-        {tag, 1, Line(2, 6053, 100, kChange)},
-        {"/" + tag, 1, Line(2, 6053, 130, kChange)},
-        {"x:" + tag, 2, Line(2, 6053, 166, kMapped)},
-        {"/x:" + tag, 2, Line(2, 6053, 183, kMapped)},
-    };
-    ix_schema_namespace_retrieval binder;
-    binder.addNameSpaceInfo(ixCreatePair("x", kSimservs, "test"));
-    for (const auto& row : table) {
-        XMLCommunicationWaitingDecoder decoder;
-        decoder.SetNameSpaceBinderInfo(&binder);
-        EXPECT_EQ(decoder.XMLChangeNamespaceTag("a"), 1);
-        ClearLog();
-        ixDplHostFailAllocation(row.failing);
-        EXPECT_EQ(decoder.XMLChangeNamespaceTag(row.tag.c_str()), 0);
-        EXPECT_EQ(Log(), std::vector<LogLine>{row.line});
-        EXPECT_EQ(decoder.MappedTag(), nullptr);
-        EXPECT_EQ(decoder.XMLChangeNamespaceTag(row.tag.c_str()), 1);
     }
 }
 
