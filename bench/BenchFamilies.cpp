@@ -53,7 +53,8 @@ std::size_t CountItems(const XMLElement& element) {
 /// Our library, ready for a schema.
 class Library {
   public:
-    explicit Library(eXMLSchemaID schema) : m_context(XMLFactory::newInstance(schema)) {
+    explicit Library(eXMLSchemaID schema, eXMLProfile profile = IX_XML_PROFILE_DEVICE)
+        : m_context(XMLFactory::newInstance(schema, profile)) {
         m_unMarshaller = m_context->createUnMarshaller();
         m_marshaller = m_context->createMarshaller();
     }
@@ -159,9 +160,9 @@ void Measure(benchmark::State& state, const Document& document, std::size_t byte
     state.counters["per_item"] = allocations / static_cast<double>(document.Items());
 }
 
-void Decode(benchmark::State& state, Document& document) {
+void Decode(benchmark::State& state, Document& document, eXMLProfile profile) {
     const std::string& text = document.Text();
-    const Library library(document.Family().schema);
+    const Library library(document.Family().schema, profile);
     Measure(state, document, text.size(), [&] { library.DecodeAndRelease(text); });
 }
 
@@ -171,8 +172,8 @@ void DecodePeer(benchmark::State& state, Document& document, RecordReader read) 
     Measure(state, document, text.size(), [&] { family.readAndRelease(text, family.root, read); });
 }
 
-void Encode(benchmark::State& state, Document& document) {
-    Library library(document.Family().schema);
+void Encode(benchmark::State& state, Document& document, eXMLProfile profile) {
+    Library library(document.Family().schema, profile);
     XMLElement* const root = library.Decode(document.Text());
     const std::size_t size = std::string(library.Encode(root)).size();
     Measure(state, document, size, [&] { benchmark::DoNotOptimize(library.Encode(root)); });
@@ -221,11 +222,14 @@ void AddDocument(const std::string& name, const BenchFamily& family, DocumentMak
         benchmark::RegisterBenchmark((name + suffix).c_str(),
                                      [document, run](benchmark::State& state) { run(state, *document); });
     };
-    add("-decode/imsxml", Decode);
+    add("-decode/imsxml", [](auto& state, Document& of) { Decode(state, of, IX_XML_PROFILE_DEVICE); });
+    add("-decode/standard", [](auto& state, Document& of) { Decode(state, of, IX_XML_PROFILE_STANDARD); });
     add("-decode/expat", [](auto& state, Document& of) { DecodePeer(state, of, ReadWithExpat); });
     add("-decode/pugixml", [](auto& state, Document& of) { DecodePeer(state, of, ReadWithPugixml); });
+    add("-decode/rapidxml", [](auto& state, Document& of) { DecodePeer(state, of, ReadWithRapidxml); });
     if (directions == BenchDirections::Decode) return;
-    add("-encode/imsxml", Encode);
+    add("-encode/imsxml", [](auto& state, Document& of) { Encode(state, of, IX_XML_PROFILE_DEVICE); });
+    add("-encode/standard", [](auto& state, Document& of) { Encode(state, of, IX_XML_PROFILE_STANDARD); });
     add("-encode/pugixml", EncodeWithPugixml);
     add("-encode/tinyxml2", EncodeWithTinyxml2);
 }

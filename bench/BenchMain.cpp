@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr const char* kLibraries[] = {"imsxml", "expat", "pugixml", "tinyxml2"};
+constexpr const char* kLibraries[] = {"imsxml", "standard", "expat", "pugixml", "rapidxml", "tinyxml2"};
 constexpr std::size_t kLibraryCount = std::size(kLibraries);
 
 /// Splits "tokenizer/imsxml/1024" into the document "tokenizer/1024" and the library 0.

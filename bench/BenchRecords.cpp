@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <pugixml.hpp>
+#include <rapidxml/rapidxml.hpp>
 
 #include "BenchDocuments.h"
 
@@ -114,6 +115,24 @@ void FillFromNode(const pugi::xml_node& node, const RecordType& type, bool anyPr
     }
 }
 
+void FillFromNode(const rapidxml::xml_node<>& node, const RecordType& type, bool anyPrefix, void* record) {
+    for (const auto* attribute = node.first_attribute(); attribute != nullptr;
+         attribute = attribute->next_attribute()) {
+        TakeAttribute(type, record, attribute->name(), attribute->value());
+    }
+    if (type.content != nullptr) type.content->take(record, node.value(), "");
+    for (const auto* child = node.first_node(); child != nullptr; child = child->next_sibling()) {
+        const RecordField* const field =
+            child->type() == rapidxml::node_element ? FindElement(type, child->name(), anyPrefix) : nullptr;
+        if (field == nullptr) continue;
+        if (field->kind == RecordField::Record) {
+            FillFromNode(*child, *field->type, anyPrefix, field->add(record));
+        } else {
+            field->take(record, child->value(), "");
+        }
+    }
+}
+
 }  // namespace
 
 void ReadWithExpat(const std::string& text, const RecordRoot& root, void* record) {
@@ -135,6 +154,19 @@ void ReadWithPugixml(const std::string& text, const RecordRoot& root, void* reco
     const pugi::xml_node node = document.document_element();
     if (!IsRoot(node.name(), root)) std::abort();
     FillFromNode(node, root.type, root.anyPrefix, record);
+}
+
+void ReadWithRapidxml(const std::string& text, const RecordRoot& root, void* record) {
+    // It reads within the text; the copy and the memory of the tree stay from document to document.
+    static std::string copy;
+    static rapidxml::xml_document<> document;
+    copy = text;
+    document.clear();
+    document.parse<rapidxml::parse_default>(copy.data());
+    const rapidxml::xml_node<>* node = document.first_node();
+    while (node->type() != rapidxml::node_element) node = node->next_sibling();
+    if (!IsRoot(node->name(), root)) std::abort();
+    FillFromNode(*node, root.type, root.anyPrefix, record);
 }
 
 void WriteWithTinyxml2(const char* name, const RecordType& type, const void* record, tinyxml2::XMLPrinter& printer) {

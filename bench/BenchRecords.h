@@ -103,6 +103,7 @@ struct RecordRoot {
 using RecordReader = void (*)(const std::string& text, const RecordRoot& root, void* record);
 void ReadWithExpat(const std::string& text, const RecordRoot& root, void* record);
 void ReadWithPugixml(const std::string& text, const RecordRoot& root, void* record);
+void ReadWithRapidxml(const std::string& text, const RecordRoot& root, void* record);
 /// @}
 
 /// Writes the struct of an element `name`.

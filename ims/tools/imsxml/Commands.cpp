@@ -30,8 +30,11 @@ struct Decoded {
     XmlOwned<> root;
 };
 
-XmlOwnedContext NewContext(const XmlSchemaInfo& schema) {
-    XmlOwnedContext context(XMLFactory::newInstance(schema.id));
+XmlOwnedContext NewContext(const XmlSchemaInfo& schema, eXMLProfile profile = IX_XML_PROFILE_DEVICE) {
+    XmlOwnedContext context(XMLFactory::newInstance(schema.id, profile));
+    if (context == nullptr && profile == IX_XML_PROFILE_STANDARD) {
+        throw DocumentError{kNotDecoded, std::string("schema ") + schema.name + " has no standard profile"};
+    }
     if (context == nullptr) throw DocumentError{kNotDecoded, "no memory for the context"};
     return context;
 }
@@ -49,6 +52,19 @@ XmlOwned<> UnMarshall(XMLContext& context, const Document& document, bool log) {
     return root;
 }
 
+/// The same in the standard profile, which says what is wrong.
+XmlOwned<> UnMarshallStandard(XMLContext& context, const Document& document, bool log) {
+    const LogWatch watch(log);
+    XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
+    if (unMarshaller == nullptr) throw DocumentError{kNotDecoded, "no memory"};
+    XmlOwned<> root(unMarshaller->UnMarshall(document.text.data(), document.text.size()));
+    if (root != nullptr) return root;
+    const XmlProblem problem = *unMarshaller->Problem();
+    const std::string place =
+        problem.line != 0 ? std::to_string(problem.line) + ':' + std::to_string(problem.column) : "";
+    throw DocumentError{kNotDecoded, problem.text, kNoOffset, place};
+}
+
 /// The declarations of a document; not decoded: NULL.
 XmlOwned<> DecodeNamespaces(const Document& document, bool log) {
     const XmlOwnedContext context = NewContext(*XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL));
@@ -63,6 +79,12 @@ const XmlSchemaInfo& FindSchema(const Document& document) {
 
 Decoded Decode(const Document& document, const Options& options) {
     Decoded result;
+    if (options.profile == IX_XML_PROFILE_STANDARD) {
+        result.schema = options.schema != nullptr ? options.schema : &StandardSchemaOf(document.text);
+        result.context = NewContext(*result.schema, options.profile);
+        result.root = UnMarshallStandard(*result.context, document, options.log);
+        return result;
+    }
     result.schema = options.schema != nullptr ? options.schema : &FindSchema(document);
     result.context = NewContext(*result.schema);
     if (options.binder && result.schema->takesBinder) {
@@ -75,25 +97,28 @@ Decoded Decode(const Document& document, const Options& options) {
     return result;
 }
 
-std::string MarshallText(const Decoded& decoded, const Document& document, bool log) {
+std::string MarshallText(const Decoded& decoded, const Document& document, const Options& options) {
+    const bool isDevice = options.profile == IX_XML_PROFILE_DEVICE;
     const std::string name = decoded.schema->name;
     XMLMarshaller* const marshaller = decoded.context->createMarshaller();
     if (marshaller == nullptr) throw DocumentError{kNotMarshalled, "documents of schema " + name + " are only read"};
     const char* text = nullptr;
     std::string reason;
     {
-        const LogWatch watch(log);
+        const LogWatch watch(options.log);
         text = marshaller->Marshall(decoded.root.get());
         reason = watch.Reason();
     }
+    const XmlProblem* const problem = marshaller->Problem();
     if (text == nullptr) {
+        if (problem != nullptr) reason = problem->text;
         if (reason.empty()) reason = "the library does not say why";
         throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document: " + reason};
     }
     std::string written = text;
     if (marshaller->IsTruncated() != 0) {
         Warn(document, "the text was cut at 32767 characters");
-    } else if (!Scanner(written).FindEnd()) {
+    } else if (isDevice && !Scanner(written).FindEnd()) {
         // Elements stay open where something mandatory is missing in them.
         Warn(document, "the written text is not well-formed" + (reason.empty() ? "" : ": " + reason));
     }
@@ -137,11 +162,17 @@ std::string DecodeDocument(const Document& document, const Options& options, con
 std::string ConvertDocument(const Document& document, const Options& options, const Progress& progress) {
     const Decoded decoded = Decode(document, options);
     progress.Enter(Stage::Writing);
-    return MarshallText(decoded, document, options.log);
+    return MarshallText(decoded, document, options);
 }
 
 std::string ListNamespaces(const Document& document, const Options& options, const Progress& /*progress*/) {
-    const XmlOwned<> root = DecodeNamespaces(document, options.log);
+    XmlOwned<> root;
+    if (options.profile == IX_XML_PROFILE_STANDARD) {
+        const XmlSchemaInfo& schema = *XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL);
+        root = UnMarshallStandard(*NewContext(schema, options.profile), document, options.log);
+    } else {
+        root = DecodeNamespaces(document, options.log);
+    }
     if (root == nullptr) throw Diagnose(document);
     const IxSingleElementList* const list = static_cast<ix_schema_namespace_retrieval&>(*root).getNameSpaceInfo();
     std::string text;

@@ -19,8 +19,8 @@ std::string Document::PlaceOf(std::size_t offset) const {
 }
 
 std::string Document::Describe(const DocumentError& error) const {
-    const std::string place = error.offset == kNoOffset ? "" : ':' + PlaceOf(error.offset);
-    return name + place + ": " + error.message;
+    const std::string place = error.offset == kNoOffset ? error.place : PlaceOf(error.offset);
+    return name + (place.empty() ? "" : ':' + place) + ": " + error.message;
 }
 
 std::string ReadText(const std::string& name) {

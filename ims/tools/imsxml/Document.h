@@ -16,6 +16,7 @@ struct DocumentError {
     ExitStatus status;
     std::string message;
     std::size_t offset = kNoOffset;  ///< Of the byte that is at fault, when it is known.
+    std::string place{};             ///< "LINE:COLUMN", where that is known in place of the offset.
 };
 
 struct Document {

@@ -116,6 +116,7 @@ class CommandLine {
 
     Options m_options;
     std::optional<std::string> m_schema;
+    std::string m_profile = "device";
     std::string m_format = "json";
     std::string m_colour = "auto";
     CLI::App m_app{kAbout, "imsxml"};
@@ -153,6 +154,11 @@ CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const
         ->check([](const std::string& file) { return std::string(file.empty() ? "a name is empty" : ""); });
     command->add_flag("--log", m_options.log, "Print the library's log lines to the standard error");
     command->add_flag("--leaks", m_options.leaks, "Print to the standard error what memory is alive after each file");
+    command
+        ->add_option("--profile", m_profile,
+                     "device, the dialect of the client stack, or standard, what the public standards say")
+        ->check(CLI::IsMember({"device", "standard"}))
+        ->capture_default_str();
     command->add_option("--timeout", m_options.timeout, "Seconds that a file may take; 0: no limit")
         ->check(CheckSeconds)
         ->capture_default_str();
@@ -177,6 +183,7 @@ int CommandLine::Run(int argc, char** argv) {
         return error.status;
     }
     if (m_schemas->parsed()) return Print(ListSchemas());
+    if (m_profile == "standard") m_options.profile = IX_XML_PROFILE_STANDARD;
     m_options.tree = m_format == "tree";
     if (m_colour != "auto") m_options.colour = m_colour == "always" ? Colour::Always : Colour::Never;
     if (m_decode->parsed()) return RunOnFiles(DecodeDocument, m_options);

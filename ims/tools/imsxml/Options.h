@@ -18,7 +18,8 @@ enum class Colour {
 struct Options {
     std::vector<std::string> files;
     const XmlSchemaInfo* schema = nullptr;  ///< NULL: chosen by the root element of each document.
-    bool tree = false;                      ///< The outline for people in place of JSON.
+    eXMLProfile profile = IX_XML_PROFILE_DEVICE;
+    bool tree = false;  ///< The outline for people in place of JSON.
     Colour colour = Colour::Auto;
     bool binder = false;
     bool log = false;

@@ -5,6 +5,8 @@
 #include <iterator>
 #include <numeric>
 
+#include "Text.h"
+
 namespace {
 
 constexpr std::string_view kRuleParts[] = {"ruleset", "rule",    "conditions",     "identity",
@@ -46,7 +48,8 @@ std::string Nearest(std::string_view word, const std::vector<std::pair<std::stri
     return list;
 }
 
-[[noreturn]] void RefuseRoot(const RootElement& root) {
+[[noreturn]] void RefuseRoot(const std::string& root, std::size_t offset) {
+    const std::string_view local = std::string_view(root).substr(root.rfind(':') + 1);
     std::vector<std::pair<std::string_view, std::string>> candidates;
     for (const XmlSchemaInfo* schema : AllSchemas()) {
         for (const std::string_view name : RootsOf(*schema)) {
@@ -54,9 +57,8 @@ std::string Nearest(std::string_view word, const std::vector<std::pair<std::stri
         }
     }
     throw DocumentError{
-        kNotDecoded,
-        "root element " + TagText(root.name) + " is of no schema; the nearest: " + Nearest(root.Local(), candidates),
-        root.offset};
+        kNotDecoded, "root element " + TagText(root) + " is of no schema; the nearest: " + Nearest(local, candidates),
+        offset};
 }
 
 /// The schema of a document that is a part of a rule. What the rule does tells the two services apart: barring allows,
@@ -127,11 +129,30 @@ std::string NamespaceFault(const RootElement& root, const XmlSchemaInfo& schema)
     return "is of namespace " + QuotedText(uri) + ", not of " + QuotedText(expected) + " as in schema " + schema.name;
 }
 
+const XmlSchemaInfo& StandardSchemaOf(const std::string& text) {
+    // Behind declarations, comments and a document type, none of which has an element in it.
+    std::size_t at = text.find('<');
+    while (at != std::string::npos && at + 1 < text.size() && (text[at + 1] == '?' || text[at + 1] == '!')) {
+        const std::string_view rest = std::string_view(text).substr(at);
+        const char* const end = Begins(rest, "<!--") ? "-->" : Begins(rest, "<?") ? "?>" : ">";
+        at = text.find('<', std::min(text.find(end, at), text.size()));
+    }
+    const std::string_view tag = at != std::string::npos ? std::string_view(text).substr(at + 1) : std::string_view();
+    const std::string_view name = tag.substr(0, tag.find_first_of(" \t\r\n/><"));
+    const std::string_view local = name.substr(name.rfind(':') + 1);
+    if (local.empty()) return *XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL);
+    const bool allows = IsRulePart(local) && Has(text, "allow");
+    const XmlSchemaInfo* const schema =
+        allows ? XMLFactory::SchemaInfo(IX_XML_SCHEMA_COMMUNICATION_BARRING) : SchemaWithRoot(local);
+    if (schema == nullptr) RefuseRoot(std::string(name), at);
+    return *schema;
+}
+
 const XmlSchemaInfo& SchemaOf(Scanner& scanner) {
     const RootElement root = *scanner.Root();
     const XmlSchemaInfo* const schema =
         IsRulePart(root.Local()) ? &SchemaOfRule(scanner) : SchemaWithRoot(root.Local());
-    if (schema == nullptr) RefuseRoot(root);
+    if (schema == nullptr) RefuseRoot(std::string(root.name), root.offset);
     const std::string fault = NamespaceFault(root, *schema);
     if (!fault.empty())
         throw DocumentError{kNotDecoded, "root element " + TagText(root.name) + ' ' + fault, root.offset};

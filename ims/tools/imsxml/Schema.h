@@ -37,4 +37,8 @@ std::string NamespaceFault(const RootElement& root, const XmlSchemaInfo& schema)
 /// @param scanner stands behind the root's start tag.
 const XmlSchemaInfo& SchemaOf(Scanner& scanner);
 
+/// The same for the standard profile, whose documents the tokenizer need not understand. A text without a root element
+/// is of the schema of all: the reader says what is wrong with it.
+const XmlSchemaInfo& StandardSchemaOf(const std::string& text);
+
 #endif

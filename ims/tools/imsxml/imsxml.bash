@@ -14,6 +14,7 @@ _imsxml() {
             return
             ;;
         --format) mapfile -t COMPREPLY < <(compgen -W 'json tree' -- "$word"); return ;;
+        --profile) mapfile -t COMPREPLY < <(compgen -W 'device standard' -- "$word"); return ;;
         --color) mapfile -t COMPREPLY < <(compgen -W 'auto always never' -- "$word"); return ;;
         --timeout) COMPREPLY=(); return ;;
     esac
@@ -27,9 +28,9 @@ _imsxml() {
     done
     case $command in
         '') words='decode convert namespaces schemas --help --version' ;;
-        decode) words='--schema --binder --format --color --log --leaks --timeout --help' ;;
-        convert) words='--schema --binder --log --leaks --timeout --help' ;;
-        namespaces) words='--log --leaks --timeout --help' ;;
+        decode) words='--schema --binder --format --color --log --leaks --profile --timeout --help' ;;
+        convert) words='--schema --binder --log --leaks --profile --timeout --help' ;;
+        namespaces) words='--log --leaks --profile --timeout --help' ;;
         *) words='--help' ;;
     esac
     if [ -z "$command" ] || [ "${word:0:1}" = - ] || [ "$command" = schemas ]; then

@@ -6,6 +6,7 @@
 
 #include "XMLList.h"
 #include "XmlPlatform.h"
+#include "XmlRest.h"
 
 class XMLAttribute;
 struct XmlClass;
@@ -16,7 +17,9 @@ class IX_XML_EXPORT XMLElement : public XmlHeapObject {
   public:
     /// @param description what the framework works from (XmlClass.h); NULL: it does nothing with the fields.
     explicit XMLElement(const XmlClass* description = nullptr) : m_pClass(description) {}
-    virtual ~XMLElement() = default;
+    virtual ~XMLElement() {
+        if (m_pRest != nullptr) delete m_pRest;
+    }
     XMLElement(const XMLElement&) = delete;
     XMLElement& operator=(const XMLElement&) = delete;
 
@@ -42,8 +45,17 @@ class IX_XML_EXPORT XMLElement : public XmlHeapObject {
     /// The description of the class, or NULL when it has none.
     const XmlClass* Class() const { return m_pClass; }
 
+    /// What a document had in this element and no field holds: read and written by the standard profile only. It
+    /// belongs to the element. NULL: nothing.
+    XmlRest* Rest() const { return m_pRest; }
+    /// The same, made if there is none; NULL without memory.
+    XmlRest* MakeRest();
+
   protected:
     const XmlClass* m_pClass;  ///< Not owned.
+
+  private:
+    XmlRest* m_pRest = nullptr;
 };
 
 /// Base of the element classes that can stand at the root of a document, and of some others.

@@ -13,6 +13,7 @@
 #include "XmlPlatform.h"
 
 class XMLFile;
+struct XmlNamedClass;
 
 /// Numbers of the schemas.
 enum eXMLSchemaID : int {
@@ -49,6 +50,19 @@ enum eXMLSchemaID : int {
 /// The number of schema numbers, the reserved ones included.
 constexpr int kXmlSchemaCount = IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL + 1;
 
+/// How documents are read and written.
+enum eXMLProfile : int {
+    IX_XML_PROFILE_DEVICE = 0,   ///< The dialect of the IMS client stack.
+    IX_XML_PROFILE_STANDARD = 1  ///< XML with namespaces and what the public standards say; nothing is lost.
+};
+
+/// Why a document could not be read or written.
+struct XmlProblem {
+    int line;          ///< From 1 on; 0: it has no place in a text.
+    int column;        ///< In characters, from 1 on; 0: as above.
+    const char* text;  ///< It belongs to the object that was asked.
+};
+
 /// Writes a tree as XML text.
 class IX_XML_EXPORT XMLMarshaller : public XmlHeapObject {
   public:
@@ -64,6 +78,9 @@ class IX_XML_EXPORT XMLMarshaller : public XmlHeapObject {
     virtual int Reserved() = 0;
     /// 1 when the text of the last `Marshall` was cut at the writer's capacity.
     virtual int IsTruncated() const;
+    /// Standard profile: why the last `Marshall` yielded NULL; NULL: it did not. The device profile has no problems,
+    /// but log lines: NULL.
+    virtual const XmlProblem* Problem() const;
 };
 
 /// Reads a document into a new tree.
@@ -80,6 +97,12 @@ class IX_XML_EXPORT XMLUnMarshaller : public XmlHeapObject {
     virtual XMLElement* UnMarshall(const char* text) = 0;
     /// The same for the text of a file. The file stays with the caller, who closes it.
     virtual XMLElement* UnMarshall(XMLFile* file) = 0;
+    /// The same for the `length` characters at `text`, which need no NUL behind them. The device profile reads up to
+    /// the first NUL among them.
+    virtual XMLElement* UnMarshall(const char* text, std::size_t length);
+    /// Standard profile: why the last `UnMarshall` yielded NULL, and where; NULL: it did not. The device profile has no
+    /// problems, but log lines: NULL.
+    virtual const XmlProblem* Problem() const;
 };
 
 /// Creates the elements of a tree. The factory of each schema adds creators of its own.
@@ -133,6 +156,10 @@ struct XmlSchemaInfo {
     /// The descriptions (XmlClass.h) of the roots, and of what may stand in their documents and no row names; NULL
     /// behind the last one. All other classes are found through the rows of these.
     const XmlClass* const* classes;
+    /// Parts of documents that can be read alone, up to one without description; NULL: none.
+    const XmlNamedClass* parts = nullptr;
+    /// The namespace of its standard, where the device profile has another; NULL: `namespaceUri`.
+    const char* standardUri = nullptr;
 };
 
 class IX_XML_EXPORT XMLFactory {
@@ -140,6 +167,8 @@ class IX_XML_EXPORT XMLFactory {
     /// @return the context of a schema, freed with `deleteContext`; NULL for a number without a context, or without
     /// memory.
     static XMLContext* newInstance(eXMLSchemaID id);
+    /// The same in a profile. Schema 21 has no standard profile: its root has a name that XML does not know.
+    static XMLContext* newInstance(eXMLSchemaID id, eXMLProfile profile);
     /// Frees a context and what it created. NULL is ignored.
     static void deleteContext(XMLContext* context);
     /// Frees a tree. NULL is ignored.

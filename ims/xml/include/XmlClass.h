@@ -14,6 +14,7 @@
 
 #include "XMLCommonDef.h"
 #include "XmlNames.h"
+#include "XmlNamespaces.h"
 
 class XmlDescribedElement;
 class XmlDescribedObject;
@@ -38,18 +39,19 @@ enum class XmlFieldKind : unsigned char {
 
 /// What a field is in the document.
 enum class XmlRole : unsigned char {
-    Attribute,   ///< An attribute of the element's start tag.
-    Dropped,     ///< An attribute that the root of a document does not keep; it has no member.
-    OwnText,     ///< The text of the element itself, taken at its own end tag (`XmlClass::element`).
-    Element,     ///< An element with a text, number, flag or word.
-    Words,       ///< An element whose text is a list of words with white space between them.
-    Texts,       ///< Repeated elements with a text each.
-    Child,       ///< One child of one class.
-    OneOf,       ///< One child, whose class follows from its name.
-    Children,    ///< Repeated children of one class.
-    Mixed,       ///< Children of several classes in document order; the class of each follows from its name.
-    Attributes,  ///< All other attributes.
-    Others       ///< Objects that no other row takes.
+    Attribute,     ///< An attribute of the element's start tag.
+    Dropped,       ///< An attribute that the root of a document does not keep; it has no member.
+    OwnText,       ///< The text of the element itself, taken at its own end tag (`XmlClass::element`).
+    Element,       ///< An element with a text, number, flag or word.
+    Words,         ///< An element whose text is a list of words with white space between them.
+    Texts,         ///< Repeated elements with a text each.
+    Child,         ///< One child of one class.
+    OneOf,         ///< One child, whose class follows from its name.
+    Children,      ///< Repeated children of one class.
+    Mixed,         ///< Children of several classes in document order; the class of each follows from its name.
+    Attributes,    ///< All other attributes.
+    Declarations,  ///< The namespaces that a document declares.
+    Others         ///< Objects that no other row takes.
 };
 
 /// The texts of an enumeration, in rows of a fixed width.
@@ -101,6 +103,7 @@ struct XmlClass;
 struct XmlNamedClass {
     XmlName name;
     const XmlClass* description;
+    XmlNamespace ns = XmlNamespace::Parent;
 };
 
 /// One field of an element class. Rows are made by the functions below.
@@ -135,7 +138,10 @@ struct IX_XML_EXPORT XmlField {
     const XmlClass* description = nullptr;   ///< Class of the child, or of each entry.
     const XmlNamedClass* entries = nullptr;  ///< Classes by name, where there are several.
     std::size_t entryCount = 0;
-    XmlChildWriter store = nullptr;  ///< Children only.
+    XmlChildWriter store = nullptr;          ///< Children only.
+    XmlNamespace ns = XmlNamespace::Parent;  ///< Elements: where the standard has the name.
+    bool mandatory = false;                  ///< The standard demands it.
+    bool takesTurns = false;                 ///< Lists: its entries alternate with those of the next row.
 
     const char* Name() const { return key != nullptr ? key : name.Text(); }
 
@@ -164,6 +170,24 @@ struct IX_XML_EXPORT XmlField {
         row.key = text;
         return row;
     }
+    /// The namespace that the standard has the element in, where that is not the one of the element around it.
+    constexpr XmlField In(XmlNamespace standard) const {
+        XmlField row = *this;
+        row.ns = standard;
+        return row;
+    }
+    /// The standard demands the attribute or the element.
+    constexpr XmlField Mandatory() const {
+        XmlField row = *this;
+        row.mandatory = true;
+        return row;
+    }
+    /// The entries of the list alternate with those of the next row.
+    constexpr XmlField TakesTurns() const {
+        XmlField row = *this;
+        row.takesTurns = true;
+        return row;
+    }
     /// A source line that is fixed from outside.
     constexpr XmlField At(int fixed) const {
         XmlField row = *this;
@@ -181,7 +205,11 @@ struct XmlFieldTable {
     const XmlField* fields;
     std::size_t count;
     const char* source = nullptr;  ///< Path of the file that the rows stand in.
-    bool hasUnnamed = false;       ///< There are rows without a name that take what is offered.
+    bool hasUnnamed = false;       ///< There are rows without a name that take what is offered ...
+    bool hasEntries = false;       ///< ... and rows with a name for each class.
+    /// Rows, by their places, that a document has to say something about: the standard demands it, or the field has no
+    /// 'not set' value.
+    std::uint64_t told = 0;
     /// The place of a row and one, from the slot of its name on; 0: no further row of that slot's names.
     std::uint8_t slots[kSlots] = {};
 
@@ -360,6 +388,9 @@ constexpr XmlClass ixClass(const char* name, const char* type, const char* sourc
     for (const XmlField& row : rows) {
         const bool isUnnamed = row.role == XmlRole::OwnText || row.role == XmlRole::OneOf || row.role == XmlRole::Mixed;
         description.table.hasUnnamed = description.table.hasUnnamed || isUnnamed;
+        description.table.hasEntries = description.table.hasEntries || row.entryCount != 0;
+        const bool isTold = row.mandatory || row.notSet == kXmlAlwaysSet;
+        description.table.told |= std::uint64_t{isTold} << (&row - rows);
     }
     return description;
 }
@@ -545,6 +576,12 @@ constexpr XmlField Mixed(const char* key, const XmlNamedClass (&classes)[count],
 template <auto member>
 constexpr XmlField Attributes(int line = __builtin_LINE()) {
     return List<member>(XmlRole::Attributes, XmlFieldKind::AttributeList, IX_STR_IX_NULL, line).Key("attributes");
+}
+
+/// The namespaces that a document declares.
+template <auto member>
+constexpr XmlField Declarations(int line = __builtin_LINE()) {
+    return List<member>(XmlRole::Declarations, XmlFieldKind::AttributeList, IX_STR_IX_NULL, line).Key("xmlns");
 }
 
 /// Objects that no other row takes.

@@ -58,6 +58,9 @@ class IX_XML_EXPORT XmlHooks {
     /// The row of an attribute; NULL: the class does not know it.
     static const XmlField* AttributeRow(const XmlClass& description, XmlName name);
 
+    /// The first row of a role; NULL: the class has none.
+    static const XmlField* RowOf(const XmlClass& description, XmlRole role);
+
     /// Appends `entry` to the list of `row`, which is created on first use. @return false without memory, when the
     /// entry stays with the caller and no list is created.
     static bool Append(XMLElement& element, const XmlField& row, void* entry);

@@ -7,8 +7,8 @@ namespace {
 using namespace XmlRow;
 
 constexpr XmlField kFields[] = {
-    Element<&ix_bootstrappinginfo::mBtid>(IX_STR_BTID),
-    Element<&ix_bootstrappinginfo::mLifetime>(IX_STR_LIFETIME),
+    Element<&ix_bootstrappinginfo::mBtid>(IX_STR_BTID).Mandatory(),
+    Element<&ix_bootstrappinginfo::mLifetime>(IX_STR_LIFETIME).Mandatory(),
     Others<&ix_bootstrappinginfo::mAnyElementList>(),
 };
 

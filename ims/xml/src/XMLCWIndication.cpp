@@ -8,8 +8,8 @@ namespace {
 using namespace XmlRow;
 
 constexpr XmlField kServiceFields[] = {
-    Element<&ix_alternative_service::mType>(IX_STR_TYPE),
-    Element<&ix_alternative_service::mReason>(IX_STR_REASON),
+    Element<&ix_alternative_service::mType>(IX_STR_TYPE).Mandatory(),
+    Element<&ix_alternative_service::mReason>(IX_STR_REASON).Mandatory(),
     Element<&ix_alternative_service::mAction>(IX_STR_ACTION),
 };
 constexpr XmlAnswers kServiceAnswers = ixTracing({2, "In ix_alternative_service::ProcessUnMarshall"},

@@ -5,12 +5,12 @@ namespace {
 using namespace XmlRow;
 
 constexpr XmlField kParmFields[] = {
-    Attribute<&ix_parm::mName>(IX_STR_NAME),
+    Attribute<&ix_parm::mName>(IX_STR_NAME).Mandatory(),
     Attribute<&ix_parm::mValue>(IX_STR_VALUE),
 };
 
 constexpr XmlField kCharacteristicFields[] = {
-    Attribute<&ix_characteristic::mType>(IX_STR_TYPE),
+    Attribute<&ix_characteristic::mType>(IX_STR_TYPE).Mandatory(),
     Children<&ix_characteristic::mParmList, ix_parm>(kXmlNameParm),
     Children<&ix_characteristic::mCharacteristicList, ix_characteristic>(kXmlNameCharacteristic),
 };

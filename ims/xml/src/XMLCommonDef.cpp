@@ -6,6 +6,11 @@ int XMLElement::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*
 
 int XMLElement::ProcessUnMarshallAttribute(char* /*attribute*/, char* /*value*/, XMLAttribute* /*pair*/) { return 1; }
 
+XmlRest* XMLElement::MakeRest() {
+    if (m_pRest == nullptr) m_pRest = new (std::nothrow) XmlRest;
+    return m_pRest;
+}
+
 ix_AttributeValuePair::~ix_AttributeValuePair() {
     __free(mName);
     __free(mValue);

@@ -1,27 +1,37 @@
 #include "XMLCommonPolicy.h"
 
+#include "XMLCommunicationBarring.h"
+#include "XMLSimservsXcap.h"
 #include "XmlHooks.h"
 
 namespace {
 
 using namespace XmlRow;
 
-/// The conditions that say all by being there. Those with a text belong to the services (XMLSimservsRules.h).
-constexpr XmlNamedClass kFlags[] = {
-    {IX_STR_ANONYMOUS, &ix_empty_element_type::kClass},
-    {IX_STR_BUSY, &ix_empty_element_type::kClass},
-    {IX_STR_COMMUNICATION_DIVERTED, &ix_empty_element_type::kClass},
-    {IX_STR_INTERNATIONAL, &ix_empty_element_type::kClass},
-    {IX_STR_INTERNATIONAL_EXHC, &ix_empty_element_type::kClass},
-    {IX_STR_NO_ANSWER, &ix_empty_element_type::kClass},
-    {IX_STR_NOT_REACHABLE, &ix_empty_element_type::kClass},
-    {IX_STR_NOT_REGISTERED, &ix_empty_element_type::kClass},
-    {IX_STR_ROAMING, &ix_empty_element_type::kClass},
-    {IX_STR_RULE_DEACTIVATED, &ix_empty_element_type::kClass},
+/// The conditions of the services.
+constexpr XmlNamedClass kConditions[] = {
+    {IX_STR_ANONYMOUS, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_BUSY, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_COMMUNICATION_DIVERTED, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_INTERNATIONAL, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_INTERNATIONAL_EXHC, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_NO_ANSWER, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_NOT_REACHABLE, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_NOT_REGISTERED, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_ROAMING, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_RULE_DEACTIVATED, &ix_empty_element_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_MEDIA, &ix_ns_xcap_media_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_PRESENCE_STATUS, &ix_presence_status_activity_type::kClass, XmlNamespace::Simservs},
+};
+
+/// The actions of the services.
+constexpr XmlNamedClass kActions[] = {
+    {IX_STR_ALLOW, &ix_allow_action_type::kClass, XmlNamespace::Simservs},
+    {IX_STR_FORWARD_TO, &ix_ns_xcap_forward_to_type::kClass, XmlNamespace::Simservs},
 };
 
 constexpr XmlField kExtensibleFields[] = {
-    Others<&ix_ns_common_policy_extensibleType::mElementList>(),
+    Others<&ix_ns_common_policy_extensibleType::mElementList>(kActions),
 };
 
 constexpr XmlField kExceptFields[] = {
@@ -30,7 +40,7 @@ constexpr XmlField kExceptFields[] = {
 };
 
 constexpr XmlField kOneFields[] = {
-    Attribute<&ix_ns_common_policy_oneType::mId>(IX_STR_ID).LeavesEarlier(),
+    Attribute<&ix_ns_common_policy_oneType::mId>(IX_STR_ID).LeavesEarlier().Mandatory(),
     Others<&ix_ns_common_policy_oneType::mExtensionList>(),
 };
 
@@ -47,11 +57,11 @@ constexpr XmlField kIdentityFields[] = {
 };
 
 constexpr XmlField kSphereFields[] = {
-    Attribute<&ix_ns_common_policy_sphereType::mValue>(IX_STR_VALUE).LeavesEarlier(),
+    Attribute<&ix_ns_common_policy_sphereType::mValue>(IX_STR_VALUE).LeavesEarlier().Mandatory(),
 };
 
 constexpr XmlField kValidityFields[] = {
-    Children<&ix_ns_common_policy_validityType::mFromList, ix_string>(IX_STR_FROM),
+    Children<&ix_ns_common_policy_validityType::mFromList, ix_string>(IX_STR_FROM).TakesTurns(),
     Children<&ix_ns_common_policy_validityType::mUntilList, ix_string>(IX_STR_UNTIL),
 };
 
@@ -59,11 +69,11 @@ constexpr XmlField kConditionsFields[] = {
     Children<&ix_ns_common_policy_conditionsType::mIdentityList, ix_ns_common_policy_identityType>(IX_STR_IDENTITY),
     Children<&ix_ns_common_policy_conditionsType::mSphereList, ix_ns_common_policy_sphereType>(IX_STR_SPHERE),
     Children<&ix_ns_common_policy_conditionsType::mValidityList, ix_ns_common_policy_validityType>(IX_STR_VALIDITY),
-    Others<&ix_ns_common_policy_conditionsType::mOtherConditionsList>(kFlags),
+    Others<&ix_ns_common_policy_conditionsType::mOtherConditionsList>(kConditions),
 };
 
 constexpr XmlField kRuleFields[] = {
-    Attribute<&ix_ns_common_policy_ruleType::mId>(IX_STR_ID).LeavesEarlier(),
+    Attribute<&ix_ns_common_policy_ruleType::mId>(IX_STR_ID).LeavesEarlier().Mandatory(),
     Child<&ix_ns_common_policy_ruleType::mConditions>(IX_STR_CONDITIONS).LeavesEarlier(),
     Child<&ix_ns_common_policy_ruleType::mActions>(IX_STR_ACTIONS).LeavesEarlier(),
     Child<&ix_ns_common_policy_ruleType::mTransformations>(IX_STR_TRANSFORMATIONS).LeavesEarlier(),

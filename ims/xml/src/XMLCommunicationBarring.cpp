@@ -13,7 +13,7 @@ constexpr XmlField kAllowFields[] = {
 constexpr XmlField kBarringFields[] = {
     Attribute<&ix_ns_xcap_simservType::mActive>(IX_STR_ACTIVE, XmlFlag::TrueOrFalse).Always(),
     Attributes<&ix_ns_xcap_simservType::mExtensionList>(),
-    Child<&ix_ns_xcap_ruleServiceType::mRuleset>(IX_STR_RULESET),
+    Child<&ix_ns_xcap_ruleServiceType::mRuleset>(IX_STR_RULESET).In(XmlNamespace::CommonPolicy),
 };
 
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLCommunicationBarringDecoder>(

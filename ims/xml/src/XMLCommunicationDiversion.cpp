@@ -17,7 +17,7 @@ constexpr XmlField kDiversionFields[] = {
     Attribute<&ix_ns_xcap_simservType::mActive>(IX_STR_ACTIVE, XmlFlag::TrueOrFalse).Always(),
     Attributes<&ix_ns_xcap_simservType::mExtensionList>(),
     Child<&ix_communication_diversion::mNoReplyTimer>(IX_STR_NOREPLYTIMER),
-    Child<&ix_ns_xcap_ruleServiceType::mRuleset>(IX_STR_RULESET),
+    Child<&ix_ns_xcap_ruleServiceType::mRuleset>(IX_STR_RULESET).In(XmlNamespace::CommonPolicy),
 };
 
 constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLCommunicationDiversionDecoder>(

@@ -44,7 +44,7 @@ constexpr XmlField kExecutionFields[] = {
     Element<&ix_execution_type::mBy>(IX_STR_BY),
 };
 constexpr XmlField kUriFields[] = {
-    Element<&ix_uri_type::mUri>(IX_STR_URI),
+    Element<&ix_uri_type::mUri>(IX_STR_URI).Mandatory(),
     Element<&ix_uri_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
     Element<&ix_uri_type::mPurpose>(IX_STR_PURPOSE),
     Child<&ix_uri_type::mModified>(IX_STR_MODIFIED),
@@ -53,7 +53,7 @@ constexpr XmlField kUrisFields[] = {
     Children<&ix_uris_type::mEntryList, ix_uri_type>(IX_STR_ENTRY),
 };
 constexpr XmlField kMediumFields[] = {
-    Attribute<&ix_conference_medium_type::mLabel>(IX_STR_LABEL),
+    Attribute<&ix_conference_medium_type::mLabel>(IX_STR_LABEL).Mandatory(),
     Element<&ix_conference_medium_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
     Element<&ix_conference_medium_type::mType>(IX_STR_TYPE),
     Element<&ix_conference_medium_type::mStatus>(IX_STR_STATUS, kMediaStatus),
@@ -82,7 +82,7 @@ constexpr XmlField kConferenceStateFields[] = {
     Element<&ix_conference_state_type::mLocked>(IX_STR_LOCKED, XmlFlag::TrueOrNot).Always(),
 };
 constexpr XmlField kRolesFields[] = {
-    Texts<&ix_user_roles_type::mEntryList>(IX_STR_ENTRY),
+    Texts<&ix_user_roles_type::mEntryList>(IX_STR_ENTRY).Mandatory(),
 };
 constexpr XmlField kSipFields[] = {
     Element<&ix_sip_dialog_id_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
@@ -91,12 +91,15 @@ constexpr XmlField kSipFields[] = {
     Element<&ix_sip_dialog_id_type::mToTag>(IX_STR_TO_TAG),
 };
 constexpr XmlField kCallFields[] = {
-    Child<&ix_call_type::mSip>(IX_STR_SIP),
+    Child<&ix_call_type::mSip>(IX_STR_SIP).Mandatory(),
 };
 constexpr XmlField kMediaFields[] = {
-    Attribute<&ix_media_type::mId>(IX_STR_ID),      Element<&ix_media_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
-    Element<&ix_media_type::mType>(IX_STR_TYPE),    Element<&ix_media_type::mLabel>(IX_STR_LABEL),
-    Element<&ix_media_type::mSrcId>(IX_STR_SRC_ID), Element<&ix_media_type::mStatus>(IX_STR_STATUS, kMediaStatus),
+    Attribute<&ix_media_type::mId>(IX_STR_ID),
+    Element<&ix_media_type::mDisplayText>(IX_STR_DISPLAY_TEXT).Mandatory(),
+    Element<&ix_media_type::mType>(IX_STR_TYPE),
+    Element<&ix_media_type::mLabel>(IX_STR_LABEL),
+    Element<&ix_media_type::mSrcId>(IX_STR_SRC_ID),
+    Element<&ix_media_type::mStatus>(IX_STR_STATUS, kMediaStatus),
 };
 constexpr XmlField kEndpointFields[] = {
     Attribute<&ix_endpoint_type::mEntity>(IX_STR_ENTITY),
@@ -127,7 +130,7 @@ constexpr XmlField kSidebarsFields[] = {
 };
 constexpr XmlField kConferenceFields[] = {
     Dropped(IX_STR_XMLNS),
-    Attribute<&ix_conference_type::mEntity>(IX_STR_ENTITY),
+    Attribute<&ix_conference_type::mEntity>(IX_STR_ENTITY).Mandatory(),
     Attribute<&ix_conference_type::mVersion>(IX_STR_VERSION),
     Child<&ix_conference_type::mConferenceDescription>(IX_STR_CONFERENCE_DESCRIPTION),
     Child<&ix_conference_type::mHostInfo>(IX_STR_HOST_INFO),

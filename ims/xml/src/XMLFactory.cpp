@@ -1,5 +1,7 @@
 #include "XMLFactory.h"
 
+#include <cstring>
+
 #include "XMLBootstrappingInfo.h"
 #include "XMLCWIndication.h"
 #include "XMLCallWaitingIndication.h"
@@ -26,6 +28,7 @@
 #include "XMLWapProvisioningDoc.h"
 #include "XMLXcapDirectory.h"
 #include "XMLXcapError.h"
+#include "standard/XmlStandard.h"
 
 namespace {
 
@@ -39,6 +42,22 @@ XMLContext* Create() {
 /// The descriptions of a schema's roots, and of the classes that no row of theirs leads to.
 template <class... Classes>
 constexpr const XmlClass* kClasses[] = {&Classes::kClass..., nullptr};
+
+/// What a client takes out of a document with rules by itself.
+constexpr XmlNamedClass kRuleParts[] = {
+    {IX_STR_RULESET, &ix_ns_common_policy_ruleset::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_RULE, &ix_ns_common_policy_ruleType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_CONDITIONS, &ix_ns_common_policy_conditionsType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_IDENTITY, &ix_ns_common_policy_identityType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_ONE, &ix_ns_common_policy_oneType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_MANY, &ix_ns_common_policy_manyType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_EXCEPT, &ix_ns_common_policy_exceptType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_VALIDITY, &ix_ns_common_policy_validityType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_SPHERE, &ix_ns_common_policy_sphereType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_ACTIONS, &ix_ns_common_policy_extensibleType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_TRANSFORMATIONS, &ix_ns_common_policy_extensibleType::kClass, XmlNamespace::CommonPolicy},
+    {IX_STR_IX_NULL, nullptr},
+};
 
 /// One row a schema, in the order of the numbers.
 constexpr XmlSchemaInfo kSchemas[] = {
@@ -59,12 +78,14 @@ constexpr XmlSchemaInfo kSchemas[] = {
     {IX_XML_SCHEMA_COMMUNICATION_DIVERSION, "communication-diversion", "communication-diversion", kSimservs, true, true,
      Create<CommunicationDiversionContext>,
      kClasses<ix_communication_diversion, ix_ns_xcap_media_type, ix_presence_status_activity_type, ix_external_list,
-              ix_ns_xcap_forward_to_type>},
+              ix_ns_xcap_forward_to_type>,
+     kRuleParts},
     {IX_XML_SCHEMA_COMMUNICATION_BARRING, "communication-barring",
      "incoming-communication-barring outgoing-communication-barring", kSimservs, true, true,
      Create<CommunicationBarringContext>,
      kClasses<ix_incoming_communication_barring, ix_outgoing_communication_barring, ix_allow_action_type,
-              ix_ns_xcap_media_type, ix_presence_status_activity_type, ix_external_list, ix_ns_xcap_forward_to_type>},
+              ix_ns_xcap_media_type, ix_presence_status_activity_type, ix_external_list, ix_ns_xcap_forward_to_type>,
+     kRuleParts},
     {IX_XML_SCHEMA_SIMSERVS, "simservs", "simservs", kSimservs, true, true, Create<SimservsContext>,
      kClasses<ix_Simservs, ix_incoming_communication_barring, ix_outgoing_communication_barring,
               ix_communication_diversion, ix_communication_waiting, ix_originating_identity_presentation,
@@ -83,7 +104,8 @@ constexpr XmlSchemaInfo kSchemas[] = {
      kClasses<ix_list>},
     {IX_XML_SCHEMA_XCAP_DIRECTORY, "xcap-directory", "xcap-directory", "urn:oma:xml:xdm:xcap-directory", true, false,
      Create<XcapDirectoryContext>, kClasses<ix_xcap_directory>},
-    {IX_XML_SCHEMA_FILE, "file-transfer", "file", "", true, false, Create<FileContext>, kClasses<ix_file>},
+    {IX_XML_SCHEMA_FILE, "file-transfer", "file", "", true, false, Create<FileContext>, kClasses<ix_file>, nullptr,
+     "urn:gsma:params:xml:ns:rcs:rcs:fthttp"},
     {IX_XML_SCHEMA_MEDIA_CONTROL, "media-control", "media_control", "", true, false, Create<MediaControlContext>,
      kClasses<ix_media_control>},
     {IX_XML_SCHEMA_CALL_WAITING_INDICATION, "call-waiting-indication", "3gpp-ims", "", true, false,
@@ -106,6 +128,20 @@ constexpr XmlSchemaInfo kSchemas[] = {
 
 int XMLMarshaller::IsTruncated() const { return 0; }
 
+const XmlProblem* XMLMarshaller::Problem() const { return nullptr; }
+
+XMLElement* XMLUnMarshaller::UnMarshall(const char* text, std::size_t length) {
+    char* const copy = text != nullptr ? static_cast<char*>(__malloc(length + 1)) : nullptr;
+    if (copy == nullptr) return nullptr;
+    if (length != 0) std::memcpy(copy, text, length);
+    copy[length] = '\0';
+    XMLElement* const root = UnMarshall(copy);
+    __free(copy);
+    return root;
+}
+
+const XmlProblem* XMLUnMarshaller::Problem() const { return nullptr; }
+
 XMLContext::~XMLContext() {
     ixDelete(m_pMarshaller);
     ixDelete(m_pUnMarshaller);
@@ -117,6 +153,12 @@ int XMLContext::SetNamespaceBinder(XMLObject* /*binder*/) { return 0; }
 XMLContext* XMLFactory::newInstance(eXMLSchemaID id) {
     const XmlSchemaInfo* const schema = SchemaInfo(id);
     return schema != nullptr ? schema->create() : nullptr;
+}
+
+XMLContext* XMLFactory::newInstance(eXMLSchemaID id, eXMLProfile profile) {
+    if (profile == IX_XML_PROFILE_DEVICE) return newInstance(id);
+    const XmlSchemaInfo* const schema = profile == IX_XML_PROFILE_STANDARD ? SchemaInfo(id) : nullptr;
+    return schema != nullptr ? ixNewStandardContext(*schema) : nullptr;
 }
 
 void XMLFactory::deleteContext(XMLContext* context) { ixDelete(context); }

@@ -7,11 +7,11 @@ namespace {
 using namespace XmlRow;
 
 constexpr XmlField kGruuFields[] = {
-    Attribute<&ix_gruuType::mUri>(IX_STR_URI),
+    Attribute<&ix_gruuType::mUri>(IX_STR_URI).Mandatory(),
 };
 
 constexpr XmlField kTempGruuFields[] = {
-    Attribute<&ix_temp_gruu::mFirstCseq>(IX_STR_FIRST_CSEQ).Always(),
+    Attribute<&ix_temp_gruu::mFirstCseq>(IX_STR_FIRST_CSEQ).Always().Mandatory(),
 };
 
 /// @param refused logged for every attribute but those of the class.

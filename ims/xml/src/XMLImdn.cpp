@@ -16,7 +16,7 @@ constexpr XmlField kStatusFields[] = {
 };
 
 constexpr XmlField kNotificationFields[] = {
-    Child<&ix_notificationType::mStatus>(IX_STR_STATUS),
+    Child<&ix_notificationType::mStatus>(IX_STR_STATUS).Mandatory(),
 };
 
 /// An element where nobody expects it is not refused, so that what is in it stays out of the tree, too.
@@ -30,8 +30,8 @@ constexpr XmlField kImdnFields[] = {
     // The marshaller writes the namespace itself.
     Dropped(IX_STR_XMLNS),
     Attributes<&ix_imdn::mAnyAttributeList>(),
-    Element<&ix_imdn::mMessageId>(IX_STR_MESSAGE_ID),
-    Element<&ix_imdn::mDatetime>(IX_STR_DATETIME),
+    Element<&ix_imdn::mMessageId>(IX_STR_MESSAGE_ID).Mandatory(),
+    Element<&ix_imdn::mDatetime>(IX_STR_DATETIME).Mandatory(),
     Element<&ix_imdn::mRecipientUri>(IX_STR_RECIPIENT_URI),
     Element<&ix_imdn::mOriginalRecipientUri>(IX_STR_ORIGINAL_RECIPIENT_URI),
     Element<&ix_imdn::mSubject>(IX_STR_SUBJECT),

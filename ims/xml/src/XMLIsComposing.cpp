@@ -7,7 +7,7 @@ namespace {
 using namespace XmlRow;
 
 constexpr XmlField kFields[] = {
-    Element<&ix_isComposing::mState>(IX_STR_STATE).LeavesEarlier(),
+    Element<&ix_isComposing::mState>(IX_STR_STATE).LeavesEarlier().Mandatory(),
     Element<&ix_isComposing::mLastactive>(IX_STR_LASTACTIVE).LeavesEarlier(),
     Element<&ix_isComposing::mContenttype>(IX_STR_CONTENTTYPE).LeavesEarlier(),
     Element<&ix_isComposing::mRefresh>(IX_STR_REFRESH).Nearest(),

@@ -11,7 +11,7 @@ constexpr XmlField kToEncoderFields[] = {
 };
 
 constexpr XmlField kVcPrimitiveFields[] = {
-    Child<&ix_vc_primitive::mToEncoder>(IX_STR_TO_ENCODER),
+    Child<&ix_vc_primitive::mToEncoder>(IX_STR_TO_ENCODER).Mandatory(),
 };
 
 constexpr XmlField kMediaControlFields[] = {

@@ -8,8 +8,8 @@ constexpr char kStateTexts[][100] = {"active", "terminated"};
 constexpr XmlEnumeration kStates = {kStateTexts[0], sizeof kStateTexts[0], ix_ns_oma_pres_stateType::kNotSet};
 
 constexpr XmlField kServiceDescriptionFields[] = {
-    Element<&ix_ns_oma_pres_service_description::mServiceId>(IX_STR_SERVICE_ID),
-    Element<&ix_ns_oma_pres_service_description::mVersion>(IX_STR_VERSION),
+    Element<&ix_ns_oma_pres_service_description::mServiceId>(IX_STR_SERVICE_ID).Mandatory(),
+    Element<&ix_ns_oma_pres_service_description::mVersion>(IX_STR_VERSION).Mandatory(),
     Element<&ix_ns_oma_pres_service_description::mDescription>(IX_STR_DESCRIPTION),
 };
 

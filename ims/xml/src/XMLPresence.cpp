@@ -23,25 +23,22 @@ constexpr XmlField kStatusFields[] = {
 };
 
 constexpr XmlNamedClass kTupleExtensions[] = {
-    {IX_STR_SERVICE_DESCRIPTION, &ix_ns_oma_pres_service_description::kClass},
-    {IX_STR_SERVCAPS, &ix_ns_caps_servcaps::kClass},
-    {kXmlNameWillingness, &ix_ns_oma_pres_willingness::kClass},
-    {kXmlNameSessionParticipation, &ix_ns_oma_pres_session_participation::kClass},
-    {kXmlNameOverridingWillingness, &ix_ns_oma_pres_overriding_willingness::kClass},
-    {kXmlNameRegistrationState, &ix_ns_oma_pres_registration_state::kClass},
-    {kXmlNameBarringState, &ix_ns_oma_pres_barring_state::kClass},
+    {IX_STR_SERVICE_DESCRIPTION, &ix_ns_oma_pres_service_description::kClass, XmlNamespace::OmaPresence},
+    {IX_STR_SERVCAPS, &ix_ns_caps_servcaps::kClass, XmlNamespace::Caps},
+    {kXmlNameWillingness, &ix_ns_oma_pres_willingness::kClass, XmlNamespace::OmaPresence},
+    {kXmlNameSessionParticipation, &ix_ns_oma_pres_session_participation::kClass, XmlNamespace::OmaPresence},
+    {kXmlNameOverridingWillingness, &ix_ns_oma_pres_overriding_willingness::kClass, XmlNamespace::OmaPresence},
+    {kXmlNameRegistrationState, &ix_ns_oma_pres_registration_state::kClass, XmlNamespace::OmaPresence},
+    {kXmlNameBarringState, &ix_ns_oma_pres_barring_state::kClass, XmlNamespace::OmaPresence},
 };
 constexpr XmlField kTupleFields[] = {
-    Attribute<&ix_tuple::mId>(IX_STR_ID),
-    Child<&ix_tuple::mStatus>(IX_STR_STATUS),
-    Others<&ix_tuple::mAnyElementList>(kTupleExtensions),
-    Child<&ix_tuple::mContact>(IX_STR_CONTACT),
-    Children<&ix_tuple::mNoteList, ix_note>(IX_STR_NOTE),
-    Element<&ix_tuple::mTimestamp>(IX_STR_TIMESTAMP),
+    Attribute<&ix_tuple::mId>(IX_STR_ID).Mandatory(),     Child<&ix_tuple::mStatus>(IX_STR_STATUS).Mandatory(),
+    Others<&ix_tuple::mAnyElementList>(kTupleExtensions), Child<&ix_tuple::mContact>(IX_STR_CONTACT),
+    Children<&ix_tuple::mNoteList, ix_note>(IX_STR_NOTE), Element<&ix_tuple::mTimestamp>(IX_STR_TIMESTAMP),
 };
 
 constexpr XmlField kPresenceFields[] = {
-    Attribute<&ix_presence::mEntity>(IX_STR_ENTITY),
+    Attribute<&ix_presence::mEntity>(IX_STR_ENTITY).Mandatory(),
     Children<&ix_presence::mTupleList, ix_tuple>(IX_STR_TUPLE),
     Children<&ix_presence::mNoteList, ix_note>(IX_STR_NOTE),
 };

@@ -30,42 +30,42 @@ constexpr XmlEnumeration kContactEvents = Words(4, IX_CONTACT_EVENT_UNSET, IX_CO
 constexpr XmlEnumeration kRegistrationStates = Words(13, IX_REGISTRATION_STATE_UNSET, IX_REGISTRATION_STATE_TERMINATED);
 
 constexpr XmlField kUnknownParamFields[] = {
-    Attribute<&ix_unknown_param::mName>(IX_STR_NAME),
+    Attribute<&ix_unknown_param::mName>(IX_STR_NAME).Mandatory(),
     OwnText<&ix_unknown_param::mValue>(),
 };
 
 constexpr XmlNamedClass kGruus[] = {
-    {IX_STR_PUB_GRUU, &ix_pub_gruu::kClass},
-    {IX_STR_TEMP_GRUU, &ix_temp_gruu::kClass},
+    {IX_STR_PUB_GRUU, &ix_pub_gruu::kClass, XmlNamespace::GruuInfo},
+    {IX_STR_TEMP_GRUU, &ix_temp_gruu::kClass, XmlNamespace::GruuInfo},
 };
 
 constexpr XmlField kContactFields[] = {
-    Attribute<&ix_ns_reginfo_contact::mState>(IX_STR_STATE, kContactStates),
-    Attribute<&ix_ns_reginfo_contact::mEvent>(IX_STR_EVENT, kContactEvents),
+    Attribute<&ix_ns_reginfo_contact::mState>(IX_STR_STATE, kContactStates).Mandatory(),
+    Attribute<&ix_ns_reginfo_contact::mEvent>(IX_STR_EVENT, kContactEvents).Mandatory(),
     Attribute<&ix_ns_reginfo_contact::mDurationRegistered>(IX_STR_DURATION_REGISTERED),
     Attribute<&ix_ns_reginfo_contact::mExpires>(IX_STR_EXPIRES),
     Attribute<&ix_ns_reginfo_contact::mRetryAfter>(IX_STR_RETRY_AFTER),
-    Attribute<&ix_ns_reginfo_contact::mId>(IX_STR_ID),
+    Attribute<&ix_ns_reginfo_contact::mId>(IX_STR_ID).Mandatory(),
     Attribute<&ix_ns_reginfo_contact::mQ>(IX_STR_Q),
     Attribute<&ix_ns_reginfo_contact::mCallid>(IX_STR_CALLID),
     Attribute<&ix_ns_reginfo_contact::mCseq>(IX_STR_CSEQ),
-    Element<&ix_ns_reginfo_contact::mUri>(IX_STR_URI),
+    Element<&ix_ns_reginfo_contact::mUri>(IX_STR_URI).Mandatory(),
     Element<&ix_ns_reginfo_contact::mDisplayName>(IX_STR_DISPLAY_NAME),
     Children<&ix_ns_reginfo_contact::mUnknownParamList, ix_unknown_param>(IX_STR_UNKNOWN_PARAM),
     Others<&ix_ns_reginfo_contact::mAnyElementList>(kGruus),
 };
 
 constexpr XmlField kRegistrationFields[] = {
-    Attribute<&ix_registration::mAor>(IX_STR_AOR),
-    Attribute<&ix_registration::mId>(IX_STR_ID),
-    Attribute<&ix_registration::mState>(IX_STR_STATE, kRegistrationStates),
+    Attribute<&ix_registration::mAor>(IX_STR_AOR).Mandatory(),
+    Attribute<&ix_registration::mId>(IX_STR_ID).Mandatory(),
+    Attribute<&ix_registration::mState>(IX_STR_STATE, kRegistrationStates).Mandatory(),
     Children<&ix_registration::mContactList, ix_ns_reginfo_contact>(IX_STR_CONTACT),
     Others<&ix_registration::mAnyElementList>(),
 };
 
 constexpr XmlField kReginfoFields[] = {
-    Attribute<&ix_reginfo::mVersion>(IX_STR_VERSION).Always(),
-    Attribute<&ix_reginfo::mState>(IX_STR_STATE, kReginfoStates),
+    Attribute<&ix_reginfo::mVersion>(IX_STR_VERSION).Always().Mandatory(),
+    Attribute<&ix_reginfo::mState>(IX_STR_STATE, kReginfoStates).Mandatory(),
     Children<&ix_reginfo::mRegistrationList, ix_registration>(IX_STR_REGISTRATION),
     Others<&ix_reginfo::mAnyElementList>(),
 };

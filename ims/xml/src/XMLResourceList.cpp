@@ -8,15 +8,15 @@ using namespace XmlRow;
 
 constexpr XmlField kMemberFields[] = {
     Attributes<&ix_listMemberType::mAnyAttribute>(),
-    Child<&ix_listMemberType::mDisplayName>(IX_STR_DISPLAY_NAME),
+    Child<&ix_listMemberType::mDisplayName>(IX_STR_DISPLAY_NAME).In(XmlNamespace::ResourceLists),
 };
 
 constexpr XmlField kEntryFields[] = {
-    Attribute<&ix_entryType::mUri>(IX_STR_URI),
+    Attribute<&ix_entryType::mUri>(IX_STR_URI).Mandatory(),
 };
 
 constexpr XmlField kEntryRefFields[] = {
-    Attribute<&ix_entry_refType::mRef>(IX_STR_REF),
+    Attribute<&ix_entry_refType::mRef>(IX_STR_REF).Mandatory(),
 };
 
 constexpr XmlField kExternalFields[] = {
@@ -24,10 +24,10 @@ constexpr XmlField kExternalFields[] = {
 };
 
 constexpr XmlNamedClass kChildClasses[] = {
-    {IX_STR_LIST, &ix_listType::kClass},
-    {IX_STR_EXTERNAL, &ix_externalType::kClass},
-    {IX_STR_ENTRY, &ix_entryType::kClass},
-    {IX_STR_ENTRY_REF, &ix_entry_refType::kClass},
+    {IX_STR_LIST, &ix_listType::kClass, XmlNamespace::ResourceLists},
+    {IX_STR_EXTERNAL, &ix_externalType::kClass, XmlNamespace::ResourceLists},
+    {IX_STR_ENTRY, &ix_entryType::kClass, XmlNamespace::ResourceLists},
+    {IX_STR_ENTRY_REF, &ix_entry_refType::kClass, XmlNamespace::ResourceLists},
 };
 constexpr XmlField kListFields[] = {
     Attribute<&ix_listType::mName>(IX_STR_NAME),
@@ -36,7 +36,7 @@ constexpr XmlField kListFields[] = {
 };
 
 constexpr XmlField kResourceListsFields[] = {
-    Children<&ix_resource_lists::mListList, ix_listType>(IX_STR_LIST),
+    Children<&ix_resource_lists::mListList, ix_listType>(IX_STR_LIST).In(XmlNamespace::ResourceLists),
 };
 
 /// An object in a display name belongs to no tree, but it takes what stands in it, so that the name does not get that.

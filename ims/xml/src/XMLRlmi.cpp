@@ -13,21 +13,21 @@ constexpr XmlField kInstanceFields[] = {
     Attributes<&ix_instance::mAnyAttribute>(),
     Attribute<&ix_instance::mReason>(IX_STR_REASON),
     Attribute<&ix_instance::mCid>(IX_STR_CID),
-    Attribute<&ix_instance::mId>(IX_STR_ID),
-    Attribute<&ix_instance::mState>(IX_STR_STATE, kStates),
+    Attribute<&ix_instance::mId>(IX_STR_ID).Mandatory(),
+    Attribute<&ix_instance::mState>(IX_STR_STATE, kStates).Mandatory(),
 };
 
 constexpr XmlField kResourceFields[] = {
     Attributes<&ix_resource::mAnyAttribute>(),
-    Attribute<&ix_resource::mUri>(IX_STR_URI),
+    Attribute<&ix_resource::mUri>(IX_STR_URI).Mandatory(),
     Children<&ix_resource::mNameList, ix_name>(IX_STR_NAME),
     Children<&ix_resource::mInstanceList, ix_instance>(IX_STR_INSTANCE),
 };
 
 constexpr XmlField kListFields[] = {
-    Attribute<&ix_list::mUri>(IX_STR_URI),
-    Attribute<&ix_list::mVersion>(IX_STR_VERSION).Always(),
-    Attribute<&ix_list::mFullState>(IX_STR_FULLSTATE, XmlFlag::TrueOrNot).Always(),
+    Attribute<&ix_list::mUri>(IX_STR_URI).Mandatory(),
+    Attribute<&ix_list::mVersion>(IX_STR_VERSION).Always().Mandatory(),
+    Attribute<&ix_list::mFullState>(IX_STR_FULLSTATE, XmlFlag::TrueOrNot).Always().Mandatory(),
     Attribute<&ix_list::mCid>(IX_STR_CID),
     Attributes<&ix_list::mAnyAttribute>(),
     Children<&ix_list::mNameList, ix_name>(IX_STR_NAME),

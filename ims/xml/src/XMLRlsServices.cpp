@@ -11,7 +11,7 @@ constexpr XmlField kPackagesFields[] = {
 };
 
 constexpr XmlField kServiceFields[] = {
-    Attribute<&ix_ns_rls_services_serviceType::mUri>(IX_STR_URI),
+    Attribute<&ix_ns_rls_services_serviceType::mUri>(IX_STR_URI).Mandatory(),
     Attributes<&ix_ns_rls_services_serviceType::mAnyAttribute>(),
     Element<&ix_ns_rls_services_serviceType::mResourceList>(IX_STR_RESOURCE_LIST),
     Child<&ix_ns_rls_services_serviceType::mList>(IX_STR_LIST),

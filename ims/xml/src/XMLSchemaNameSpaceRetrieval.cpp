@@ -8,7 +8,7 @@ constexpr XmlUnMarshallerInfo kUnMarshallerInfo = ixUnMarshallerInfo<XMLSchemaNa
     kSource, {4, "<XML Module>: StrDup failed in SchemaNamespaceRetrievalUnMarshaller::UnMarshall"});
 
 constexpr XmlField kFields[] = {
-    XmlRow::Attributes<&ix_schema_namespace_retrieval::mNameSpaceInfo>().Key("xmlns"),
+    XmlRow::Declarations<&ix_schema_namespace_retrieval::mNameSpaceInfo>(),
 };
 
 }  // namespace

@@ -5,15 +5,29 @@
 #include <cstring>
 
 #include "Simservs.h"
+#include "XMLCommunicationBarring.h"
+#include "XMLCommunicationDiversion.h"
+#include "XMLCommunicationWaiting.h"
 #include "XMLFile.h"
+#include "XMLOriginatingIdentityPresentation.h"
 #include "XMLSimservsXcap.h"
+#include "XMLTerminatingIdentityPresentation.h"
 
 namespace {
 
 using namespace XmlRow;
 
+constexpr XmlNamedClass kServiceClasses[] = {
+    {IX_STR_ORIGINATING_IDENTITY_PRESENTATION, &ix_originating_identity_presentation::kClass},
+    {IX_STR_TERMINATING_IDENTITY_PRESENTATION, &ix_terminating_identity_presentation::kClass},
+    {IX_STR_COMMUNICATION_DIVERSION, &ix_communication_diversion::kClass},
+    {IX_STR_INCOMING_COMMUNICATION_BARRING, &ix_incoming_communication_barring::kClass},
+    {IX_STR_OUTGOING_COMMUNICATION_BARRING, &ix_outgoing_communication_barring::kClass},
+    {IX_STR_COMMUNICATION_WAITING, &ix_communication_waiting::kClass},
+};
+
 constexpr XmlField kSimservsFields[] = {
-    Others<&ix_Simservs::mServiceList>().Key("service"),
+    Others<&ix_Simservs::mServiceList>(kServiceClasses).Key("service"),
 };
 
 constexpr XmlUnMarshallerInfo UnMarshallerInfo() {

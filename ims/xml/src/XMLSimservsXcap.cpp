@@ -31,7 +31,7 @@ constexpr XmlEnumeration kReveal = {kRevealTexts[0], sizeof kRevealTexts[0], int
 static_assert(kReveal.count == ix_ns_xcap_forward_to_type::kRevealNotSet, "not set is past the last text");
 
 constexpr XmlField kForwardToFields[] = {
-    Element<&ix_ns_xcap_forward_to_type::mTarget>(IX_STR_TARGET),
+    Element<&ix_ns_xcap_forward_to_type::mTarget>(IX_STR_TARGET).Mandatory(),
     Element<&ix_ns_xcap_forward_to_type::mNotifyCaller>(IX_STR_NOTIFY_CALLER, XmlFlag::TrueOrFalse)
         .NotSet(ix_ns_xcap_forward_to_type::kNotifyNotSet),
     Element<&ix_ns_xcap_forward_to_type::mRevealIdentityToCaller>(IX_STR_REVEAL_IDENTITY_TO_CALLER, kReveal),

@@ -7,13 +7,15 @@ namespace {
 using namespace XmlRow;
 
 constexpr XmlField kEntryFields[] = {
-    Attribute<&ix_entry::mUri>(IX_STR_URI),   Attribute<&ix_entry::mLastModified>(IX_STR_LAST_MODIFIED),
-    Attribute<&ix_entry::mSize>(IX_STR_SIZE), Attributes<&ix_entry::mExtensionList>(),
-    Attribute<&ix_entry::mEtag>(IX_STR_ETAG),
+    Attribute<&ix_entry::mUri>(IX_STR_URI).Mandatory(),
+    Attribute<&ix_entry::mLastModified>(IX_STR_LAST_MODIFIED),
+    Attribute<&ix_entry::mSize>(IX_STR_SIZE),
+    Attributes<&ix_entry::mExtensionList>(),
+    Attribute<&ix_entry::mEtag>(IX_STR_ETAG).Mandatory(),
 };
 
 constexpr XmlField kFolderFields[] = {
-    Attribute<&ix_folder::mAuid>(IX_STR_AUID),
+    Attribute<&ix_folder::mAuid>(IX_STR_AUID).Mandatory(),
     Children<&ix_folder::mEntryList, ix_entry>(IX_STR_ENTRY),
     Element<&ix_folder::mErrorCode>(IX_STR_ERROR_CODE),
 };

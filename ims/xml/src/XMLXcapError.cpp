@@ -34,7 +34,7 @@ constexpr XmlField kNoParentFields[] = {
 };
 
 constexpr XmlField kExistsFields[] = {
-    Attribute<&ix_exists::mField>(IX_STR_FIELD),
+    Attribute<&ix_exists::mField>(IX_STR_FIELD).Mandatory(),
     Texts<&ix_exists::mAltValueList>(IX_STR_ALT_VALUE),
 };
 

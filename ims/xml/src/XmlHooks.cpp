@@ -113,16 +113,6 @@ const XmlClass* ClassNamed(const XmlField& row, XmlName name) {
     return nullptr;
 }
 
-/// The first row of a role; NULL: the class has none.
-const XmlField* RowOfRole(const XmlClass& description, XmlRole role) {
-    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
-        for (std::size_t i = 0; i < table->count; ++i) {
-            if (table->fields[i].role == role) return &table->fields[i];
-        }
-    }
-    return nullptr;
-}
-
 /// Something that is offered to an element.
 struct Place {
     XMLElement& element;
@@ -181,7 +171,7 @@ bool TakeByClass(const Place& place, XmlAnswer& answer) {
 XmlAnswer OfferUnknown(XMLElement& element, const XmlClass& description, const XmlTag& tag, const char* text,
                        XMLElement* child) {
     const XmlAnswers& answers = description.answers;
-    const XmlField* const others = child != nullptr ? RowOfRole(description, XmlRole::Others) : nullptr;
+    const XmlField* const others = child != nullptr ? XmlHooks::RowOf(description, XmlRole::Others) : nullptr;
     if (others != nullptr) return TakenIf(XmlHooks::Append(element, *others, child));
     ixLog(description.source, child != nullptr ? answers.unknownObject : answers.unknown, tag.text, text);
     return AnswerOf(child != nullptr ? answers.object : answers.event);
@@ -206,6 +196,15 @@ XmlAnswer XmlHooks::Offer(XMLElement& element, const XmlClass& description, cons
         if (TakeByClass(place, answer)) return answer;
     }
     return OfferUnknown(element, description, tag, text, child);
+}
+
+const XmlField* XmlHooks::RowOf(const XmlClass& description, XmlRole role) {
+    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            if (table->fields[i].role == role) return &table->fields[i];
+        }
+    }
+    return nullptr;
 }
 
 const XmlField* XmlHooks::AttributeRow(const XmlClass& description, XmlName name) {
@@ -233,7 +232,7 @@ XmlAnswer XmlHooks::OfferAttribute(XMLElement& element, const XmlClass& descript
     if (known != nullptr && pair == nullptr) return TakeAttribute(element, *known, value);
     ixLog(description.source, answers.attributeEntered);
     if (known != nullptr && known->role != XmlRole::Dropped) return XmlAnswer::Refused;
-    const XmlField* const others = pair != nullptr ? RowOfRole(description, XmlRole::Attributes) : nullptr;
+    const XmlField* const others = pair != nullptr ? RowOf(description, XmlRole::Attributes) : nullptr;
     if (others != nullptr) {
         ix_AttributeValuePair* const other = ixAsPair(pair);
         const bool isKept = other != nullptr && Append(element, *others, other);

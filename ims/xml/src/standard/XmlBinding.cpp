@@ -1,0 +1,495 @@
+#include "XmlBinding.h"
+
+#include <climits>
+
+#include "XmlElementSupport.h"
+#include "XmlFields.h"
+#include "XmlHooks.h"
+
+namespace {
+
+XmlSlice Trimmed(XmlSlice text) {
+    while (text.length != 0 && XmlReader::IsSpace(*text.text)) {
+        ++text.text;
+        --text.length;
+    }
+    while (text.length != 0 && XmlReader::IsSpace(text.text[text.length - 1])) --text.length;
+    return text;
+}
+
+bool Is(const XmlSlice& text, const char* word) {
+    return std::strncmp(text.text, word, text.length) == 0 && word[text.length] == '\0';
+}
+
+bool ReadNumber(const XmlSlice& text, long long least, long long most, long long& value) {
+    const bool isNegative = text.length != 0 && *text.text == '-';
+    std::size_t i = isNegative || (text.length != 0 && *text.text == '+') ? 1 : 0;
+    if (i == text.length) return false;
+    value = 0;
+    for (; i < text.length; ++i) {
+        const int digit = text.text[i] - '0';
+        if (digit < 0 || digit > 9 || __builtin_mul_overflow(value, 10LL, &value)) return false;
+        if (__builtin_add_overflow(value, static_cast<long long>(isNegative ? -digit : digit), &value)) return false;
+    }
+    return value >= least && value <= most;
+}
+
+/// A copy with a NUL behind it; NULL without memory.
+char* CopyOf(const XmlSlice& text) {
+    char* const copy = static_cast<char*>(__malloc(text.length + 1));
+    if (copy == nullptr) return nullptr;
+    if (text.length != 0) std::memcpy(copy, text.text, text.length);
+    copy[text.length] = '\0';
+    return copy;
+}
+
+bool IsList(const XmlField& row) { return row.kind == XmlFieldKind::ChildList || row.kind == XmlFieldKind::TextList; }
+
+/// An attribute's name with its prefix.
+XmlSlice WholeName(const XmlReaderAttribute& attribute) {
+    if (attribute.prefix.length == 0) return attribute.local;
+    return {attribute.prefix.text,
+            static_cast<std::size_t>(attribute.local.text - attribute.prefix.text) + attribute.local.length};
+}
+
+const XmlField* OwnTextOf(const XmlClass& description) {
+    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count && table->hasUnnamed; ++i) {
+            if (table->fields[i].role == XmlRole::OwnText) return &table->fields[i];
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+// --- Schemas and values ----------------------------------------------------------------------------------------------
+
+XmlNamespace ixMainNamespace(const XmlSchemaInfo& schema) {
+    const char* const uri = schema.standardUri != nullptr ? schema.standardUri : schema.namespaceUri;
+    std::size_t i = 0;
+    while (i + 1 < kXmlNamespaceCount && std::strcmp(kXmlNamespaces[i].uri, uri) != 0) ++i;
+    return static_cast<XmlNamespace>(i);
+}
+
+namespace {
+
+/// The roots of a schema, in the order of their classes, until one `fits`.
+template <class Predicate>
+XmlRoot FindRoot(const XmlSchemaInfo& schema, Predicate fits) {
+    const char* at = schema.rootElements;
+    for (std::size_t i = 0; *at != '\0'; ++i) {
+        const char* end = at;
+        while (*end != '\0' && *end != ' ') ++end;
+        const XmlRoot root = {
+            schema.classes[i], {const_cast<char*>(at), static_cast<std::size_t>(end - at)}, ixMainNamespace(schema)};
+        if (fits(root)) return root;
+        at = *end == ' ' ? end + 1 : end;
+    }
+    for (const XmlNamedClass* part = schema.parts; part != nullptr && part->description != nullptr; ++part) {
+        const char* const name = part->name.Text();
+        const XmlRoot root = {part->description, {const_cast<char*>(name), std::strlen(name)}, part->ns};
+        if (fits(root)) return root;
+    }
+    return {};
+}
+
+}  // namespace
+
+XmlRoot ixRootOf(const XmlSchemaInfo& schema, const XmlSlice& local) {
+    return FindRoot(schema, [&](const XmlRoot& root) { return root.name == local || Is(root.name, "*"); });
+}
+
+XmlRoot ixRootOf(const XmlSchemaInfo& schema, const XmlClass& description) {
+    return FindRoot(schema, [&](const XmlRoot& root) { return root.description == &description; });
+}
+
+bool ixReadValue(const XmlField& row, XmlSlice text, long long& value) {
+    text = Trimmed(text);
+    switch (row.kind) {
+        case XmlFieldKind::Flag:
+            value = Is(text, "true") || Is(text, "1") ? 1 : 0;
+            return value != 0 || Is(text, "false") || Is(text, "0");
+        case XmlFieldKind::Enumeration:
+            for (value = 0; value < row.enumeration->count; ++value) {
+                if (Is(text, row.enumeration->TextOf(value))) return true;
+            }
+            return false;
+        case XmlFieldKind::Unsigned:
+            return ReadNumber(text, 0, UINT_MAX, value);
+        case XmlFieldKind::Number:
+            return ReadNumber(text, INT_MIN, INT_MAX, value);
+        default:
+            return ReadNumber(text, LLONG_MIN, LLONG_MAX, value);
+    }
+}
+
+void ixStoreNumber(XMLElement& element, const XmlField& row, long long value) {
+    if (row.kind == XmlFieldKind::Unsigned) {
+        element.*row.member.unsignedNumber = static_cast<unsigned int>(value);
+    } else if (row.kind == XmlFieldKind::Number64) {
+        element.*row.member.number64 = value;
+    } else {
+        element.*row.member.number = static_cast<int>(value);
+    }
+}
+
+// --- Rows ------------------------------------------------------------------------------------------------------------
+
+XmlBinding::Place XmlBinding::FindElement(const XmlClass& description, XmlName name) const {
+    const auto isElement = [](const XmlField& row) {
+        return row.role == XmlRole::Element || row.role == XmlRole::Words || row.role == XmlRole::Texts ||
+               row.role == XmlRole::Child || row.role == XmlRole::Children;
+    };
+    std::size_t first = 0;
+    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+        const XmlField* const row = table->Find(name, isElement);
+        if (row != nullptr)
+            return {row, nullptr, std::uint64_t{1} << (first + static_cast<std::size_t>(row - table->fields))};
+        for (std::size_t i = 0; i < table->count && table->hasEntries; ++i) {
+            const XmlField& mixed = table->fields[i];
+            for (std::size_t k = 0; k < mixed.entryCount; ++k) {
+                if (mixed.entries[k].name == name) return {&mixed, &mixed.entries[k], std::uint64_t{1} << (first + i)};
+            }
+        }
+        first += table->count;
+    }
+    return {};
+}
+
+XmlBinding::Place XmlBinding::FindAttribute(const XmlClass& description, XmlName name) {
+    std::size_t first = 0;
+    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+        const XmlField* const row =
+            table->Find(name, [](const XmlField& field) { return field.role == XmlRole::Attribute; });
+        if (row != nullptr)
+            return {row, nullptr, std::uint64_t{1} << (first + static_cast<std::size_t>(row - table->fields))};
+        first += table->count;
+    }
+    return {};
+}
+
+/// Without a namespace on the root local names alone count. The main namespace, and none, stand for those of a
+/// standard.
+bool XmlBinding::TakesNamespace(XmlUri uri, XmlUri expected, XmlUri proper) const {
+    return uri == expected || uri == proper || uri == m_main || uri == 0 || m_rootUri == 0;
+}
+
+// --- Rest ------------------------------------------------------------------------------------------------------------
+
+bool XmlBinding::Keep(XMLElement& element, const XmlRestItem& item, std::size_t nameLength, std::size_t textLength) {
+    XmlRest* const rest = element.MakeRest();
+    const bool isKept = rest != nullptr && rest->Append(item, nameLength, textLength) != nullptr;
+    return isKept || m_reader.FailMemory() != XmlReader::kFailed;
+}
+
+bool XmlBinding::KeepNamespace(XMLElement& element, const XmlField* field) {
+    const XmlSlice uri = m_reader.UriText(m_reader.Uri());
+    // The texts of namespaces are not always ended by a NUL.
+    m_piece.Cut(0);
+    if (!m_piece.Append(uri.text, uri.length) || !m_piece.Add('\0')) return m_reader.FailMemory() != XmlReader::kFailed;
+    return Keep(element, {XmlRestKind::Namespace, field != nullptr, field, nullptr, 0, m_piece.Values(), "", ""}, 0, 0);
+}
+
+/// Keeps an element that no field takes.
+bool XmlBinding::KeepPiece(Frame& frame) {
+    m_piece.Cut(0);
+    if (!m_reader.Skip(m_piece)) return false;
+    const bool isInside = frame.field != nullptr;
+    return Keep(*frame.element,
+                {XmlRestKind::Element, isInside, isInside ? frame.field : frame.lastField,
+                 isInside ? nullptr : frame.lastEntry, 0, "", "", m_piece.Values()},
+                0, m_piece.Count());
+}
+
+// --- Reading ---------------------------------------------------------------------------------------------------------
+
+XMLElement* XmlBinding::Read() {
+    bool isGood = Root();
+    while (isGood) {
+        switch (m_reader.Next()) {
+            case XmlReader::kStart:
+                isGood = m_pDeclarations != nullptr ? AddDeclarations() : Start();
+                break;
+            case XmlReader::kEnd:
+                isGood = m_pDeclarations != nullptr || End();
+                break;
+            case XmlReader::kText:
+                isGood = m_pDeclarations != nullptr || Text();
+                break;
+            case XmlReader::kDone:
+                return m_pRoot;
+            default:
+                isGood = false;
+        }
+    }
+    ixDelete(m_pRoot);
+    return nullptr;
+}
+
+bool XmlBinding::Root() {
+    if (m_reader.Next() != XmlReader::kStart) return false;
+    m_main = ixUri(ixMainNamespace(m_schema));
+    m_rootUri = m_reader.Uri();
+    const XmlRoot root = ixRootOf(m_schema, m_reader.Local());
+    if (root.description == nullptr)
+        return m_reader.Fail("not a root element of the schema", m_reader.Place()) != XmlReader::kFailed;
+    const XmlUri proper = ixUri(root.ns);
+    m_pDeclarations = XmlHooks::RowOf(*root.description, XmlRole::Declarations);
+    if (m_pDeclarations == nullptr && m_rootUri != proper && m_rootUri != 0 && m_rootUri != m_main) {
+        return m_reader.Fail("the root element is of another namespace", m_reader.Place()) != XmlReader::kFailed;
+    }
+    m_pRoot = root.description->create(root.description->source, __LINE__);
+    if (m_pRoot == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (m_pDeclarations != nullptr) return AddDeclarations();
+    if (m_rootUri != proper && !KeepNamespace(*m_pRoot, nullptr)) return false;
+    if (!m_frames.Add({m_pRoot, nullptr, m_rootUri, proper, 0, nullptr, nullptr, nullptr, {}})) {
+        return m_reader.FailMemory() != XmlReader::kFailed;
+    }
+    return Attributes(m_frames.Last());
+}
+
+bool XmlBinding::Start() {
+    Frame& top = m_frames.Last();
+    const XmlSlice& local = m_reader.Local();
+    const XmlName name(local.text, local.length);
+    const bool isKnown = top.field == nullptr && name.IsKnown() && top.element->Class() != nullptr;
+    const Place place = isKnown ? FindElement(*top.element->Class(), name) : Place();
+    if (place.row == nullptr) {
+        Find("element is unknown", local);
+        return KeepPiece(top);
+    }
+    const XmlNamespace ns = place.entry != nullptr ? place.entry->ns : place.row->ns;
+    const bool isOfParent = ns == XmlNamespace::Parent;
+    const XmlUri proper = isOfParent ? top.proper : ixUri(ns);
+    const XmlUri expected = isOfParent ? top.uri : proper;
+    if (!TakesNamespace(m_reader.Uri(), expected, proper)) {
+        Find("element is of another namespace", local);
+        return KeepPiece(top);
+    }
+    if (!IsList(*place.row) && (top.seen & place.bit) != 0) {
+        Find("element is given twice", local);
+        return KeepPiece(top);
+    }
+    top.seen |= place.bit;
+    const bool isValue =
+        place.row->role == XmlRole::Element || place.row->role == XmlRole::Words || place.row->role == XmlRole::Texts;
+    return isValue ? OpenField(top, place, proper) : OpenObject(top, place, proper);
+}
+
+bool XmlBinding::OpenField(Frame& parent, const Place& place, XmlUri proper) {
+    XMLElement& element = *parent.element;
+    XmlRest* const rest = element.Rest();
+    const XmlUri uri = m_reader.Uri();
+    const XmlUri expected = place.row->ns == XmlNamespace::Parent ? parent.uri : proper;
+    Frame frame = {&element, place.row, uri, proper, 0, nullptr, nullptr, rest != nullptr ? rest->Last() : nullptr, {}};
+    if (uri != expected && !KeepNamespace(element, place.row)) return false;
+    if (m_reader.AttributeCount() != 0 && !Attributes(frame)) return false;
+    return m_frames.Add(frame) || m_reader.FailMemory() != XmlReader::kFailed;
+}
+
+bool XmlBinding::OpenObject(Frame& parent, const Place& place, XmlUri proper) {
+    const XmlField& row = *place.row;
+    const XmlClass& description = place.entry != nullptr ? *place.entry->description : *row.description;
+    XMLElement* const child = description.create(description.source, row.line);
+    if (child == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (row.store != nullptr) {
+        row.store(*parent.element, child);
+    } else if (!XmlHooks::Append(*parent.element, row, child)) {
+        ixDelete(child);
+        return m_reader.FailMemory() != XmlReader::kFailed;
+    }
+    parent.lastField = &row;
+    parent.lastEntry = IsList(row) ? child : nullptr;
+    const bool isFlag = &description == &ix_empty_element_type::kClass;
+    if (isFlag) {
+        auto& flag = static_cast<ix_empty_element_type&>(*child);
+        flag.mPresent = 1;
+        flag.mName = CopyOf(m_reader.Local());
+        if (flag.mName == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+    }
+    const XmlNamespace ns = place.entry != nullptr ? place.entry->ns : row.ns;
+    const XmlUri uri = m_reader.Uri();
+    if (uri != (ns == XmlNamespace::Parent ? parent.uri : proper) && !KeepNamespace(*child, nullptr)) return false;
+    if (!m_frames.Add({child, nullptr, uri, proper, 0, nullptr, nullptr, nullptr, {}})) {
+        return m_reader.FailMemory() != XmlReader::kFailed;
+    }
+    return m_reader.AttributeCount() == 0 || Attributes(m_frames.Last());
+}
+
+bool XmlBinding::Attributes(Frame& frame) {
+    const std::size_t count = m_reader.AttributeCount();
+    for (std::size_t i = 0; i < count; ++i) {
+        XmlReaderAttribute& attribute = m_reader.Attribute(i);
+        if (attribute.declares) continue;
+        if (attribute.isRaw) XmlReader::Decode(attribute.value, true);
+        if (!Attribute(frame, attribute)) return false;
+    }
+    return true;
+}
+
+/// @param name without text: the pair has none.
+bool XmlBinding::AddPair(XMLElement& element, const XmlField& row, const XmlSlice& name, const XmlSlice& value) {
+    auto* const pair = ixNew<ix_AttributeValuePair>(element.Class()->source, row.line);
+    if (pair == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+    pair->mName = name.text != nullptr ? CopyOf(name) : nullptr;
+    pair->mValue = CopyOf(value);
+    const bool isGood = pair->mValue != nullptr && (pair->mName != nullptr || name.text == nullptr);
+    if (isGood && XmlHooks::Append(element, row, pair)) return true;
+    ixDelete(pair);
+    return m_reader.FailMemory() != XmlReader::kFailed;
+}
+
+bool XmlBinding::AddDeclarations() {
+    for (std::size_t i = 0; i < m_reader.AttributeCount(); ++i) {
+        XmlReaderAttribute& attribute = m_reader.Attribute(i);
+        if (!attribute.declares) continue;
+        XmlSlice prefix;
+        if (attribute.prefix.length != 0) prefix = attribute.local;
+        if (attribute.isRaw) XmlReader::Decode(attribute.value, true);
+        if (!AddPair(*m_pRoot, *m_pDeclarations, prefix, attribute.value)) return false;
+    }
+    return true;
+}
+
+bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
+    XMLElement& element = *frame.element;
+    const XmlSlice& value = attribute.value;
+    const bool isOwn = attribute.prefix.length == 0 && frame.field == nullptr && element.Class() != nullptr;
+    if (isOwn) {
+        const XmlClass& description = *element.Class();
+        const XmlName name(attribute.local.text, attribute.local.length);
+        const Place place = name.IsKnown() ? FindAttribute(description, name) : Place();
+        // Markers of presence have fields of their own under names that no document has.
+        if (place.row != nullptr && &description != &ix_empty_element_type::kClass &&
+            description.parent != &ix_empty_element_type::kClass) {
+            frame.seen |= place.bit;
+            return StoreValue(element, *place.row, value);
+        }
+        const XmlField* const others = XmlHooks::RowOf(description, XmlRole::Attributes);
+        if (others != nullptr) {
+            return AddPair(element, *others, attribute.local, value);
+        }
+    }
+    if (m_pFindings != nullptr && attribute.uri == 0) Find("attribute is unknown", attribute.local);
+    const XmlSlice uri = m_reader.UriText(attribute.uri);
+    const XmlSlice name = WholeName(attribute);
+    m_piece.Cut(0);
+    if (!m_piece.Append(uri.text, uri.length) || !m_piece.Add('\0')) return m_reader.FailMemory() != XmlReader::kFailed;
+    return Keep(element,
+                {XmlRestKind::Attribute, frame.field != nullptr, frame.field, nullptr, 0, m_piece.Values(), name.text,
+                 value.text},
+                name.length, value.length);
+}
+
+bool XmlBinding::Text() {
+    Frame& top = m_frames.Last();
+    XmlSlice text = m_reader.Text();
+    const bool takes =
+        top.field != nullptr || (top.element->Class() != nullptr && OwnTextOf(*top.element->Class()) != nullptr);
+    if (!takes && !m_reader.IsRaw() && XmlReader::IsBlank(text)) return true;
+    if (m_reader.IsRaw()) XmlReader::Decode(text, false);
+    if (takes) {
+        if (top.text.text == nullptr) {
+            top.text = text;
+        } else {
+            // What stood between two runs has been read: the second one moves behind the first.
+            std::memmove(top.text.text + top.text.length, text.text, text.length);
+            top.text.length += text.length;
+        }
+        return true;
+    }
+    Find("text between elements", text);
+    return Keep(*top.element, {XmlRestKind::Text, false, top.lastField, top.lastEntry, 0, "", "", text.text}, 0,
+                text.length);
+}
+
+bool XmlBinding::End() {
+    Frame frame = m_frames.Last();
+    m_frames.Cut(m_frames.Count() - 1);
+    return frame.field != nullptr ? CloseField(frame) : CloseObject(frame);
+}
+
+bool XmlBinding::CloseField(Frame& frame) {
+    XMLElement& element = *frame.element;
+    const XmlField& row = *frame.field;
+    if (frame.text.text == nullptr) frame.text.text = const_cast<char*>("");
+    bool isGood = false;
+    const void* entry = nullptr;
+    if (row.role == XmlRole::Texts) {
+        isGood = XmlHooks::AppendText(element, row, frame.text.text, frame.text.length) ||
+                 m_reader.FailMemory() != XmlReader::kFailed;
+        if (isGood) entry = XmlFields::List(element, row)->LastNode()->key;
+    } else if (row.role == XmlRole::Words) {
+        isGood = StoreWords(element, row, frame.text);
+    } else {
+        isGood = StoreValue(element, row, frame.text);
+    }
+    Frame& parent = m_frames.Last();
+    parent.lastField = &row;
+    parent.lastEntry = entry;
+    if (entry != nullptr && element.Rest() != nullptr) element.Rest()->SetEntry(frame.kept, row, entry);
+    return isGood;
+}
+
+bool XmlBinding::StoreWords(XMLElement& element, const XmlField& row, const XmlSlice& text) {
+    std::size_t i = 0;
+    while (i < text.length) {
+        while (i < text.length && XmlReader::IsSpace(text.text[i])) ++i;
+        const std::size_t begin = i;
+        while (i < text.length && !XmlReader::IsSpace(text.text[i])) ++i;
+        if (i != begin && !XmlHooks::AppendText(element, row, text.text + begin, i - begin)) {
+            return m_reader.FailMemory() != XmlReader::kFailed;
+        }
+    }
+    if (XmlFields::IsSet(element, row)) return true;
+    return Keep(element, {XmlRestKind::Value, false, &row, nullptr, 0, "", "", text.text}, 0, text.length);
+}
+
+/// What does not fit leaves the field as it is.
+bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text) {
+    if (row.kind == XmlFieldKind::Text) {
+        char* const copy = CopyOf(text);
+        if (copy == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+        __free(element.*row.member.text);
+        element.*row.member.text = copy;
+        return true;
+    }
+    long long value = 0;
+    const bool fits = ixReadValue(row, text, value);
+    if (fits) ixStoreNumber(element, row, value);
+    if (fits && value != row.notSet) return true;
+    if (!fits) {
+        Find(row.kind == XmlFieldKind::Flag          ? "neither true nor false"
+             : row.kind == XmlFieldKind::Enumeration ? "not a word of the standard"
+                                                     : "not a number that fits",
+             text);
+    }
+    return Keep(element, {XmlRestKind::Value, false, &row, nullptr, XmlFields::Number(element, row), "", "", text.text},
+                0, text.length);
+}
+
+bool XmlBinding::CloseObject(Frame& frame) {
+    XMLElement& element = *frame.element;
+    const XmlClass* const description = element.Class();
+    if (description == nullptr) return true;
+    const XmlField* const ownText = OwnTextOf(*description);
+    if (ownText != nullptr) {
+        if (frame.text.text == nullptr) frame.text.text = const_cast<char*>("");
+        if (!StoreValue(element, *ownText, frame.text)) return false;
+    }
+    std::uint64_t seen = frame.seen;
+    for (const XmlFieldTable* table = &description->table; table != nullptr; table = table->base) {
+        const std::uint64_t missing = table->told & ~seen;
+        for (std::size_t i = 0; missing >> i != 0; ++i) {
+            const XmlField& row = table->fields[i];
+            if ((missing >> i & 1) == 0 || &row == ownText || row.role == XmlRole::OwnText) continue;
+            if (row.mandatory) Find("is missing", {const_cast<char*>(row.Name()), std::strlen(row.Name())});
+            const XmlRestItem item = {
+                XmlRestKind::Value, false, &row, nullptr, XmlFields::Number(element, row), "", "", nullptr};
+            if (!Keep(element, item, 0, 0)) return false;
+        }
+        seen >>= table->count;
+    }
+    return true;
+}

@@ -1,0 +1,103 @@
+/// @file
+/// Makes a tree of what the standard profile's reader reports, by the descriptions of the classes.
+#ifndef IX_XML_BINDING_H
+#define IX_XML_BINDING_H
+
+#include "XmlClass.h"
+#include "XmlReader.h"
+
+/// What is wrong in a document that is read all the same.
+class XmlFindings {
+  public:
+    virtual void Add(const char* place, const char* what, const XmlSlice& name) = 0;
+
+  protected:
+    ~XmlFindings() = default;
+};
+
+/// A root element that a schema knows.
+struct XmlRoot {
+    const XmlClass* description = nullptr;  ///< NULL: it does not know it.
+    XmlSlice name;
+    XmlNamespace ns = XmlNamespace::None;
+};
+
+/// By the local name of the element.
+XmlRoot ixRootOf(const XmlSchemaInfo& schema, const XmlSlice& local);
+/// By the class of the object.
+XmlRoot ixRootOf(const XmlSchemaInfo& schema, const XmlClass& description);
+/// The number of a schema's main namespace.
+XmlNamespace ixMainNamespace(const XmlSchemaInfo& schema);
+
+class XmlBinding {
+  public:
+    /// @param findings NULL: nobody asks.
+    XmlBinding(const XmlSchemaInfo& schema, XmlReader& reader, XmlFindings* findings = nullptr)
+        : m_schema(schema), m_reader(reader), m_pFindings(findings) {}
+
+    /// @return the root, which belongs to the caller; NULL: `XmlReader::Problem` says why.
+    XMLElement* Read();
+
+  private:
+    /// An open element: of an object, or of a field that holds a value.
+    struct Frame {
+        XMLElement* element;        ///< The object, or that of the field.
+        const XmlField* field;      ///< NULL: an object.
+        XmlUri uri;                 ///< The namespace it came in ...
+        XmlUri proper;              ///< ... and that of its standard.
+        std::uint64_t seen;         ///< Rows of the class that the document has said something about.
+        const XmlField* lastField;  ///< Of the child before ...
+        const void* lastEntry;      ///< ... and its entry in a list.
+        XmlRestItem* kept;          ///< A field: the rest before it.
+        XmlSlice text;
+    };
+    /// A row that takes an element or an attribute.
+    struct Place {
+        const XmlField* row = nullptr;
+        const XmlNamedClass* entry = nullptr;
+        std::uint64_t bit = 0;
+    };
+
+    bool Root();
+    bool Start();
+    bool Text();
+    bool End();
+    bool AddPair(XMLElement& element, const XmlField& row, const XmlSlice& name, const XmlSlice& value);
+    bool AddDeclarations();
+    bool Attributes(Frame& frame);
+    bool Attribute(Frame& frame, XmlReaderAttribute& attribute);
+    bool OpenObject(Frame& parent, const Place& place, XmlUri proper);
+    bool OpenField(Frame& parent, const Place& place, XmlUri proper);
+    bool KeepPiece(Frame& frame);
+    bool Keep(XMLElement& element, const XmlRestItem& item, std::size_t nameLength, std::size_t textLength);
+    bool KeepNamespace(XMLElement& element, const XmlField* field);
+    bool CloseObject(Frame& frame);
+    bool CloseField(Frame& frame);
+    bool StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text);
+    bool StoreWords(XMLElement& element, const XmlField& row, const XmlSlice& text);
+    bool TakesNamespace(XmlUri uri, XmlUri expected, XmlUri proper) const;
+    Place FindElement(const XmlClass& description, XmlName name) const;
+    static Place FindAttribute(const XmlClass& description, XmlName name);
+    void Find(const char* what, const XmlSlice& name) const {
+        if (m_pFindings != nullptr) m_pFindings->Add(m_reader.Place(), what, name);
+    }
+
+    const XmlSchemaInfo& m_schema;
+    XmlReader& m_reader;
+    XmlFindings* m_pFindings;
+    XMLElement* m_pRoot = nullptr;
+    const XmlField* m_pDeclarations = nullptr;  ///< The row of a root that wants nothing else.
+    XmlUri m_main = 0;
+    XmlUri m_rootUri = 0;
+    XmlArray<Frame> m_frames;
+    XmlArray<char> m_piece;
+};
+
+/// @name Values
+/// @{
+/// The number that a text is. @return false when it is none, or does not fit into the row's field.
+bool ixReadValue(const XmlField& row, XmlSlice text, long long& value);
+void ixStoreNumber(XMLElement& element, const XmlField& row, long long value);
+/// @}
+
+#endif

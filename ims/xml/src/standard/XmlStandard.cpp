@@ -1,0 +1,122 @@
+#include "XmlStandard.h"
+
+#include "XMLFile.h"
+#include "XmlNamespaceTable.h"
+#include "XmlWriter.h"
+
+namespace {
+
+class StandardUnMarshaller : public XMLUnMarshaller {
+  public:
+    StandardUnMarshaller(const XmlSchemaInfo& schema, XMLObject* binder) : m_schema(schema), m_pBinder(binder) {}
+
+    XMLElement* UnMarshall(const char* text) override { return UnMarshall(text, text != nullptr ? __strlen(text) : 0); }
+    XMLElement* UnMarshall(XMLFile* file) override { return UnMarshall(file != nullptr ? file->Read() : nullptr); }
+    XMLElement* UnMarshall(const char* text, std::size_t length) override;
+    const XmlProblem* Problem() const override { return m_problem.text != nullptr ? &m_problem : nullptr; }
+
+  private:
+    bool Declare(XmlReader& reader) const;
+
+    const XmlSchemaInfo& m_schema;
+    XMLObject* m_pBinder;
+    XmlProblem m_problem = {0, 0, nullptr};
+};
+
+/// The prefixes that something outside of the document binds: those of the services, and those of the binder.
+bool StandardUnMarshaller::Declare(XmlReader& reader) const {
+    constexpr XmlNamespace kServices[] = {XmlNamespace::Simservs, XmlNamespace::CommonPolicy,
+                                          XmlNamespace::OmaCommonPolicy};
+    for (const XmlNamespace known : kServices) {
+        const XmlNamespaceInfo& info = kXmlNamespaces[ixUri(known)];
+        if (!m_schema.takesBinder) break;
+        if (!reader.Declare(info.prefix, std::strlen(info.prefix), info.uri, info.length)) return false;
+    }
+    const IxSingleElementList* const list = XmlNamespaceBinder::DeclarationsOf(m_pBinder);
+    for (const auto* pair : XmlEntries<ix_AttributeValuePair>(list)) {
+        if (pair == nullptr || pair->mName == nullptr || pair->mValue == nullptr || *pair->mValue == '\0') continue;
+        const std::size_t length = std::strlen(pair->mName);
+        if (!XmlReader::IsName(pair->mName, length)) continue;
+        if (!reader.Declare(pair->mName, length, pair->mValue, std::strlen(pair->mValue))) return false;
+    }
+    return true;
+}
+
+XMLElement* StandardUnMarshaller::UnMarshall(const char* text, std::size_t length) {
+    m_problem = {0, 0, nullptr};
+    if (text == nullptr) {
+        m_problem.text = "there is no text";
+        return nullptr;
+    }
+    XmlReader reader;
+    XmlBinding binding(m_schema, reader);
+    XMLElement* const root = Declare(reader) && reader.Begin(text, length) ? binding.Read() : nullptr;
+    if (root == nullptr) m_problem = *reader.Problem();
+    return root;
+}
+
+class StandardMarshaller : public XMLMarshaller {
+  public:
+    explicit StandardMarshaller(const XmlSchemaInfo& schema) : m_schema(schema) {}
+    ~StandardMarshaller() override { __free(m_pText); }
+
+    char* Marshall(XMLElement* root) override {
+        __free(m_pText);
+        XmlWriter writer(m_schema);
+        m_pText = writer.Write(root);
+        std::strcpy(m_reason, writer.Problem());
+        return m_pText;
+    }
+    int Reserved() override { return 0; }
+    const XmlProblem* Problem() const override { return m_reason[0] != '\0' ? &m_problem : nullptr; }
+
+  private:
+    const XmlSchemaInfo& m_schema;
+    char* m_pText = nullptr;
+    char m_reason[XmlWriter::kLongestProblem] = {};
+    XmlProblem m_problem = {0, 0, m_reason};
+};
+
+/// Objects are made by the factory of the device profile, which has the same classes.
+class StandardContext : public XMLContext {
+  public:
+    explicit StandardContext(const XmlSchemaInfo& schema) : m_schema(schema) {}
+    ~StandardContext() override { ixDelete(m_pDevice); }
+
+    XMLMarshaller* createMarshaller() override {
+        return Keep(m_pMarshaller, new (std::nothrow) StandardMarshaller(m_schema));
+    }
+    XMLUnMarshaller* createUnMarshaller() override {
+        return Keep(m_pUnMarshaller, new (std::nothrow) StandardUnMarshaller(m_schema, m_pBinder));
+    }
+    XMLObjectFactory* createBinderFactory() override {
+        if (m_pDevice == nullptr) m_pDevice = m_schema.create();
+        return m_pDevice != nullptr ? m_pDevice->createBinderFactory() : nullptr;
+    }
+    int SetNamespaceBinder(XMLObject* binder) override {
+        if (binder != nullptr) m_pBinder = binder;
+        return 1;
+    }
+
+  private:
+    template <class Base, class Object>
+    static Base* Keep(Base*& place, Object* object) {
+        ixTrack(kSchemaModule, kSource, __LINE__, object, sizeof(Object));
+        place = object;
+        return object;
+    }
+
+    const XmlSchemaInfo& m_schema;
+    XMLContext* m_pDevice = nullptr;
+    XMLObject* m_pBinder = nullptr;
+};
+
+}  // namespace
+
+XMLContext* ixNewStandardContext(const XmlSchemaInfo& schema) {
+    // Its root element has a name that no XML document can have.
+    if (schema.id == IX_XML_SCHEMA_CALL_WAITING_INDICATION) return nullptr;
+    auto* const context = new (std::nothrow) StandardContext(schema);
+    ixTrack(kSchemaModule, kSource, __LINE__, context, sizeof *context);
+    return context;
+}

@@ -1,0 +1,11 @@
+/// @file
+/// The contexts of the standard profile.
+#ifndef IX_XML_STANDARD_H
+#define IX_XML_STANDARD_H
+
+#include "XMLFactory.h"
+
+/// A new context of a schema; NULL without memory, and for a schema that has no standard profile.
+XMLContext* ixNewStandardContext(const XmlSchemaInfo& schema);
+
+#endif

@@ -1,0 +1,551 @@
+#include "XmlWriter.h"
+
+#include <algorithm>
+
+#include "XmlElementSupport.h"
+#include "XmlFields.h"
+#include "XmlHooks.h"
+
+namespace {
+
+XmlSlice SliceOf(const char* text) { return {const_cast<char*>(text), text != nullptr ? std::strlen(text) : 0}; }
+
+/// What stands behind the colon, if there is one.
+XmlSlice LocalOf(const char* name) {
+    const char* const colon = std::strchr(name, ':');
+    return SliceOf(colon != nullptr ? colon + 1 : name);
+}
+
+XmlSlice DigitsOf(long long value, char (&digits)[24]) {
+    char* at = digits + sizeof digits;
+    auto rest = static_cast<unsigned long long>(value);
+    if (value < 0) rest = 0 - rest;
+    do {
+        *--at = static_cast<char>('0' + rest % 10);
+        rest /= 10;
+    } while (rest != 0);
+    if (value < 0) *--at = '-';
+    return {at, static_cast<std::size_t>(digits + sizeof digits - at)};
+}
+
+/// The next entry from `item` on that belongs to the child of `row` and `entry`: inside of it or behind it.
+const XmlRestItem* NextOf(const XmlRestItem* item, const XmlField& row) {
+    while (item != nullptr && (item->field != &row || (item->kind == XmlRestKind::Value && !item->isInside))) {
+        item = item->next;
+    }
+    return item;
+}
+
+/// True while `item` is of the same child as the first of its run.
+bool IsOf(const XmlRestItem* item, const XmlRestItem& first) {
+    return item != nullptr && item->field == first.field && item->entry == first.entry;
+}
+
+const XmlRestItem* FirstOf(const XMLElement& element) {
+    return element.Rest() != nullptr ? element.Rest()->First() : nullptr;
+}
+
+bool IsNothing(const XmlSlice& text) { return text.text == nullptr; }
+
+}  // namespace
+
+XmlWriter::~XmlWriter() {
+    for (std::size_t i = 0; i < m_made.Count(); ++i) __free(m_made[i]);
+}
+
+bool XmlWriter::Fail(const char* what, const XmlSlice& element, const char* name) {
+    if (m_problem[0] != '\0') return false;
+    std::size_t at = 0;
+    const auto add = [&](const char* text, std::size_t length) {
+        for (std::size_t i = 0; i < length && at + 1 < sizeof m_problem; ++i) m_problem[at++] = text[i];
+    };
+    if (element.length != 0) {
+        add("<", 1);
+        add(element.text, element.length);
+        add("> ", 2);
+    }
+    add(what, std::strlen(what));
+    if (name != nullptr) {
+        add(" ", 1);
+        add(name, std::strlen(name));
+    }
+    return false;
+}
+
+// --- Document --------------------------------------------------------------------------------------------------------
+
+char* XmlWriter::Write(const XMLElement* root) {
+    if (root == nullptr) {
+        Fail("there is no root", {});
+    } else if (Root(*root) && (m_text.Add('\0') || FailMemory())) {
+        if (!m_isChanged) return m_text.Release();
+        XmlReader check;
+        XmlReader::Event event = check.Begin(m_text.Values(), m_text.Count() - 1) ? check.Next() : XmlReader::kFailed;
+        while (event != XmlReader::kDone && event != XmlReader::kFailed) event = check.Next();
+        if (event == XmlReader::kDone) return m_text.Release();
+        Fail("what was added to a rest is not well-formed:", {}, check.Problem()->text);
+    }
+    return nullptr;
+}
+
+bool XmlWriter::Root(const XMLElement& root) {
+    const XmlRoot known = root.Class() != nullptr ? ixRootOf(m_schema, *root.Class()) : XmlRoot();
+    if (known.description == nullptr) return Fail("is not the class of a root:", {}, root.ClassName());
+    m_rootUri = ixUri(known.ns);
+    for (const XmlRestItem* item = FirstOf(root); item != nullptr; item = item->next) {
+        if (item->kind == XmlRestKind::Namespace && !item->isInside && !UriOf(item->namespaceUri, m_rootUri))
+            return false;
+    }
+    if (!Put("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n")) return false;
+    const std::size_t at = m_text.Count() + 1 + known.name.length;
+    return Object(root, {known.name, XmlNamespace::Parent}, {m_rootUri, m_rootUri, 0}) && Declarations(at);
+}
+
+/// Declares on the root what has been used.
+bool XmlWriter::Declarations(std::size_t at) {
+    const std::size_t end = m_text.Count();
+    const auto declare = [&](const XmlSlice& prefix, XmlUri uri) {
+        const XmlSlice text = uri < kXmlNamespaceCount
+                                  ? XmlSlice{const_cast<char*>(kXmlNamespaces[uri].uri), kXmlNamespaces[uri].length}
+                                  : m_uris[uri - kXmlNamespaceCount];
+        return Put(prefix.length != 0 ? " xmlns:" : " xmlns") && Put(prefix) && Put("=\"") && Escaped(text, true) &&
+               Put("\"");
+    };
+    if (m_rootUri != 0 && !declare({}, m_rootUri)) return false;
+    for (std::size_t i = 0; i < m_prefixes.Count(); ++i) {
+        if (m_prefixes[i].isUsed && i != ixUri(XmlNamespace::Xml) &&
+            !declare(m_prefixes[i].text, static_cast<XmlUri>(i))) {
+            return false;
+        }
+    }
+    char* const text = m_text.Values();
+    std::rotate(text + at, text + end, text + m_text.Count());
+    return true;
+}
+
+// --- Names -----------------------------------------------------------------------------------------------------------
+
+bool XmlWriter::UriOf(const char* text, XmlUri& uri) {
+    for (std::size_t i = 0; i < kXmlNamespaceCount; ++i) {
+        if (std::strcmp(kXmlNamespaces[i].uri, text) != 0) continue;
+        uri = static_cast<XmlUri>(i);
+        return true;
+    }
+    const unsigned number = m_uris.Intern(SliceOf(text));
+    uri = static_cast<XmlUri>(kXmlNamespaceCount + number);
+    return number != XmlNameTable::kNoMemory || FailMemory();
+}
+
+/// The prefix of a namespace: the usual one, the one that is wanted, or a new one.
+bool XmlWriter::PrefixOf(XmlUri uri, const XmlSlice& wanted, XmlSlice& prefix) {
+    while (m_prefixes.Count() <= uri) {
+        if (!m_prefixes.Add({})) return FailMemory();
+    }
+    if (!m_prefixes[uri].isUsed) {
+        XmlSlice text = uri < kXmlNamespaceCount ? SliceOf(kXmlNamespaces[uri].prefix) : wanted;
+        for (std::size_t i = 0; uri >= kXmlNamespaceCount && m_taken.Count() < kXmlNamespaceCount; ++i) {
+            if (m_taken.Intern(SliceOf(kXmlNamespaces[i].prefix)) == XmlNameTable::kNoMemory) return FailMemory();
+        }
+        while (uri >= kXmlNamespaceCount && m_taken.Intern(text) != m_taken.Count() - 1) {
+            auto* const made = static_cast<char*>(__malloc(sizeof m_number + 1));
+            if (made == nullptr || !m_made.Add(made)) {
+                __free(made);
+                return FailMemory();
+            }
+            const XmlSlice digits = DigitsOf(static_cast<long long>(m_made.Count()), m_number);
+            made[0] = 'n';
+            std::memcpy(made + 1, digits.text, digits.length);
+            text = {made, digits.length + 1};
+        }
+        m_prefixes[uri] = {text, true};
+    }
+    prefix = m_prefixes[uri].text;
+    return true;
+}
+
+/// @param nameAt out: where the name stands, so that the end tag can have it, too.
+bool XmlWriter::Start(const XmlSlice& local, XmlUri uri, XmlUri& defaultUri, std::size_t& nameAt,
+                      std::size_t& nameLength) {
+    if (!Put("<")) return false;
+    nameAt = m_text.Count();
+    XmlSlice prefix;
+    if (uri != defaultUri && uri != 0) {
+        if (!PrefixOf(uri, SliceOf("x"), prefix) || !Put(prefix) || !Put(":")) return false;
+    }
+    if (!Put(local)) return false;
+    nameLength = m_text.Count() - nameAt;
+    if (uri == 0 && defaultUri != 0) {
+        defaultUri = 0;
+        return Put(" xmlns=\"\"");
+    }
+    return true;
+}
+
+bool XmlWriter::End(std::size_t nameAt, std::size_t nameLength) {
+    if (!Put("</")) return false;
+    for (std::size_t i = 0; i < nameLength; ++i) {
+        const char letter = m_text[nameAt + i];
+        if (!m_text.Add(letter)) return FailMemory();
+    }
+    return Put(">");
+}
+
+bool XmlWriter::Escaped(const XmlSlice& text, bool isAttribute) {
+    if (XmlReader::ValidEnd(text.text, text.length) != text.text + text.length) {
+        return Fail("a text is not XML in UTF-8", {});
+    }
+    const char* from = text.text;
+    const char* const end = from + text.length;
+    for (const char* at = from; at < end; ++at) {
+        const char* entity = nullptr;
+        switch (*at) {
+            case '&':
+                entity = "&amp;";
+                break;
+            case '<':
+                entity = "&lt;";
+                break;
+            case '>':
+                entity = "&gt;";
+                break;
+            case '\r':
+                entity = "&#13;";
+                break;
+            case '"':
+                if (isAttribute) entity = "&quot;";
+                break;
+            case '\n':
+                if (isAttribute) entity = "&#10;";
+                break;
+            case '\t':
+                if (isAttribute) entity = "&#9;";
+                break;
+            default:
+                break;
+        }
+        if (entity == nullptr) continue;
+        if (!Put(from, static_cast<std::size_t>(at - from)) || !Put(entity)) return false;
+        from = at + 1;
+    }
+    return Put(from, static_cast<std::size_t>(end - from));
+}
+
+/// How a child is called. @return false: there is no place for it.
+bool XmlWriter::NameOf(const XmlField& row, const XMLElement& child, Name& name) {
+    const bool isFlag = ixIsClass(&child, ix_empty_element_type::kClass);
+    const auto* const flag = isFlag ? static_cast<const ix_empty_element_type*>(&child) : nullptr;
+    if (row.description != nullptr) {
+        name = {SliceOf(row.name.Text()), row.ns};
+        return ixIsClass(&child, *row.description);
+    }
+    for (std::size_t i = 0; i < row.entryCount; ++i) {
+        const XmlNamedClass& entry = row.entries[i];
+        const char* const text = entry.name.Text();
+        if (!ixIsClass(&child, *entry.description)) continue;
+        name = {SliceOf(text), entry.ns};
+        if (flag == nullptr) return true;
+        if (flag->mName != nullptr && LocalOf(flag->mName) == name.local) return true;
+    }
+    if (flag == nullptr || flag->mName == nullptr) return false;
+    // A presence that the standard does not know: as the application calls it.
+    name.local = LocalOf(flag->mName);
+    name.ns = row.ns;
+    for (std::size_t i = ixUri(XmlNamespace::Simservs); i < kXmlNamespaceCount; ++i) {
+        const std::size_t length = std::strlen(kXmlNamespaces[i].prefix);
+        const bool isPrefix = std::strncmp(flag->mName, kXmlNamespaces[i].prefix, length) == 0;
+        if (isPrefix && flag->mName[length] == ':') name.ns = static_cast<XmlNamespace>(i);
+    }
+    return XmlReader::IsName(name.local.text, name.local.length);
+}
+
+// --- Elements --------------------------------------------------------------------------------------------------------
+
+bool XmlWriter::Object(const XMLElement& element, const Name& name, const Around& around) {
+    if (around.depth == XmlReader::kDeepest) return Fail("is within 1000 elements", name.local);
+    const XmlClass& description = *element.Class();
+    const XmlRest* const rest = element.Rest();
+    XmlUri uri = name.ns == XmlNamespace::Parent ? around.uri : ixUri(name.ns);
+    for (const XmlRestItem* item = FirstOf(element); item != nullptr; item = item->next) {
+        const bool isOwn = item->kind == XmlRestKind::Namespace && !item->isInside;
+        if (isOwn && !UriOf(item->namespaceUri, uri)) return false;
+    }
+    m_isChanged = m_isChanged || (rest != nullptr && rest->IsChanged());
+    Around inside = {uri, around.defaultUri, around.depth + 1};
+    std::size_t nameAt = 0;
+    std::size_t nameLength = 0;
+    if (!Start(name.local, uri, inside.defaultUri, nameAt, nameLength)) return false;
+    if (!ixIsClass(&element, ix_empty_element_type::kClass) && description.parent != &ix_empty_element_type::kClass &&
+        !Attributes(element, description.table, name.local)) {
+        return false;
+    }
+    for (const XmlRestItem* item = FirstOf(element); item != nullptr; item = item->next) {
+        if (item->kind == XmlRestKind::Attribute && !item->isInside && !RestAttribute(*item)) return false;
+    }
+    if (!Put(">")) return false;
+    const std::size_t content = m_text.Count();
+    // What came before all children.
+    for (const XmlRestItem* item = FirstOf(element); item != nullptr; item = item->next) {
+        if (item->field == nullptr && item->entry == nullptr && !Piece(*item)) return false;
+    }
+    if (!Children(element, description.table, name.local, inside)) return false;
+    for (const XmlRestItem* item = FirstOf(element); item != nullptr; item = item->next) {
+        if (item->field == nullptr && item->entry != nullptr && !Piece(*item)) return false;
+    }
+    if (m_text.Count() != content) return End(nameAt, nameLength);
+    m_text.Cut(content - 1);
+    return Put("/>");
+}
+
+bool XmlWriter::Piece(const XmlRestItem& item) {
+    if (item.kind == XmlRestKind::Element) return Put(item.text);
+    return item.kind != XmlRestKind::Text || Escaped(SliceOf(item.text), false);
+}
+
+/// What stands behind a child.
+bool XmlWriter::Behind(const XmlRestItem* run) {
+    for (const XmlRestItem* item = run; item != nullptr && IsOf(item, *run); item = NextOf(item->next, *run->field)) {
+        if (!item->isInside && !Piece(*item)) return false;
+    }
+    return true;
+}
+
+/// The entry of the rest about what a field was given, if that still counts. NULL: the field is written.
+const XmlRestItem* XmlWriter::Given(const XMLElement& element, const XmlField& row) {
+    for (const XmlRestItem* item = FirstOf(element); item != nullptr; item = item->next) {
+        if (item->kind != XmlRestKind::Value || item->field != &row) continue;
+        const bool isObject = row.kind == XmlFieldKind::Text || row.kind == XmlFieldKind::Child ||
+                              row.kind == XmlFieldKind::Presence || row.kind == XmlFieldKind::ChildList ||
+                              row.kind == XmlFieldKind::TextList;
+        const bool isSame = isObject ? !XmlFields::IsSet(element, row) : XmlFields::Number(element, row) == item->held;
+        return isSame ? item : nullptr;
+    }
+    return nullptr;
+}
+
+/// The text of a field that holds a value. @param isSet out: there is something to write.
+bool XmlWriter::ValueText(const XMLElement& element, const XmlField& row, XmlSlice& text, bool& isSet) {
+    const XmlRestItem* const given = FirstOf(element) != nullptr ? Given(element, row) : nullptr;
+    isSet = given != nullptr ? given->text != nullptr : XmlFields::IsSet(element, row);
+    if (!isSet) return given != nullptr || !row.mandatory;
+    if (given != nullptr) {
+        text = SliceOf(given->text);
+        return true;
+    }
+    const long long number = XmlFields::Number(element, row);
+    switch (row.kind) {
+        case XmlFieldKind::Text:
+            text = SliceOf(XmlFields::Text(element, row));
+            break;
+        case XmlFieldKind::Flag:
+            text = SliceOf(number != 0 ? "true" : "false");
+            break;
+        case XmlFieldKind::Enumeration:
+            text = SliceOf(row.enumeration->TextOf(number));
+            break;
+        default:
+            text = DigitsOf(number, m_number);
+    }
+    return true;
+}
+
+bool XmlWriter::Attributes(const XMLElement& element, const XmlFieldTable& table, const XmlSlice& name) {
+    if (table.base != nullptr && !Attributes(element, *table.base, name)) return false;
+    for (std::size_t i = 0; i < table.count; ++i) {
+        const XmlField& row = table.fields[i];
+        if (row.role == XmlRole::Attributes && !OtherAttributes(element, row)) return false;
+        if (row.role != XmlRole::Attribute) continue;
+        XmlSlice text;
+        bool isSet = false;
+        if (!ValueText(element, row, text, isSet)) return Fail("has no attribute", name, row.Name());
+        if (!isSet) continue;
+        if (!Put(" ") || !Put(row.name.Text()) || !Put("=\"") || !Escaped(text, true) || !Put("\"")) return false;
+    }
+    return true;
+}
+
+/// The pairs of a list. Declarations among them are not taken over: the writer makes its own.
+bool XmlWriter::OtherAttributes(const XMLElement& element, const XmlField& row) {
+    XmlNameTable names;
+    for (const auto* pair : XmlEntries<ix_AttributeValuePair>(XmlFields::List(element, row))) {
+        if (pair == nullptr || pair->mName == nullptr) continue;
+        const XmlSlice name = SliceOf(pair->mName);
+        if (std::strncmp(pair->mName, "xmlns", 5) == 0 && (name.length == 5 || pair->mName[5] == ':')) continue;
+        if (!XmlReader::IsName(name.text, name.length)) return Fail("is not the name of an attribute:", {}, name.text);
+        const XmlField* const known = XmlHooks::AttributeRow(*element.Class(), XmlName(name.text, name.length));
+        const unsigned number = names.Intern(name);
+        if (number == XmlNameTable::kNoMemory) return FailMemory();
+        if (number + 1 != names.Count() || known != nullptr) {
+            m_isChanged = true;  // Whether there are two is seen when the text is read.
+        }
+        const XmlSlice value = SliceOf(pair->mValue != nullptr ? pair->mValue : "");
+        if (!Put(" ") || !Put(name) || !Put("=\"") || !Escaped(value, true) || !Put("\"")) return false;
+    }
+    return true;
+}
+
+bool XmlWriter::RestAttribute(const XmlRestItem& item) {
+    const XmlSlice local = LocalOf(item.name);
+    if (!XmlReader::IsName(local.text, local.length)) return Fail("is not the name of an attribute:", {}, item.name);
+    XmlUri uri = 0;
+    if (!UriOf(item.namespaceUri, uri) || !Put(" ")) return false;
+    if (uri != 0) {
+        const auto length = static_cast<std::size_t>(local.text - item.name);
+        const XmlSlice wanted = length != 0 ? XmlSlice{const_cast<char*>(item.name), length - 1} : SliceOf("x");
+        XmlSlice prefix;
+        if (!PrefixOf(uri, XmlReader::IsName(wanted.text, wanted.length) ? wanted : SliceOf("x"), prefix)) return false;
+        if (!Put(prefix) || !Put(":")) return false;
+    }
+    return Put(local) && Put("=\"") && Escaped(SliceOf(item.text), true) && Put("\"");
+}
+
+bool XmlWriter::Children(const XMLElement& element, const XmlFieldTable& table, const XmlSlice& name,
+                         const Around& inside) {
+    if (table.base != nullptr && !Children(element, *table.base, name, inside)) return false;
+    for (std::size_t i = 0; i < table.count; ++i) {
+        const XmlField& row = table.fields[i];
+        if (!Field(element, row, name, inside)) return false;
+        if (row.takesTurns) ++i;
+    }
+    return true;
+}
+
+bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlSlice& name, const Around& inside) {
+    const XmlRestItem* const run = NextOf(FirstOf(element), row);
+    switch (row.role) {
+        case XmlRole::OwnText: {
+            XmlSlice text;
+            bool isSet = false;
+            if (ixIsClass(&element, ix_empty_element_type::kClass)) return true;
+            if (!ValueText(element, row, text, isSet)) return Fail("has no text", name);
+            return !isSet || Escaped(text, false);
+        }
+        case XmlRole::Element: {
+            XmlSlice text;
+            bool isSet = false;
+            if (!ValueText(element, row, text, isSet)) return Fail("has no element", name, row.Name());
+            if (isSet && !Value(row, run, text, inside)) return false;
+            return run == nullptr || Behind(run);
+        }
+        case XmlRole::Words: {
+            const XmlRestItem* const given = Given(element, row);
+            XmlArray<char> words;
+            for (const char* const word : XmlEntries<const char>(XmlFields::List(element, row))) {
+                if (word == nullptr) continue;
+                if (words.Count() != 0 && !words.Add(' ')) return FailMemory();
+                if (!words.Append(word, std::strlen(word))) return FailMemory();
+            }
+            const XmlSlice text = given != nullptr ? SliceOf(given->text) : XmlSlice{words.Values(), words.Count()};
+            if (!IsNothing(text) && !Value(row, run, text, inside)) return false;
+            return run == nullptr || Behind(run);
+        }
+        case XmlRole::Child:
+        case XmlRole::OneOf: {
+            const XMLElement* const child = XmlFields::Child(element, row);
+            if (child == nullptr && row.mandatory && Given(element, row) == nullptr) {
+                return Fail("has no element", name, row.Name());
+            }
+            if (child != nullptr && !Child(element, row, *child, inside)) return false;
+            return run == nullptr || Behind(run);
+        }
+        case XmlRole::Texts:
+        case XmlRole::Children:
+        case XmlRole::Mixed:
+        case XmlRole::Others: {
+            const bool isMissing = row.mandatory && !XmlFields::IsSet(element, row) && Given(element, row) == nullptr;
+            return isMissing ? Fail("has no element", name, row.Name())
+                             : List(element, row, row.takesTurns ? &row + 1 : nullptr, inside);
+        }
+        default:
+            return true;
+    }
+}
+
+bool XmlWriter::OpenList(const XMLElement& element, const XmlField& row, Entries& entries) {
+    entries.row = &row;
+    entries.node = ixNodesOf(XmlFields::List(element, row));
+    entries.run = NextOf(FirstOf(element), row);
+    for (const IxSingleElementNode* node = entries.node; node != nullptr && entries.run != nullptr; node = node->next) {
+        const XmlSlice key = {reinterpret_cast<char*>(const_cast<void**>(&node->key)), sizeof node->key};
+        if (entries.here.Intern(key) == XmlNameTable::kNoMemory) return FailMemory();
+    }
+    return true;
+}
+
+/// The next entry with what stands behind it. What stood behind one that has gone comes first.
+bool XmlWriter::NextEntry(const XMLElement& element, Entries& entries, const Around& inside) {
+    const IxSingleElementNode* const node = entries.node;
+    const XmlField& row = *entries.row;
+    entries.node = node->next;
+    while (entries.run != nullptr) {
+        const XmlSlice key = {reinterpret_cast<char*>(const_cast<void**>(&entries.run->entry)), sizeof node->key};
+        if (entries.here.Find(key) != XmlNameTable::kNone) break;
+        if (!LeaveRun(entries)) return false;
+    }
+    if (node->key == nullptr) return true;
+    const bool isAbout = entries.run != nullptr && entries.run->entry == node->key;
+    const bool isWritten =
+        row.role == XmlRole::Texts
+            ? Value(row, isAbout ? entries.run : nullptr, SliceOf(static_cast<const char*>(node->key)), inside)
+            : Child(element, row, *static_cast<const XMLElement*>(node->key), inside);
+    return isWritten && (!isAbout || LeaveRun(entries));
+}
+
+/// Writes what stands behind an entry, and goes on to the next of which there is something.
+bool XmlWriter::LeaveRun(Entries& entries) {
+    const XmlRestItem* const run = entries.run;
+    if (!Behind(run)) return false;
+    while (IsOf(entries.run, *run)) entries.run = NextOf(entries.run->next, *entries.row);
+    return true;
+}
+
+bool XmlWriter::CloseList(Entries& entries) {
+    while (entries.run != nullptr) {
+        if (!LeaveRun(entries)) return false;
+    }
+    return true;
+}
+
+/// @param other a list whose entries take turns with those of `row`; NULL: none.
+bool XmlWriter::List(const XMLElement& element, const XmlField& row, const XmlField* other, const Around& inside) {
+    Entries entries;
+    Entries others;
+    if (!OpenList(element, row, entries)) return false;
+    if (other != nullptr && !OpenList(element, *other, others)) return false;
+    while (entries.node != nullptr || others.node != nullptr) {
+        if (entries.node != nullptr && !NextEntry(element, entries, inside)) return false;
+        if (others.node != nullptr && !NextEntry(element, others, inside)) return false;
+    }
+    return CloseList(entries) && CloseList(others);
+}
+
+bool XmlWriter::Child(const XMLElement& parent, const XmlField& row, const XMLElement& child, const Around& inside) {
+    Name name;
+    const auto* const flag =
+        ixIsClass(&child, ix_empty_element_type::kClass) ? static_cast<const ix_empty_element_type*>(&child) : nullptr;
+    if (flag != nullptr && flag->mPresent == 0) return true;
+    if (child.Class() == nullptr || !NameOf(row, child, name)) {
+        return Fail("has no place for an object of the class", SliceOf(parent.ClassName()), child.ClassName());
+    }
+    return Object(child, name, inside);
+}
+
+/// The element of a value. @param run what the rest has inside of it and behind it.
+bool XmlWriter::Value(const XmlField& row, const XmlRestItem* run, const XmlSlice& text, const Around& inside) {
+    XmlUri uri = row.ns == XmlNamespace::Parent ? inside.uri : ixUri(row.ns);
+    const auto forAll = [&](XmlRestKind kind, const auto& call) {
+        for (const XmlRestItem* item = run; item != nullptr && IsOf(item, *run); item = NextOf(item->next, row)) {
+            if (item->isInside && item->kind == kind && !call(*item)) return false;
+        }
+        return true;
+    };
+    if (!forAll(XmlRestKind::Namespace, [&](const XmlRestItem& item) { return UriOf(item.namespaceUri, uri); })) {
+        return false;
+    }
+    XmlUri defaultUri = inside.defaultUri;
+    std::size_t nameAt = 0;
+    std::size_t nameLength = 0;
+    if (!Start(SliceOf(row.name.Text()), uri, defaultUri, nameAt, nameLength)) return false;
+    return forAll(XmlRestKind::Attribute, [&](const XmlRestItem& item) { return RestAttribute(item); }) && Put(">") &&
+           Escaped(text, false) && forAll(XmlRestKind::Element, [&](const XmlRestItem& item) { return Piece(item); }) &&
+           End(nameAt, nameLength);
+}
