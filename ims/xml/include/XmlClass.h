@@ -210,6 +210,8 @@ struct XmlFieldTable {
     /// Rows, by their places, that a document has to say something about: the standard demands it, or the field has no
     /// 'not set' value.
     std::uint64_t told = 0;
+    std::uint64_t owning = 0;   ///< Rows, by their places, whose fields own something ...
+    std::uint64_t parents = 0;  ///< ... and those of children and lists of children.
     /// The place of a row and one, from the slot of its name on; 0: no further row of that slot's names.
     std::uint8_t slots[kSlots] = {};
 
@@ -285,10 +287,17 @@ struct XmlClass {
     XmlAnswers answers;
     const XmlClass* parent = nullptr;    ///< The base class, when it has a description.
     XmlName element = IX_STR_IX_NULL;    ///< The element that the class stands for, where that is always the same.
+    const XmlField* ownText = nullptr;   ///< The row of the element's own text, if it is one of this class.
     bool isRoot = true;                  ///< Objects: what `IsRootElement` answers.
     bool takesByRows = false;            ///< `ProcessUnMarshall` is the regular one ...
     bool takesAttributesByRows = false;  ///< ... and so is `ProcessUnMarshallAttribute`.
 
+    /// The row of the element's own text; NULL: it has none.
+    const XmlField* OwnText() const {
+        const XmlClass* of = this;
+        while (of->ownText == nullptr && of->parent != nullptr) of = of->parent;
+        return of->ownText;
+    }
     /// A class that is no root although its base is `XMLObject`.
     constexpr XmlClass NoRoot() const {
         XmlClass description = *this;
@@ -388,9 +397,16 @@ constexpr XmlClass ixClass(const char* name, const char* type, const char* sourc
     for (const XmlField& row : rows) {
         const bool isUnnamed = row.role == XmlRole::OwnText || row.role == XmlRole::OneOf || row.role == XmlRole::Mixed;
         description.table.hasUnnamed = description.table.hasUnnamed || isUnnamed;
+        if (row.role == XmlRole::OwnText) description.ownText = &row;
         description.table.hasEntries = description.table.hasEntries || row.entryCount != 0;
+        const std::uint64_t bit = std::uint64_t{1} << (&row - rows);
+        const bool isChild = row.kind == XmlFieldKind::Child || row.kind == XmlFieldKind::ChildList;
+        const bool isOwner = isChild || row.kind == XmlFieldKind::Text || row.kind == XmlFieldKind::Presence ||
+                             row.kind == XmlFieldKind::TextList || row.kind == XmlFieldKind::AttributeList;
+        if (isChild) description.table.parents |= bit;
+        if (isOwner) description.table.owning |= bit;
         const bool isTold = row.mandatory || row.notSet == kXmlAlwaysSet;
-        description.table.told |= std::uint64_t{isTold} << (&row - rows);
+        if (isTold) description.table.told |= bit;
     }
     return description;
 }

@@ -181,8 +181,8 @@ const char* XmlFields::Word(const XMLElement& element, const char* name) {
 }
 
 void XmlFields::Release(XMLElement* element, const XmlFieldTable& table) {
-    for (std::size_t i = 0; i < table.count; ++i) {
-        const XmlField& field = table.fields[i];
+    for (std::uint64_t rest = table.owning; rest != 0; rest &= rest - 1) {
+        const XmlField& field = table.fields[__builtin_ctzll(rest)];
         switch (field.kind) {
             case XmlFieldKind::Text:
                 __free(element->*field.member.text);
@@ -239,12 +239,12 @@ bool XmlFields::HoldsAttribute(const XMLElement& element, const XMLAttribute* pa
 
 void XmlFields::HandOverChildLists(XMLElement* element, IxSingleElementList& list) {
     for (const XmlFieldTable* table = ixRowsOf(*element); table != nullptr; table = table->base) {
-        for (std::size_t i = 0; i < table->count; ++i) {
-            const XmlField& field = table->fields[i];
+        for (std::uint64_t rest = table->parents; rest != 0; rest &= rest - 1) {
+            const XmlField& field = table->fields[__builtin_ctzll(rest)];
             if (field.kind == XmlFieldKind::Child) {
                 XMLElement* const child = field.member.child(*element);
                 if (child != nullptr) HandOverChildLists(child, list);
-            } else if (field.kind == XmlFieldKind::ChildList && element->*field.member.list != nullptr) {
+            } else if (element->*field.member.list != nullptr) {
                 list.TakeNodesOf(*(element->*field.member.list));
             }
         }

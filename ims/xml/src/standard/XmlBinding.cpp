@@ -18,7 +18,9 @@ XmlSlice Trimmed(XmlSlice text) {
 }
 
 bool Is(const XmlSlice& text, const char* word) {
-    return std::strncmp(text.text, word, text.length) == 0 && word[text.length] == '\0';
+    std::size_t i = 0;
+    while (i < text.length && text.text[i] == word[i]) ++i;
+    return i == text.length && word[i] == '\0';
 }
 
 bool ReadNumber(const XmlSlice& text, long long least, long long most, long long& value) {
@@ -45,20 +47,15 @@ char* CopyOf(const XmlSlice& text) {
 
 bool IsList(const XmlField& row) { return row.kind == XmlFieldKind::ChildList || row.kind == XmlFieldKind::TextList; }
 
+bool TakesText(const XMLElement& element) {
+    return element.Class() != nullptr && element.Class()->OwnText() != nullptr;
+}
+
 /// An attribute's name with its prefix.
 XmlSlice WholeName(const XmlReaderAttribute& attribute) {
     if (attribute.prefix.length == 0) return attribute.local;
     return {attribute.prefix.text,
             static_cast<std::size_t>(attribute.local.text - attribute.prefix.text) + attribute.local.length};
-}
-
-const XmlField* OwnTextOf(const XmlClass& description) {
-    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
-        for (std::size_t i = 0; i < table->count && table->hasUnnamed; ++i) {
-            if (table->fields[i].role == XmlRole::OwnText) return &table->fields[i];
-        }
-    }
-    return nullptr;
 }
 
 }  // namespace
@@ -207,7 +204,7 @@ bool XmlBinding::KeepPiece(Frame& frame) {
 XMLElement* XmlBinding::Read() {
     bool isGood = Root();
     while (isGood) {
-        switch (m_reader.Next()) {
+        switch (m_reader.Next(m_frames.Count() != 0 && m_frames.Last().takesText)) {
             case XmlReader::kStart:
                 isGood = m_pDeclarations != nullptr ? AddDeclarations() : Start();
                 break;
@@ -243,7 +240,7 @@ bool XmlBinding::Root() {
     if (m_pRoot == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
     if (m_pDeclarations != nullptr) return AddDeclarations();
     if (m_rootUri != proper && !KeepNamespace(*m_pRoot, nullptr)) return false;
-    if (!m_frames.Add({m_pRoot, nullptr, m_rootUri, proper, 0, nullptr, nullptr, nullptr, {}})) {
+    if (!m_frames.Add({m_pRoot, nullptr, m_rootUri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*m_pRoot)})) {
         return m_reader.FailMemory() != XmlReader::kFailed;
     }
     return Attributes(m_frames.Last());
@@ -279,10 +276,15 @@ bool XmlBinding::Start() {
 
 bool XmlBinding::OpenField(Frame& parent, const Place& place, XmlUri proper) {
     XMLElement& element = *parent.element;
-    XmlRest* const rest = element.Rest();
     const XmlUri uri = m_reader.Uri();
     const XmlUri expected = place.row->ns == XmlNamespace::Parent ? parent.uri : proper;
-    Frame frame = {&element, place.row, uri, proper, 0, nullptr, nullptr, rest != nullptr ? rest->Last() : nullptr, {}};
+    XmlSlice text;
+    if (uri == expected && m_reader.AttributeCount() == 0 && m_reader.TextAlone(text)) {
+        return TakeValue(parent, *place.row, text, nullptr);
+    }
+    XmlRest* const rest = element.Rest();
+    Frame frame = {&element, place.row, uri, proper, 0, nullptr, nullptr, rest != nullptr ? rest->Last() : nullptr,
+                   {},       true};
     if (uri != expected && !KeepNamespace(element, place.row)) return false;
     if (m_reader.AttributeCount() != 0 && !Attributes(frame)) return false;
     return m_frames.Add(frame) || m_reader.FailMemory() != XmlReader::kFailed;
@@ -311,7 +313,7 @@ bool XmlBinding::OpenObject(Frame& parent, const Place& place, XmlUri proper) {
     const XmlNamespace ns = place.entry != nullptr ? place.entry->ns : row.ns;
     const XmlUri uri = m_reader.Uri();
     if (uri != (ns == XmlNamespace::Parent ? parent.uri : proper) && !KeepNamespace(*child, nullptr)) return false;
-    if (!m_frames.Add({child, nullptr, uri, proper, 0, nullptr, nullptr, nullptr, {}})) {
+    if (!m_frames.Add({child, nullptr, uri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*child)})) {
         return m_reader.FailMemory() != XmlReader::kFailed;
     }
     return m_reader.AttributeCount() == 0 || Attributes(m_frames.Last());
@@ -385,11 +387,8 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
 bool XmlBinding::Text() {
     Frame& top = m_frames.Last();
     XmlSlice text = m_reader.Text();
-    const bool takes =
-        top.field != nullptr || (top.element->Class() != nullptr && OwnTextOf(*top.element->Class()) != nullptr);
-    if (!takes && !m_reader.IsRaw() && XmlReader::IsBlank(text)) return true;
     if (m_reader.IsRaw()) XmlReader::Decode(text, false);
-    if (takes) {
+    if (top.takesText) {
         if (top.text.text == nullptr) {
             top.text = text;
         } else {
@@ -410,26 +409,20 @@ bool XmlBinding::End() {
     return frame.field != nullptr ? CloseField(frame) : CloseObject(frame);
 }
 
-bool XmlBinding::CloseField(Frame& frame) {
-    XMLElement& element = *frame.element;
-    const XmlField& row = *frame.field;
-    if (frame.text.text == nullptr) frame.text.text = const_cast<char*>("");
-    bool isGood = false;
-    const void* entry = nullptr;
-    if (row.role == XmlRole::Texts) {
-        isGood = XmlHooks::AppendText(element, row, frame.text.text, frame.text.length) ||
-                 m_reader.FailMemory() != XmlReader::kFailed;
-        if (isGood) entry = XmlFields::List(element, row)->LastNode()->key;
-    } else if (row.role == XmlRole::Words) {
-        isGood = StoreWords(element, row, frame.text);
-    } else {
-        isGood = StoreValue(element, row, frame.text);
-    }
-    Frame& parent = m_frames.Last();
+bool XmlBinding::CloseField(Frame& frame) { return TakeValue(m_frames.Last(), *frame.field, frame.text, &frame); }
+
+/// The value of a field. @param inside the element's own frame; NULL: there was nothing but the text.
+bool XmlBinding::TakeValue(Frame& parent, const XmlField& row, XmlSlice text, const Frame* inside) {
+    XMLElement& element = *parent.element;
+    if (text.text == nullptr) text.text = const_cast<char*>("");
     parent.lastField = &row;
-    parent.lastEntry = entry;
-    if (entry != nullptr && element.Rest() != nullptr) element.Rest()->SetEntry(frame.kept, row, entry);
-    return isGood;
+    parent.lastEntry = nullptr;
+    if (row.role == XmlRole::Words) return StoreWords(element, row, text);
+    if (row.role != XmlRole::Texts) return StoreValue(element, row, text);
+    if (!XmlHooks::AppendText(element, row, text.text, text.length)) return m_reader.FailMemory() != XmlReader::kFailed;
+    parent.lastEntry = XmlFields::List(element, row)->LastNode()->key;
+    if (inside != nullptr && element.Rest() != nullptr) element.Rest()->SetEntry(inside->kept, row, parent.lastEntry);
+    return true;
 }
 
 bool XmlBinding::StoreWords(XMLElement& element, const XmlField& row, const XmlSlice& text) {
@@ -473,7 +466,7 @@ bool XmlBinding::CloseObject(Frame& frame) {
     XMLElement& element = *frame.element;
     const XmlClass* const description = element.Class();
     if (description == nullptr) return true;
-    const XmlField* const ownText = OwnTextOf(*description);
+    const XmlField* const ownText = description->OwnText();
     if (ownText != nullptr) {
         if (frame.text.text == nullptr) frame.text.text = const_cast<char*>("");
         if (!StoreValue(element, *ownText, frame.text)) return false;

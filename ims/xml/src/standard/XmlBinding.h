@@ -50,6 +50,7 @@ class XmlBinding {
         const void* lastEntry;      ///< ... and its entry in a list.
         XmlRestItem* kept;          ///< A field: the rest before it.
         XmlSlice text;
+        bool takesText;
     };
     /// A row that takes an element or an attribute.
     struct Place {
@@ -73,6 +74,7 @@ class XmlBinding {
     bool KeepNamespace(XMLElement& element, const XmlField* field);
     bool CloseObject(Frame& frame);
     bool CloseField(Frame& frame);
+    bool TakeValue(Frame& parent, const XmlField& row, XmlSlice text, const Frame* inside);
     bool StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text);
     bool StoreWords(XMLElement& element, const XmlField& row, const XmlSlice& text);
     bool TakesNamespace(XmlUri uri, XmlUri expected, XmlUri proper) const;

@@ -20,12 +20,13 @@ struct ByteKinds {
 };
 constexpr ByteKinds kBytes;
 
-/// Bytes at which a scan stops.
+/// Bytes at which a scan stops: those given, what is no character, and what has to be looked at whether it is one.
 struct Stops {
     bool at[256] = {};
 
     template <std::size_t size>
     constexpr explicit Stops(const char (&bytes)[size]) {
+        for (int i = 0; i < 256; ++i) at[i] = i >= 0x80 || (i < 0x20 && i != '\t' && i != '\n');
         for (std::size_t i = 0; i < size; ++i) at[static_cast<unsigned char>(bytes[i])] = true;
     }
     char* Next(char* text) const {
@@ -110,6 +111,14 @@ Character* NameEnd(Character* text, const char* end) {
     return at;
 }
 
+/// The same in a text that ends with a NUL.
+inline char* NameEndIn(char* text, const char* end) {
+    if ((kBytes.of[static_cast<unsigned char>(*text)] & kNameStart) == 0) return NameEnd(text, end);
+    char* at = text + 1;
+    while ((kBytes.of[static_cast<unsigned char>(*at)] & kNameInside) != 0) ++at;
+    return static_cast<unsigned char>(*at) < 0x80 ? at : NameEnd(text, end);
+}
+
 /// The character of the reference whose "&" stands at `text`, which moves behind its ";". 0: it is none.
 unsigned long ReferenceAt(const char*& text) {
     const char* at = text + 1;
@@ -144,8 +153,27 @@ unsigned long ReferenceAt(const char*& text) {
     return 0;
 }
 
+constexpr char kNoCharacter[] = "not a character of XML in UTF-8";
 constexpr char kXmlWord[] = "xml";
 constexpr char kXmlnsWord[] = "xmlns";
+
+/// memcmp for names, which are short: not worth a call.
+bool AreSame(const char* one, const char* other, std::size_t length) {
+    std::uint64_t words[2];
+    for (; length >= sizeof words[0]; length -= sizeof words[0]) {
+        std::memcpy(&words[0], one, sizeof words[0]);
+        std::memcpy(&words[1], other, sizeof words[0]);
+        if (words[0] != words[1]) return false;
+        one += sizeof words[0];
+        other += sizeof words[0];
+    }
+    while (length != 0 && *one == *other) {
+        ++one;
+        ++other;
+        --length;
+    }
+    return length == 0;
+}
 
 bool Is(const XmlSlice& slice, const char* word) {
     return slice.length == std::strlen(word) && std::memcmp(slice.text, word, slice.length) == 0;
@@ -301,8 +329,6 @@ bool XmlReader::Begin(const char* text, std::size_t length) {
     *to = '\0';
     m_at = m_copy;
     m_end = to;
-    const char* const valid = ValidEnd(m_copy, static_cast<std::size_t>(m_end - m_copy));
-    if (valid != m_end) return Fail("not a character of XML in UTF-8", valid) != kFailed;
     const bool declares = IsAt("<?xml") && IsSpace(m_at[5]);
     return !declares || Declaration();
 }
@@ -416,7 +442,8 @@ bool XmlReader::HasTwins() {
             for (std::size_t j = 0; j < i; ++j) {
                 const XmlReaderAttribute& one = m_attributes[i];
                 const XmlReaderAttribute& other = m_attributes[j];
-                if (one.uri == other.uri && one.local == other.local) {
+                if (one.local.length == other.local.length && one.uri == other.uri &&
+                    AreSame(one.local.text, other.local.text, one.local.length)) {
                     return Fail("an attribute is given twice", one.local.text) == kFailed;
                 }
             }
@@ -447,7 +474,7 @@ bool XmlReader::HasTwins() {
 
 // --- Markup ----------------------------------------------------------------------------------------------------------
 
-XmlReader::Event XmlReader::Next() {
+XmlReader::Event XmlReader::Next(bool wantsBlanks) {
     if (m_closesItself) {
         m_closesItself = false;
         Close();
@@ -457,7 +484,14 @@ XmlReader::Event XmlReader::Next() {
     for (;;) {
         m_place = m_at;
         if (*m_at != '<') {
-            if (m_open.Count() != 0) return TextRun();
+            if (m_open.Count() != 0) {
+                if (!wantsBlanks) SkipSpaces();
+                if (wantsBlanks || *m_at != '<') {
+                    m_at = m_place;
+                    return TextRun();
+                }
+                continue;
+            }
             SkipSpaces();
             if (m_at == m_end) return m_hasRoot ? kDone : Fail("no root element", m_at);
             if (*m_at != '<') return Fail("text outside of the root element", m_at);
@@ -482,16 +516,17 @@ XmlReader::Event XmlReader::Next() {
 
 bool XmlReader::QName(XmlSlice& prefix, XmlSlice& local) {
     char* const begin = m_at;
-    m_at = NameEnd(begin, m_end);
+    char* at = NameEndIn(begin, m_end);
     prefix.length = 0;
-    local = {begin, static_cast<std::size_t>(m_at - begin)};
-    if (*m_at == ':' && local.length != 0) {
+    local = {begin, static_cast<std::size_t>(at - begin)};
+    if (*at == ':' && at != begin) {
         prefix = local;
-        char* const behind = ++m_at;
-        m_at = NameEnd(behind, m_end);
-        local = {behind, static_cast<std::size_t>(m_at - behind)};
+        char* const behind = at + 1;
+        at = NameEndIn(behind, m_end);
+        local = {behind, static_cast<std::size_t>(at - behind)};
     }
-    return local.length != 0 && *m_at != ':';
+    m_at = at;
+    return local.length != 0 && *at != ':';
 }
 
 XmlReader::Event XmlReader::Start() {
@@ -522,7 +557,8 @@ bool XmlReader::Attributes() {
             return true;
         }
         if (!hasSpace) return Fail("no white space before an attribute", m_at) != kFailed;
-        XmlReaderAttribute attribute;
+        if (!m_attributes.Add({})) return FailMemory() != kFailed;
+        XmlReaderAttribute& attribute = m_attributes.Last();
         if (!QName(attribute.prefix, attribute.local)) {
             return Fail(m_at == m_end ? "the document ends within a tag" : "not the name of an attribute", m_at) !=
                    kFailed;
@@ -530,7 +566,6 @@ bool XmlReader::Attributes() {
         attribute.declares =
             attribute.prefix.length != 0 ? Is(attribute.prefix, kXmlnsWord) : Is(attribute.local, kXmlnsWord);
         if (!Value(attribute)) return false;
-        if (!m_attributes.Add(attribute)) return FailMemory() != kFailed;
     }
 }
 
@@ -546,16 +581,37 @@ bool XmlReader::Value(XmlReaderAttribute& attribute) {
     for (;;) {
         m_at = stops.Next(m_at);
         if (*m_at == quote) break;
+        const bool wasRaw = attribute.isRaw;
         attribute.isRaw = true;
         if (*m_at == '<') return Fail("\"<\" in an attribute", m_at) != kFailed;
-        if (*m_at == '\0') return Fail("the document ends within a tag", m_at) != kFailed;
-        char* const behind = *m_at == '&' ? ReferenceEnd(m_at) : m_at + 1;
+        const bool isSpace = IsSpace(*m_at);
+        if (*m_at != '&' && !isSpace) {
+            attribute.isRaw = wasRaw;
+            if (!StepOver()) return false;
+            continue;
+        }
+        char* const behind = isSpace ? m_at + 1 : ReferenceEnd(m_at);
         if (behind == nullptr) return Fail("a reference to no character", m_at) != kFailed;
         m_at = behind;
     }
     attribute.value.length = static_cast<std::size_t>(m_at - attribute.value.text);
     ++m_at;
     return true;
+}
+
+/// Behind the character at `m_at`, at which a scan has stopped. @return false: it is none.
+bool XmlReader::StepOver() {
+    if (m_at == m_end) return Fail("the document ends too early", m_at) != kFailed;
+    const char* behind = m_at;
+    if (!IsXmlCharacter(CharacterAt(behind, m_end))) return Fail(kNoCharacter, m_at) != kFailed;
+    m_at += behind - m_at;
+    return true;
+}
+
+/// What is read over has to consist of characters, too.
+bool XmlReader::AreCharacters(const char* begin, const char* end) {
+    const char* const valid = ValidEnd(begin, static_cast<std::size_t>(end - begin));
+    return valid == end || Fail(kNoCharacter, valid) != kFailed;
 }
 
 char* XmlReader::ReferenceEnd(char* text) {
@@ -567,7 +623,10 @@ XmlReader::Event XmlReader::End() {
     m_at += 2;
     if (m_open.Count() == 0) return Fail("an end tag without start tag", m_place);
     const Open& open = m_open.Last();
-    if (std::strncmp(m_at, open.name, open.length) != 0) return Fail("not the end tag of the open element", m_place);
+    const auto left = static_cast<std::size_t>(m_end - m_at);
+    if (left < open.length || !AreSame(m_at, open.name, open.length)) {
+        return Fail("not the end tag of the open element", m_place);
+    }
     m_at += open.length;
     SkipSpaces();
     if (*m_at != '>') return Fail("not the end tag of the open element", m_place);
@@ -593,7 +652,10 @@ XmlReader::Event XmlReader::TextRun() {
     for (;;) {
         m_at = kTextStops.Next(m_at);
         if (*m_at == '<') break;
-        if (*m_at == '\0') return Fail("the document ends within an element", m_at);
+        if (*m_at != ']' && *m_at != '&') {
+            if (!StepOver()) return kFailed;
+            continue;
+        }
         if (*m_at == ']') {
             if (m_at[1] == ']' && m_at[2] == '>') return Fail("\"]]>\" in a text", m_at);
             ++m_at;
@@ -608,6 +670,25 @@ XmlReader::Event XmlReader::TextRun() {
     return kText;
 }
 
+bool XmlReader::TextAlone(XmlSlice& text) {
+    text = {m_at, 0};
+    if (m_closesItself) {
+        m_closesItself = false;
+        Close();
+        return true;
+    }
+    // All that has to be looked at twice is left to the other functions.
+    char* const end = kTextStops.Next(m_at);
+    const Open& open = m_open.Last();
+    if (*end != '<' || end[1] != '/' || static_cast<std::size_t>(m_end - end) < open.length + 3) return false;
+    char* const behind = end + 2 + open.length;
+    if (*behind != '>' || !AreSame(end + 2, open.name, open.length)) return false;
+    text.length = static_cast<std::size_t>(end - m_at);
+    m_at = behind + 1;
+    Close();
+    return true;
+}
+
 bool XmlReader::CharacterData() {
     constexpr char kBegin[] = "<![CDATA[";
     if (!IsAt(kBegin)) return Fail("markup that an element must not have", m_at) != kFailed;
@@ -617,14 +698,15 @@ bool XmlReader::CharacterData() {
     m_text = {begin, static_cast<std::size_t>(end - begin)};
     m_isRaw = false;
     m_at = end + 3;
-    return true;
+    return AreCharacters(begin, end);
 }
 
 bool XmlReader::Comment() {
     char* const end = std::strstr(m_at + 4, "--");
     if (end == nullptr || end[2] != '>') return Fail("a comment without end, or with \"--\"", m_at) != kFailed;
+    const char* const begin = m_at;
     m_at = end + 3;
-    return true;
+    return AreCharacters(begin, end);
 }
 
 bool XmlReader::Instruction() {
@@ -639,7 +721,7 @@ bool XmlReader::Instruction() {
         return Fail("not a processing instruction", begin) != kFailed;
     }
     m_at = end + 2;
-    return true;
+    return AreCharacters(begin, end);
 }
 
 /// `name="value"` of the XML declaration, if it is next.
@@ -715,7 +797,7 @@ bool XmlReader::DocType() {
     if (isGood && *m_at == '[') return Fail("a document type with declarations", m_at) != kFailed;
     if (!isGood || *m_at != '>') return Fail("not a document type", begin) != kFailed;
     ++m_at;
-    return true;
+    return AreCharacters(begin, m_at);
 }
 
 // --- Pieces ----------------------------------------------------------------------------------------------------------

@@ -136,7 +136,12 @@ class XmlReader {
     /// Takes a copy of a document. @return false for what is no text, and without memory.
     bool Begin(const char* text, std::size_t length);
     /// A tag that closes itself is a start and an end.
-    Event Next();
+    /// @param wantsBlanks whether a text of white space alone is reported, too.
+    Event Next(bool wantsBlanks = false);
+
+    /// Reads the rest of the element whose start was reported last, if that is no more than a text without mistakes and
+    /// the end tag, so that neither is reported. @param text out: what it means. @return false: nothing was read.
+    bool TextAlone(XmlSlice& text);
 
     /// @name The last start
     /// @{
@@ -205,6 +210,8 @@ class XmlReader {
     bool UriOf(const XmlSlice& prefix, XmlUri& uri);
     bool QName(XmlSlice& prefix, XmlSlice& local);
     static char* ReferenceEnd(char* text);
+    bool StepOver();
+    bool AreCharacters(const char* begin, const char* end);
     bool CharacterData();
     bool Comment();
     bool Instruction();
