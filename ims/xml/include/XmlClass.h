@@ -210,6 +210,7 @@ struct XmlFieldTable {
     /// Rows, by their places, that a document has to say something about: the standard demands it, or the field has no
     /// 'not set' value.
     std::uint64_t told = 0;
+    std::uint64_t attributes = 0;  ///< Rows, by their places, that stand in the start tag.
     std::uint64_t owning = 0;   ///< Rows, by their places, whose fields own something ...
     std::uint64_t parents = 0;  ///< ... and those of children and lists of children.
     /// The place of a row and one, from the slot of its name on; 0: no further row of that slot's names.
@@ -403,6 +404,9 @@ constexpr XmlClass ixClass(const char* name, const char* type, const char* sourc
         const bool isChild = row.kind == XmlFieldKind::Child || row.kind == XmlFieldKind::ChildList;
         const bool isOwner = isChild || row.kind == XmlFieldKind::Text || row.kind == XmlFieldKind::Presence ||
                              row.kind == XmlFieldKind::TextList || row.kind == XmlFieldKind::AttributeList;
+        const bool isAttribute = row.role == XmlRole::Attribute || row.role == XmlRole::Attributes ||
+                                 row.role == XmlRole::Dropped || row.role == XmlRole::Declarations;
+        if (isAttribute) description.table.attributes |= bit;
         if (isChild) description.table.parents |= bit;
         if (isOwner) description.table.owning |= bit;
         const bool isTold = row.mandatory || row.notSet == kXmlAlwaysSet;

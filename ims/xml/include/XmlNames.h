@@ -38,6 +38,8 @@ struct IX_XML_EXPORT XmlName {
 
     /// NULL for an unknown name.
     const char* Text() const;
+    /// Of the text.
+    std::size_t Length() const;
     constexpr bool IsKnown() const { return number != kUnknown; }
     constexpr bool operator==(XmlName other) const { return number == other.number; }
     constexpr bool operator!=(XmlName other) const { return number != other.number; }

@@ -67,11 +67,13 @@ struct Index {
     Slot slots[kSlots];
     Slot next[kXmlNameCount];  ///< The next name with the same slot.
     Ends ends[kXmlNameCount];
+    std::uint8_t lengths[kXmlNameCount];
 
-    constexpr Index() : slots{}, next{}, ends{} {
+    constexpr Index() : slots{}, next{}, ends{}, lengths{} {
         // Backwards, so that the lower one of two equal names is found.
         for (int i = kXmlNameCount - 1; i > 0; --i) {
             const std::size_t length = LengthOf(kTexts[i]);
+            lengths[i] = static_cast<std::uint8_t>(length);
             ends[i] = Ends(kTexts[i], length);
             Slot& slot = slots[ends[i].Slot()];
             next[i] = slot;
@@ -111,3 +113,5 @@ int NumberOf(const char* text, std::size_t length) {
 XmlName::XmlName(const char* text, std::size_t length) : number(NumberOf(text, length)) {}
 
 const char* XmlName::Text() const { return number != kUnknown ? TextOf(number) : nullptr; }
+
+std::size_t XmlName::Length() const { return number != kUnknown ? kIndex.lengths[number] : 0; }

@@ -42,14 +42,19 @@ class XmlArray {
         return true;
     }
     bool Append(const Value* values, std::size_t count) {
-        if (m_count + count > m_size && !Reserve(2 * m_size > m_count + count ? 2 * m_size : m_count + count + 16)) {
-            return false;
-        }
-        if (count != 0) std::memcpy(m_values + m_count, values, count * sizeof(Value));
-        m_count += count;
-        return true;
+        Value* const to = Room(count);
+        if (to != nullptr && count != 0) std::memcpy(to, values, count * sizeof(Value));
+        return to != nullptr || count == 0;
     }
     Value* Values() { return m_values; }
+    /// Adds `count` values that the caller then sets; NULL without memory.
+    Value* Room(std::size_t count) {
+        if (m_count + count > m_size && !Reserve(2 * m_size > m_count + count ? 2 * m_size : m_count + count + 16)) {
+            return nullptr;
+        }
+        m_count += count;
+        return m_values + m_count - count;
+    }
     /// The block, which passes to the caller; the array is empty then.
     Value* Release() {
         Value* const values = m_values;

@@ -1,6 +1,6 @@
 #include "XmlWriter.h"
 
-#include <algorithm>
+#include <initializer_list>
 
 #include "XmlElementSupport.h"
 #include "XmlFields.h"
@@ -43,6 +43,62 @@ bool IsOf(const XmlRestItem* item, const XmlRestItem& first) {
 
 const XmlRestItem* FirstOf(const XMLElement& element) {
     return element.Rest() != nullptr ? element.Rest()->First() : nullptr;
+}
+
+/// What becomes of a byte.
+enum Escape : unsigned char { kPlain, kCheck, kAmp, kLt, kGt, kCr, kInAttributes, kQuot = kInAttributes, kLf, kTab };
+constexpr const char* kEntities[] = {"", "", "&amp;", "&lt;", "&gt;", "&#13;", "&quot;", "&#10;", "&#9;"};
+
+struct Escapes {
+    Escape of[256] = {};
+
+    constexpr Escapes() {
+        for (int i = 0; i < 256; ++i) of[i] = i >= 0x80 || i < 0x20 ? kCheck : kPlain;
+        of[static_cast<int>('&')] = kAmp;
+        of[static_cast<int>('<')] = kLt;
+        of[static_cast<int>('>')] = kGt;
+        of[static_cast<int>('\r')] = kCr;
+        of[static_cast<int>('"')] = kQuot;
+        of[static_cast<int>('\n')] = kLf;
+        of[static_cast<int>('\t')] = kTab;
+    }
+};
+constexpr Escapes kEscapes;
+
+XmlSlice SliceOf(XmlName name) { return {const_cast<char*>(name.Text()), name.Length()}; }
+
+bool IsFlag(const XMLElement& element) { return element.Class() == &ix_empty_element_type::kClass; }
+
+/// True for a field that nothing has to be written for: the usual case, told without more ado.
+bool IsAbsent(const XMLElement& element, const XmlField& row) {
+    if (row.mandatory || row.takesTurns || element.Rest() != nullptr) return false;
+    switch (row.kind) {
+        case XmlFieldKind::Text:
+            return element.*row.member.text == nullptr;
+        case XmlFieldKind::ChildList:
+        case XmlFieldKind::TextList:
+        case XmlFieldKind::AttributeList:
+            return element.*row.member.list == nullptr;
+        case XmlFieldKind::Child:
+        case XmlFieldKind::Presence:
+            return row.member.child(element) == nullptr;
+        default:
+            return XmlFields::Number(element, row) == row.notSet;
+    }
+}
+
+/// True when eight characters stand for themselves, in attributes as well.
+bool ArePlain(const char* text) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101U;
+    constexpr std::uint64_t kHighs = 0x8080808080808080U;
+    std::uint64_t word = 0;
+    std::memcpy(&word, text, sizeof word);
+    std::uint64_t special = word | (word - kOnes * 0x20);
+    for (const char letter : {'&', '<', '>', '"'}) {
+        const std::uint64_t same = word ^ kOnes * static_cast<unsigned char>(letter);
+        special |= (same - kOnes) & ~same;
+    }
+    return (special & kHighs) == 0;
 }
 
 bool IsNothing(const XmlSlice& text) { return text.text == nullptr; }
@@ -113,25 +169,31 @@ bool XmlWriter::Declarations(std::size_t at) {
     };
     if (m_rootUri != 0 && !declare({}, m_rootUri)) return false;
     for (std::size_t i = 0; i < m_prefixes.Count(); ++i) {
-        if (m_prefixes[i].isUsed && i != ixUri(XmlNamespace::Xml) &&
-            !declare(m_prefixes[i].text, static_cast<XmlUri>(i))) {
-            return false;
-        }
+        const bool isDeclared = m_prefixes[i].isUsed && i != ixUri(XmlNamespace::Xml);
+        if (isDeclared && !declare(m_prefixes[i].text, static_cast<XmlUri>(i))) return false;
     }
+    // They were made behind the text, and go to their place by way of a copy behind both.
+    const std::size_t length = m_text.Count() - end;
+    if (m_text.Room(length) == nullptr) return FailMemory();
     char* const text = m_text.Values();
-    std::rotate(text + at, text + end, text + m_text.Count());
+    std::memcpy(text + end + length, text + end, length);
+    std::memmove(text + at + length, text + at, end - at);
+    std::memcpy(text + at, text + end + length, length);
+    m_text.Cut(end + length);
     return true;
 }
 
 // --- Names -----------------------------------------------------------------------------------------------------------
 
 bool XmlWriter::UriOf(const char* text, XmlUri& uri) {
+    const XmlSlice slice = SliceOf(text);
     for (std::size_t i = 0; i < kXmlNamespaceCount; ++i) {
-        if (std::strcmp(kXmlNamespaces[i].uri, text) != 0) continue;
+        const XmlNamespaceInfo& known = kXmlNamespaces[i];
+        if (known.length != slice.length || std::memcmp(known.uri, text, slice.length) != 0) continue;
         uri = static_cast<XmlUri>(i);
         return true;
     }
-    const unsigned number = m_uris.Intern(SliceOf(text));
+    const unsigned number = m_uris.Intern(slice);
     uri = static_cast<XmlUri>(kXmlNamespaceCount + number);
     return number != XmlNameTable::kNoMemory || FailMemory();
 }
@@ -182,67 +244,53 @@ bool XmlWriter::Start(const XmlSlice& local, XmlUri uri, XmlUri& defaultUri, std
 }
 
 bool XmlWriter::End(std::size_t nameAt, std::size_t nameLength) {
-    if (!Put("</")) return false;
-    for (std::size_t i = 0; i < nameLength; ++i) {
-        const char letter = m_text[nameAt + i];
-        if (!m_text.Add(letter)) return FailMemory();
-    }
-    return Put(">");
+    char* const to = m_text.Room(nameLength + 3);
+    if (to == nullptr) return FailMemory();
+    to[0] = '<';
+    to[1] = '/';
+    std::memcpy(to + 2, m_text.Values() + nameAt, nameLength);
+    to[nameLength + 2] = '>';
+    return true;
 }
 
 bool XmlWriter::Escaped(const XmlSlice& text, bool isAttribute) {
-    if (XmlReader::ValidEnd(text.text, text.length) != text.text + text.length) {
-        return Fail("a text is not XML in UTF-8", {});
-    }
     const char* from = text.text;
     const char* const end = from + text.length;
-    for (const char* at = from; at < end; ++at) {
-        const char* entity = nullptr;
-        switch (*at) {
-            case '&':
-                entity = "&amp;";
-                break;
-            case '<':
-                entity = "&lt;";
-                break;
-            case '>':
-                entity = "&gt;";
-                break;
-            case '\r':
-                entity = "&#13;";
-                break;
-            case '"':
-                if (isAttribute) entity = "&quot;";
-                break;
-            case '\n':
-                if (isAttribute) entity = "&#10;";
-                break;
-            case '\t':
-                if (isAttribute) entity = "&#9;";
-                break;
-            default:
-                break;
+    for (const char* at = from; at < end;) {
+        while (end - at >= 8 && ArePlain(at)) at += 8;
+        if (at == end) break;
+        const Escape escape = kEscapes.of[static_cast<unsigned char>(*at)];
+        if (escape == kPlain || (escape >= kInAttributes && !isAttribute)) {
+            ++at;
+            continue;
         }
-        if (entity == nullptr) continue;
-        if (!Put(from, static_cast<std::size_t>(at - from)) || !Put(entity)) return false;
-        from = at + 1;
+        if (escape == kCheck) {
+            // All that is not ASCII up to here and beyond, until something else has to be done.
+            const char* behind = at;
+            while (behind < end && kEscapes.of[static_cast<unsigned char>(*behind)] == kCheck) ++behind;
+            if (XmlReader::ValidEnd(at, static_cast<std::size_t>(behind - at)) != behind) {
+                return Fail("a text is not XML in UTF-8", {});
+            }
+            at = behind;
+            continue;
+        }
+        if (!Put(from, static_cast<std::size_t>(at - from)) || !Put(kEntities[escape])) return false;
+        from = ++at;
     }
     return Put(from, static_cast<std::size_t>(end - from));
 }
 
 /// How a child is called. @return false: there is no place for it.
 bool XmlWriter::NameOf(const XmlField& row, const XMLElement& child, Name& name) {
-    const bool isFlag = ixIsClass(&child, ix_empty_element_type::kClass);
-    const auto* const flag = isFlag ? static_cast<const ix_empty_element_type*>(&child) : nullptr;
+    const auto* const flag = IsFlag(child) ? static_cast<const ix_empty_element_type*>(&child) : nullptr;
     if (row.description != nullptr) {
-        name = {SliceOf(row.name.Text()), row.ns};
-        return ixIsClass(&child, *row.description);
+        name = {SliceOf(row.name), row.ns};
+        return child.Class() == row.description || ixIsClass(&child, *row.description);
     }
     for (std::size_t i = 0; i < row.entryCount; ++i) {
         const XmlNamedClass& entry = row.entries[i];
-        const char* const text = entry.name.Text();
-        if (!ixIsClass(&child, *entry.description)) continue;
-        name = {SliceOf(text), entry.ns};
+        if (child.Class() != entry.description) continue;
+        name = {SliceOf(entry.name), entry.ns};
         if (flag == nullptr) return true;
         if (flag->mName != nullptr && LocalOf(flag->mName) == name.local) return true;
     }
@@ -274,7 +322,7 @@ bool XmlWriter::Object(const XMLElement& element, const Name& name, const Around
     std::size_t nameAt = 0;
     std::size_t nameLength = 0;
     if (!Start(name.local, uri, inside.defaultUri, nameAt, nameLength)) return false;
-    if (!ixIsClass(&element, ix_empty_element_type::kClass) && description.parent != &ix_empty_element_type::kClass &&
+    if (!IsFlag(element) && description.parent != &ix_empty_element_type::kClass &&
         !Attributes(element, description.table, name.local)) {
         return false;
     }
@@ -350,15 +398,16 @@ bool XmlWriter::ValueText(const XMLElement& element, const XmlField& row, XmlSli
 
 bool XmlWriter::Attributes(const XMLElement& element, const XmlFieldTable& table, const XmlSlice& name) {
     if (table.base != nullptr && !Attributes(element, *table.base, name)) return false;
-    for (std::size_t i = 0; i < table.count; ++i) {
-        const XmlField& row = table.fields[i];
+    for (std::uint64_t rest = table.attributes; rest != 0; rest &= rest - 1) {
+        const XmlField& row = table.fields[__builtin_ctzll(rest)];
+        if (IsAbsent(element, row)) continue;
         if (row.role == XmlRole::Attributes && !OtherAttributes(element, row)) return false;
         if (row.role != XmlRole::Attribute) continue;
         XmlSlice text;
         bool isSet = false;
         if (!ValueText(element, row, text, isSet)) return Fail("has no attribute", name, row.Name());
         if (!isSet) continue;
-        if (!Put(" ") || !Put(row.name.Text()) || !Put("=\"") || !Escaped(text, true) || !Put("\"")) return false;
+        if (!Put(" ") || !Put(SliceOf(row.name)) || !Put("=\"") || !Escaped(text, true) || !Put("\"")) return false;
     }
     return true;
 }
@@ -403,6 +452,7 @@ bool XmlWriter::Children(const XMLElement& element, const XmlFieldTable& table, 
     if (table.base != nullptr && !Children(element, *table.base, name, inside)) return false;
     for (std::size_t i = 0; i < table.count; ++i) {
         const XmlField& row = table.fields[i];
+        if ((table.attributes >> i & 1) != 0 || IsAbsent(element, row)) continue;
         if (!Field(element, row, name, inside)) return false;
         if (row.takesTurns) ++i;
     }
@@ -415,7 +465,6 @@ bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlS
         case XmlRole::OwnText: {
             XmlSlice text;
             bool isSet = false;
-            if (ixIsClass(&element, ix_empty_element_type::kClass)) return true;
             if (!ValueText(element, row, text, isSet)) return Fail("has no text", name);
             return !isSet || Escaped(text, false);
         }
@@ -520,9 +569,7 @@ bool XmlWriter::List(const XMLElement& element, const XmlField& row, const XmlFi
 
 bool XmlWriter::Child(const XMLElement& parent, const XmlField& row, const XMLElement& child, const Around& inside) {
     Name name;
-    const auto* const flag =
-        ixIsClass(&child, ix_empty_element_type::kClass) ? static_cast<const ix_empty_element_type*>(&child) : nullptr;
-    if (flag != nullptr && flag->mPresent == 0) return true;
+    if (IsFlag(child) && static_cast<const ix_empty_element_type&>(child).mPresent == 0) return true;
     if (child.Class() == nullptr || !NameOf(row, child, name)) {
         return Fail("has no place for an object of the class", SliceOf(parent.ClassName()), child.ClassName());
     }
@@ -544,7 +591,7 @@ bool XmlWriter::Value(const XmlField& row, const XmlRestItem* run, const XmlSlic
     XmlUri defaultUri = inside.defaultUri;
     std::size_t nameAt = 0;
     std::size_t nameLength = 0;
-    if (!Start(SliceOf(row.name.Text()), uri, defaultUri, nameAt, nameLength)) return false;
+    if (!Start(SliceOf(row.name), uri, defaultUri, nameAt, nameLength)) return false;
     return forAll(XmlRestKind::Attribute, [&](const XmlRestItem& item) { return RestAttribute(item); }) && Put(">") &&
            Escaped(text, false) && forAll(XmlRestKind::Element, [&](const XmlRestItem& item) { return Piece(item); }) &&
            End(nameAt, nameLength);
