@@ -52,6 +52,10 @@ XmlOwned<> UnMarshall(XMLContext& context, const Document& document, bool log) {
     return root;
 }
 
+std::string PlaceOf(const XmlProblem& problem) {
+    return problem.line != 0 ? std::to_string(problem.line) + ':' + std::to_string(problem.column) : "";
+}
+
 /// The same in the standard profile, which says what is wrong.
 XmlOwned<> UnMarshallStandard(XMLContext& context, const Document& document, bool log) {
     const LogWatch watch(log);
@@ -60,9 +64,7 @@ XmlOwned<> UnMarshallStandard(XMLContext& context, const Document& document, boo
     XmlOwned<> root(unMarshaller->UnMarshall(document.text.data(), document.text.size()));
     if (root != nullptr) return root;
     const XmlProblem problem = *unMarshaller->Problem();
-    const std::string place =
-        problem.line != 0 ? std::to_string(problem.line) + ':' + std::to_string(problem.column) : "";
-    throw DocumentError{kNotDecoded, problem.text, kNoOffset, place};
+    throw DocumentError{kNotDecoded, problem.text, kNoOffset, PlaceOf(problem)};
 }
 
 /// The declarations of a document; not decoded: NULL.
@@ -182,6 +184,25 @@ std::string ListNamespaces(const Document& document, const Options& options, con
         text += PrefixOf(*pair) + '\t' + WithBlanks(pair->mValue != nullptr ? pair->mValue : "") + '\n';
     }
     return text;
+}
+
+std::string ValidateDocument(const Document& document, const Options& options, const Progress& /*progress*/) {
+    const XmlSchemaInfo& schema = options.schema != nullptr ? *options.schema : StandardSchemaOf(document.text);
+    std::vector<DocumentError> found;
+    const int count = XMLFactory::Validate(
+        schema.id, document.text.data(), document.text.size(),
+        [](const XmlProblem& problem, void* context) {
+            const std::string text = WithoutControls(problem.text);
+            static_cast<std::vector<DocumentError>*>(context)->push_back(
+                {kNotDecoded, text, kNoOffset, PlaceOf(problem)});
+        },
+        &found);
+    if (count == 0) return document.name + ": valid\n";
+    // The last one goes the way of all errors.
+    for (std::size_t i = 0; i + 1 < found.size(); ++i) {
+        std::fprintf(stderr, "%s\n", document.Describe(found[i]).c_str());
+    }
+    throw DocumentError(found.back());
 }
 
 std::string ListSchemas() {

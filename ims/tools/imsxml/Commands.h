@@ -17,6 +17,9 @@ std::string DecodeDocument(const Document& document, const Options& options, con
 std::string ConvertDocument(const Document& document, const Options& options, const Progress& progress);
 std::string ListNamespaces(const Document& document, const Options& options, const Progress& progress);
 
+/// A line for each point in which a document is not what its standard says. Throws when there is one.
+std::string ValidateDocument(const Document& document, const Options& options, const Progress& progress);
+
 /// A table of all schemas; needs no document.
 std::string ListSchemas();
 

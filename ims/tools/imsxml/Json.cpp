@@ -55,12 +55,33 @@ void AddFields(Json& object, const XMLElement& element, const XmlFieldTable& tab
     }
 }
 
+const char* KindName(XmlRestKind kind) {
+    constexpr const char* kNames[] = {"attribute", "element", "text", "value", "namespace"};
+    return kNames[static_cast<int>(kind)];
+}
+
+/// What of a document no field holds.
+Json RestToJson(const XmlRest& rest) {
+    Json array = Json::array();
+    for (const XmlRestItem* item = rest.First(); item != nullptr; item = item->next) {
+        Json entry = {{"kind", KindName(item->kind)}};
+        if (item->field != nullptr) entry[item->isInside ? "in" : "at"] = item->field->Name();
+        if (*item->namespaceUri != '\0' || item->kind == XmlRestKind::Namespace)
+            entry["namespace"] = item->namespaceUri;
+        if (*item->name != '\0') entry["name"] = item->name;
+        if (item->kind != XmlRestKind::Namespace) entry["text"] = TextOrNull(item->text);
+        array.push_back(std::move(entry));
+    }
+    return array;
+}
+
 }  // namespace
 
 Json ToJson(const XMLElement& element) {
     Json object = {{"class", TextOrNull(element.ClassName())}};
     const XmlFieldTable* const table = ixRowsOf(element);
     if (table != nullptr) AddFields(object, element, *table);
+    if (element.Rest() != nullptr && !element.Rest()->IsEmpty()) object["rest"] = RestToJson(*element.Rest());
     return object;
 }
 

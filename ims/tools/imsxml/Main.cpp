@@ -29,7 +29,8 @@ Exit status, the highest of all files:
 Examples:
   imsxml decode --format tree gruu.xml
   imsxml decode *.xml | jq .root.class
-  imsxml convert --binder waiting.xml
+  imsxml convert --profile standard waiting.xml
+  imsxml validate waiting.xml
   imsxml namespaces presence.xml
 
 "imsxml COMMAND --help" tells more of a command.)help";
@@ -59,6 +60,16 @@ Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 3 cannot b
 Examples:
   imsxml convert gruu.xml
   imsxml convert --binder waiting.xml > written.xml)help";
+
+constexpr char kValidateFooter[] = R"help(
+Prints "FILE: valid", or a line with line and column for each point in which the document is not what its standard says,
+as far as the library knows it: what is missing, given twice, out of place, no word or number of the standard, or not of
+it. What is of another namespace is no fault. The document is read in the standard profile.
+
+Exit status: 0 valid, 1 not valid or no XML, 2 wrong usage or unreadable file, 4 time limit.
+
+Example:
+  imsxml validate *.xml)help";
 
 constexpr char kNamespacesFooter[] = R"help(
 Prints one line per declaration, in the order of the text: the prefix, a tab and the URI. The default namespace has the
@@ -112,6 +123,8 @@ class CommandLine {
 
   private:
     CLI::App* AddFileCommand(const char* name, const char* about, const char* footer);
+    void AddProfile(CLI::App* command);
+    void AddSchema(CLI::App* command);
     void AddDecoding(CLI::App* command);
 
     Options m_options;
@@ -122,6 +135,7 @@ class CommandLine {
     CLI::App m_app{kAbout, "imsxml"};
     CLI::App* m_decode;
     CLI::App* m_convert;
+    CLI::App* m_validate;
     CLI::App* m_schemas;
 };
 
@@ -141,7 +155,9 @@ CommandLine::CommandLine() {
         ->capture_default_str();
     m_convert = AddFileCommand("convert", "Decode documents and write them again", kConvertFooter);
     AddDecoding(m_convert);
-    AddFileCommand("namespaces", "Print the namespace declarations of documents", kNamespacesFooter);
+    m_validate = AddFileCommand("validate", "Say where documents are not what their standard says", kValidateFooter);
+    AddSchema(m_validate);
+    AddProfile(AddFileCommand("namespaces", "Print the namespace declarations of documents", kNamespacesFooter));
     m_schemas = m_app.add_subcommand("schemas", "Print the schemas that documents can have");
     m_schemas->footer(kSchemasFooter);
 }
@@ -154,19 +170,27 @@ CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const
         ->check([](const std::string& file) { return std::string(file.empty() ? "a name is empty" : ""); });
     command->add_flag("--log", m_options.log, "Print the library's log lines to the standard error");
     command->add_flag("--leaks", m_options.leaks, "Print to the standard error what memory is alive after each file");
-    command
-        ->add_option("--profile", m_profile,
-                     "device, the dialect of the client stack, or standard, what the public standards say")
-        ->check(CLI::IsMember({"device", "standard"}))
-        ->capture_default_str();
     command->add_option("--timeout", m_options.timeout, "Seconds that a file may take; 0: no limit")
         ->check(CheckSeconds)
         ->capture_default_str();
     return command;
 }
 
-void CommandLine::AddDecoding(CLI::App* command) {
+void CommandLine::AddProfile(CLI::App* command) {
+    command
+        ->add_option("--profile", m_profile,
+                     "device, the dialect of the client stack, or standard, what the public standards say")
+        ->check(CLI::IsMember({"device", "standard"}))
+        ->capture_default_str();
+}
+
+void CommandLine::AddSchema(CLI::App* command) {
     command->add_option("--schema", m_schema, "Name of the schema; see \"imsxml schemas\"")->type_name("NAME");
+}
+
+void CommandLine::AddDecoding(CLI::App* command) {
+    AddSchema(command);
+    AddProfile(command);
     command->add_flag("--binder", m_options.binder,
                       "Let the prefixes that the document declares count (supplementary services only)");
 }
@@ -187,6 +211,7 @@ int CommandLine::Run(int argc, char** argv) {
     m_options.tree = m_format == "tree";
     if (m_colour != "auto") m_options.colour = m_colour == "always" ? Colour::Always : Colour::Never;
     if (m_decode->parsed()) return RunOnFiles(DecodeDocument, m_options);
+    if (m_validate->parsed()) return RunOnFiles(ValidateDocument, m_options);
     return RunOnFiles(m_convert->parsed() ? ConvertDocument : ListNamespaces, m_options);
 }
 

@@ -27,9 +27,10 @@ _imsxml() {
         esac
     done
     case $command in
-        '') words='decode convert namespaces schemas --help --version' ;;
+        '') words='decode convert validate namespaces schemas --help --version' ;;
         decode) words='--schema --binder --format --color --log --leaks --profile --timeout --help' ;;
         convert) words='--schema --binder --log --leaks --profile --timeout --help' ;;
+        validate) words='--schema --log --leaks --timeout --help' ;;
         namespaces) words='--log --leaks --profile --timeout --help' ;;
         *) words='--help' ;;
     esac

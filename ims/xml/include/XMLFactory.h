@@ -173,6 +173,13 @@ class IX_XML_EXPORT XMLFactory {
     static void deleteContext(XMLContext* context);
     /// Frees a tree. NULL is ignored.
     static void DeleteElement(XMLElement* element);
+    /// Tells in which points a document is not what its standard says, as far as the descriptions of the classes know
+    /// it: what is missing, given twice, out of place, no word or number of the standard, or not of it. Elements and
+    /// attributes of other namespaces are no fault.
+    /// @param report gets each point, in document order, and `context`; NULL: nobody is told.
+    /// @return how many there are; -1 when the document cannot be read, which is the last that is reported.
+    static int Validate(eXMLSchemaID id, const char* text, std::size_t length,
+                        void (*report)(const XmlProblem& problem, void* context), void* context);
     /// @return NULL for a number that stands for no schema.
     static const XmlSchemaInfo* SchemaInfo(int id);
 };

@@ -197,9 +197,12 @@ struct IX_XML_EXPORT XmlField {
     /// @}
 };
 
+/// No class has as many rows, those of its bases counted.
+constexpr std::size_t kXmlMostRows = 64;
+
 /// The fields of a class.
 struct XmlFieldTable {
-    static constexpr unsigned kSlots = 64;
+    static constexpr unsigned kSlots = kXmlMostRows;
 
     const XmlFieldTable* base;  ///< Those of the base class, which come first; NULL: none.
     const XmlField* fields;
@@ -211,8 +214,8 @@ struct XmlFieldTable {
     /// 'not set' value.
     std::uint64_t told = 0;
     std::uint64_t attributes = 0;  ///< Rows, by their places, that stand in the start tag.
-    std::uint64_t owning = 0;   ///< Rows, by their places, whose fields own something ...
-    std::uint64_t parents = 0;  ///< ... and those of children and lists of children.
+    std::uint64_t owning = 0;      ///< Rows, by their places, whose fields own something ...
+    std::uint64_t parents = 0;     ///< ... and those of children and lists of children.
     /// The place of a row and one, from the slot of its name on; 0: no further row of that slot's names.
     std::uint8_t slots[kSlots] = {};
 
@@ -289,6 +292,8 @@ struct XmlClass {
     const XmlClass* parent = nullptr;    ///< The base class, when it has a description.
     XmlName element = IX_STR_IX_NULL;    ///< The element that the class stands for, where that is always the same.
     const XmlField* ownText = nullptr;   ///< The row of the element's own text, if it is one of this class.
+    const char* also = nullptr;          ///< What else the standard has; NULL: nothing that matters.
+    bool isUnordered = false;            ///< Its standard lets the children come in any order.
     bool isRoot = true;                  ///< Objects: what `IsRootElement` answers.
     bool takesByRows = false;            ///< `ProcessUnMarshall` is the regular one ...
     bool takesAttributesByRows = false;  ///< ... and so is `ProcessUnMarshallAttribute`.
@@ -303,6 +308,18 @@ struct XmlClass {
     constexpr XmlClass NoRoot() const {
         XmlClass description = *this;
         description.isRoot = false;
+        return description;
+    }
+    /// Elements and attributes that the standard has as well, and no field holds; separated by blanks.
+    constexpr XmlClass Also(const char* names) const {
+        XmlClass description = *this;
+        description.also = names;
+        return description;
+    }
+    /// A class whose standard lets the children come in any order.
+    constexpr XmlClass Unordered() const {
+        XmlClass description = *this;
+        description.isUnordered = true;
         return description;
     }
     /// The element that objects of the class stand for.

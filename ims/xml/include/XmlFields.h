@@ -61,7 +61,7 @@ class IX_XML_EXPORT XmlFields {
     /// `list`, so that a tree can be deleted without a call for every level.
     static void HandOverChildLists(XMLElement* element, IxSingleElementList& list);
 
-    /// True when both trees have the same classes and the same fields. NULL equals NULL only.
+    /// True when both trees have the same classes, the same fields and the same rests. NULL equals NULL only.
     static bool Equal(const XMLElement* left, const XMLElement* right);
 };
 

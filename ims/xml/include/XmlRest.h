@@ -67,7 +67,7 @@ class IX_XML_EXPORT XmlRest : public XmlHeapObject {
     XmlRestItem* Last() const { return m_pLast; }
     /// For the reader: names the entry of a list that what stands inside of `field` behind `before` belongs to.
     void SetEntry(XmlRestItem* before, const XmlField& field, const void* entry);
-    /// For comparisons: entries of the same kinds with the same texts in the same order, at the same fields.
+    /// For comparisons: the same entries in the same order at each field. Prefixes do not count.
     static bool Equal(const XmlRest* left, const XmlRest* right);
 
   private:

@@ -40,7 +40,10 @@ constexpr XmlClass ix_ns_caps_duplextypes::kClass =
 constexpr XmlClass ix_ns_caps_duplextype::kClass =
     ixClass<ix_ns_caps_duplextype>("ix_ns_caps_duplextype", "DuplexType", kSource, kDuplexFields);
 constexpr XmlClass ix_ns_caps_servcaps::kClass =
-    ixClass<ix_ns_caps_servcaps>("ix_ns_caps_servcaps", "ServcapsType", kSource, kServcapsFields);
+    ixClass<ix_ns_caps_servcaps>("ix_ns_caps_servcaps", "ServcapsType", kSource, kServcapsFields)
+        .Also(
+            "actor application automata class control data description event-packages extensions isfocus message "
+            "methods languages priority schemes text type");
 
 // Required: a kind is made of the text at its end tag; an object that is offered is none, whatever its name.
 int ix_ns_caps_duplextypes::ProcessUnMarshall(char* name, char* text, XMLElement* child) {

@@ -23,10 +23,13 @@ constexpr XmlField kDocumentFields[] = {
 }  // namespace
 
 constexpr XmlClass ix_parm::kClass = ixClass<ix_parm>("ix_parm", "Parm", kSource, kParmFields, ixSettingAnswers());
-constexpr XmlClass ix_characteristic::kClass = ixClass<ix_characteristic>(
-    "ix_characteristic", "Characteristic", kSource, kCharacteristicFields, ixSettingAnswers());
+constexpr XmlClass ix_characteristic::kClass =
+    ixClass<ix_characteristic>("ix_characteristic", "Characteristic", kSource, kCharacteristicFields,
+                               ixSettingAnswers())
+        .Unordered();
 constexpr XmlClass ix_characteristicDocType::kClass =
-    ixClass<ix_characteristicDocType>("ix_characteristicDocType", "CharacteristicDocType", kSource, kDocumentFields);
+    ixClass<ix_characteristicDocType>("ix_characteristicDocType", "CharacteristicDocType", kSource, kDocumentFields)
+        .Unordered();
 
 int ix_characteristicDocType::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     // Required: a setting outside of any group is refused, while other objects are ignored.

@@ -116,14 +116,18 @@ constexpr XmlClass ix_ns_common_policy_oneType::kClass = ixClass<ix_ns_common_po
     "ix_ns_common_policy_oneType", "CommonPolicy:OneType", kSource, kOneFields, OpenAnswers(false));
 constexpr XmlClass ix_ns_common_policy_manyType::kClass = ixClass<ix_ns_common_policy_manyType>(
     "ix_ns_common_policy_manyType", "CommonPolicy:ManyType", kSource, kManyFields, OpenAnswers());
-constexpr XmlClass ix_ns_common_policy_identityType::kClass = ixClass<ix_ns_common_policy_identityType>(
-    "ix_ns_common_policy_identityType", "CommonPolicy:IdentityType", kSource, kIdentityFields, OpenAnswers());
+constexpr XmlClass ix_ns_common_policy_identityType::kClass =
+    ixClass<ix_ns_common_policy_identityType>("ix_ns_common_policy_identityType", "CommonPolicy:IdentityType", kSource,
+                                              kIdentityFields, OpenAnswers())
+        .Unordered();
 constexpr XmlClass ix_ns_common_policy_sphereType::kClass = ixClass<ix_ns_common_policy_sphereType>(
     "ix_ns_common_policy_sphereType", "CommonPolicy:SphereType", kSource, kSphereFields, LeafAnswers());
 constexpr XmlClass ix_ns_common_policy_validityType::kClass = ixClass<ix_ns_common_policy_validityType>(
     "ix_ns_common_policy_validityType", "CommonPolicy:ValidityType", kSource, kValidityFields);
-constexpr XmlClass ix_ns_common_policy_conditionsType::kClass = ixClass<ix_ns_common_policy_conditionsType>(
-    "ix_ns_common_policy_conditionsType", "CommonPolicy:ConditionsType", kSource, kConditionsFields, OpenAnswers());
+constexpr XmlClass ix_ns_common_policy_conditionsType::kClass =
+    ixClass<ix_ns_common_policy_conditionsType>("ix_ns_common_policy_conditionsType", "CommonPolicy:ConditionsType",
+                                                kSource, kConditionsFields, OpenAnswers())
+        .Unordered();
 constexpr XmlClass ix_ns_common_policy_ruleType::kClass = ixClass<ix_ns_common_policy_ruleType>(
     "ix_ns_common_policy_ruleType", "CommonPolicy:RuleType", kSource, kRuleFields, StrictAnswers());
 constexpr XmlClass ix_ns_common_policy_ruleset::kClass = ixClass<ix_ns_common_policy_ruleset>(

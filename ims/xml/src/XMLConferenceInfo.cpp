@@ -94,8 +94,8 @@ constexpr XmlField kCallFields[] = {
     Child<&ix_call_type::mSip>(IX_STR_SIP).Mandatory(),
 };
 constexpr XmlField kMediaFields[] = {
-    Attribute<&ix_media_type::mId>(IX_STR_ID),
-    Element<&ix_media_type::mDisplayText>(IX_STR_DISPLAY_TEXT).Mandatory(),
+    Attribute<&ix_media_type::mId>(IX_STR_ID).Mandatory(),
+    Element<&ix_media_type::mDisplayText>(IX_STR_DISPLAY_TEXT),
     Element<&ix_media_type::mType>(IX_STR_TYPE),
     Element<&ix_media_type::mLabel>(IX_STR_LABEL),
     Element<&ix_media_type::mSrcId>(IX_STR_SRC_ID),

@@ -161,6 +161,12 @@ XMLContext* XMLFactory::newInstance(eXMLSchemaID id, eXMLProfile profile) {
     return schema != nullptr ? ixNewStandardContext(*schema) : nullptr;
 }
 
+int XMLFactory::Validate(eXMLSchemaID id, const char* text, std::size_t length,
+                         void (*report)(const XmlProblem& problem, void* context), void* context) {
+    const XmlSchemaInfo* const schema = SchemaInfo(id);
+    return schema != nullptr && text != nullptr ? ixValidate(*schema, text, length, report, context) : -1;
+}
+
 void XMLFactory::deleteContext(XMLContext* context) { ixDelete(context); }
 
 void XMLFactory::DeleteElement(XMLElement* element) { ixDelete(element); }

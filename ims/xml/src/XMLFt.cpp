@@ -7,16 +7,16 @@ namespace {
 using namespace XmlRow;
 
 constexpr XmlField kDataFields[] = {
-    Attribute<&ix_ns_ft_data::mUrl>(IX_STR_URL),
+    Attribute<&ix_ns_ft_data::mUrl>(IX_STR_URL).Mandatory(),
     Attribute<&ix_ns_ft_data::mEtag>(IX_STR_ETAG),
-    Attribute<&ix_ns_ft_data::mUntil>(IX_STR_UNTIL),
+    Attribute<&ix_ns_ft_data::mUntil>(IX_STR_UNTIL).Mandatory(),
 };
 constexpr XmlAnswers kDataAnswers = ixTracing({}, {2, "In ix_ns_ft_data::ProcessUnMarshallAttribute"});
 
 constexpr XmlField kFileInfoFields[] = {
-    Attribute<&ix_ns_ft_file_info::mType>(IX_STR_TYPE),
-    Element<&ix_ns_ft_file_info::mFileSize>(IX_STR_FILE_SIZE).Nearest(),
-    Child<&ix_ns_ft_file_info::mData>(IX_STR_DATA),
+    Attribute<&ix_ns_ft_file_info::mType>(IX_STR_TYPE).Mandatory(),
+    Element<&ix_ns_ft_file_info::mFileSize>(IX_STR_FILE_SIZE).Nearest().Mandatory(),
+    Child<&ix_ns_ft_file_info::mData>(IX_STR_DATA).Mandatory(),
 };
 constexpr XmlAnswers kFileInfoAnswers = ixTracing({2, "In ix_ns_ft_file_info::ProcessUnMarshall"}, {});
 
@@ -40,7 +40,8 @@ constexpr XmlMarshallerInfo kMarshallerInfo =
 constexpr XmlClass ix_ns_ft_data::kClass =
     ixClass<ix_ns_ft_data>("ix_ns_ft_data", "Data", kSource, kDataFields, kDataAnswers);
 constexpr XmlClass ix_ns_ft_file_info::kClass =
-    ixClass<ix_ns_ft_file_info>("ix_ns_ft_file_info", "FileInfo", kSource, kFileInfoFields, kFileInfoAnswers);
+    ixClass<ix_ns_ft_file_info>("ix_ns_ft_file_info", "FileInfo", kSource, kFileInfoFields, kFileInfoAnswers)
+        .Also("file-name content-type file-disposition");
 constexpr XmlClass ix_file::kClass = ixClass<ix_file>("ix_file", "File", kSource, kFileFields, kFileAnswers);
 
 int ix_file::ProcessUnMarshall(char* name, char* text, XMLElement* child) {

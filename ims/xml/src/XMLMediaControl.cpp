@@ -32,9 +32,11 @@ constexpr XmlMarshallerInfo kMarshallerInfo =
 constexpr XmlClass ix_to_encoder::kClass =
     ixClass<ix_to_encoder>("ix_to_encoder", "ToEncoder", kSource, kToEncoderFields, ixTracing({}, {}));
 constexpr XmlClass ix_vc_primitive::kClass =
-    ixClass<ix_vc_primitive>("ix_vc_primitive", "VcPrimitive", kSource, kVcPrimitiveFields, ixIgnoring());
+    ixClass<ix_vc_primitive>("ix_vc_primitive", "VcPrimitive", kSource, kVcPrimitiveFields, ixIgnoring())
+        .Also("stream_id");
 constexpr XmlClass ix_media_control::kClass =
-    ixClass<ix_media_control>("ix_media_control", "MediaControl", kSource, kMediaControlFields, ixIgnoring());
+    ixClass<ix_media_control>("ix_media_control", "MediaControl", kSource, kMediaControlFields, ixIgnoring())
+        .Also("general_error");
 
 int ix_to_encoder::ProcessUnMarshall(char* name, char* text, XMLElement* child) {
     // Required: any other element behind the request cancels it. Nobody else has it, so it is freed.

@@ -238,7 +238,12 @@ void AddServices(ix_Simservs& root, const Pieces& pieces) {
 
 }  // namespace
 
-constexpr XmlClass ix_Simservs::kClass = ixClass<ix_Simservs>("ix_Simservs", "Simservs", kSource, kSimservsFields);
+constexpr XmlClass ix_Simservs::kClass =
+    ixClass<ix_Simservs>("ix_Simservs", "Simservs", kSource, kSimservsFields)
+        .Also(
+            "extensions originating-identity-presentation-restriction terminating-identity-presentation-restriction "
+            "communication-diversion-serv-cap communication-barring-serv-cap flexible-alerting-default "
+            "flexible-alerting-specific");
 
 // Required: an object that is offered is left to the caller; services are filed by the unmarshaller alone.
 int ix_Simservs::ProcessUnMarshall(char* /*name*/, char* /*text*/, XMLElement* /*child*/) { return 1; }

@@ -259,5 +259,5 @@ bool XmlFields::Equal(const XMLElement* left, const XMLElement* right) {
             if (!FieldsEqual(*left, *right, table->fields[i])) return false;
         }
     }
-    return true;
+    return XmlRest::Equal(left->Rest(), right->Rest());
 }

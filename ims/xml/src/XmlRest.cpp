@@ -1,6 +1,9 @@
 #include "XmlRest.h"
 
+#include <algorithm>
 #include <cstring>
+
+#include "XmlClass.h"
 
 namespace {
 
@@ -16,6 +19,31 @@ const char* CopyTo(char*& to, const char* text, std::size_t length) {
 
 bool TextsEqual(const char* left, const char* right) {
     return left == nullptr || right == nullptr ? left == right : std::strcmp(left, right) == 0;
+}
+
+/// The first entry from `item` on that is at `field`.
+const XmlRestItem* FirstAt(const XmlRestItem* item, const XmlField* field) {
+    while (item != nullptr && item->field != field) item = item->next;
+    return item;
+}
+
+const char* LocalOf(const char* name) {
+    const char* const colon = std::strchr(name, ':');
+    return colon != nullptr ? colon + 1 : name;
+}
+
+/// The entries at the field of the first ones, in order.
+bool AreEqualAt(const XmlRestItem* one, const XmlRestItem* other) {
+    while (one != nullptr && other != nullptr) {
+        const bool isSame = one->kind == other->kind && one->isInside == other->isInside && one->held == other->held &&
+                            std::strcmp(one->namespaceUri, other->namespaceUri) == 0 &&
+                            std::strcmp(LocalOf(one->name), LocalOf(other->name)) == 0 &&
+                            TextsEqual(one->text, other->text);
+        if (!isSame) return false;
+        one = FirstAt(one->next, one->field);
+        other = FirstAt(other->next, other->field);
+    }
+    return one == other;
 }
 
 }  // namespace
@@ -77,14 +105,21 @@ void XmlRest::SetEntry(XmlRestItem* before, const XmlField& field, const void* e
 }
 
 bool XmlRest::Equal(const XmlRest* left, const XmlRest* right) {
-    const XmlRestItem* one = left != nullptr ? left->First() : nullptr;
-    const XmlRestItem* other = right != nullptr ? right->First() : nullptr;
-    for (; one != nullptr && other != nullptr; one = one->next, other = other->next) {
-        const bool isSame = one->kind == other->kind && one->isInside == other->isInside &&
-                            one->field == other->field && one->held == other->held &&
-                            TextsEqual(one->namespaceUri, other->namespaceUri) && TextsEqual(one->name, other->name) &&
-                            TextsEqual(one->text, other->text);
-        if (!isSame) return false;
+    const XmlRestItem* const one = left != nullptr ? left->First() : nullptr;
+    const XmlRestItem* const other = right != nullptr ? right->First() : nullptr;
+    if (one == nullptr || other == nullptr) return one == other;
+    // A document need not have its children in the order of the schema, in which they are written: only what is at one
+    // field has an order.
+    std::size_t count = 0;
+    for (const XmlRestItem* item = one; item != nullptr; item = item->next) ++count;
+    for (const XmlRestItem* item = other; item != nullptr; item = item->next) --count;
+    if (count != 0) return false;
+    const XmlField* compared[kXmlMostRows];
+    std::size_t fields = 0;
+    for (const XmlRestItem* item = one; item != nullptr; item = item->next) {
+        if (std::find(compared, compared + fields, item->field) != compared + fields) continue;
+        if (!AreEqualAt(item, FirstAt(other, item->field))) return false;
+        if (fields < kXmlMostRows) compared[fields++] = item->field;
     }
-    return one == other;
+    return true;
 }

@@ -141,12 +141,11 @@ XmlBinding::Place XmlBinding::FindElement(const XmlClass& description, XmlName n
     std::size_t first = 0;
     for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
         const XmlField* const row = table->Find(name, isElement);
-        if (row != nullptr)
-            return {row, nullptr, std::uint64_t{1} << (first + static_cast<std::size_t>(row - table->fields))};
+        if (row != nullptr) return {row, nullptr, first + static_cast<std::size_t>(row - table->fields)};
         for (std::size_t i = 0; i < table->count && table->hasEntries; ++i) {
             const XmlField& mixed = table->fields[i];
             for (std::size_t k = 0; k < mixed.entryCount; ++k) {
-                if (mixed.entries[k].name == name) return {&mixed, &mixed.entries[k], std::uint64_t{1} << (first + i)};
+                if (mixed.entries[k].name == name) return {&mixed, &mixed.entries[k], first + i};
             }
         }
         first += table->count;
@@ -159,11 +158,44 @@ XmlBinding::Place XmlBinding::FindAttribute(const XmlClass& description, XmlName
     for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
         const XmlField* const row =
             table->Find(name, [](const XmlField& field) { return field.role == XmlRole::Attribute; });
-        if (row != nullptr)
-            return {row, nullptr, std::uint64_t{1} << (first + static_cast<std::size_t>(row - table->fields))};
+        if (row != nullptr) return {row, nullptr, first + static_cast<std::size_t>(row - table->fields)};
         first += table->count;
     }
     return {};
+}
+
+/// True for what the standard has and the class does not.
+bool XmlBinding::IsAlso(const Frame& frame, const XmlSlice& name) {
+    const XmlClass* const description = frame.element->Class();
+    const char* at = frame.field == nullptr && description != nullptr ? description->also : nullptr;
+    while (at != nullptr) {
+        const char* const end = std::strchr(at, ' ');
+        const std::size_t length = end != nullptr ? static_cast<std::size_t>(end - at) : std::strlen(at);
+        if (length == name.length && std::memcmp(at, name.text, length) == 0) return true;
+        at = end != nullptr ? end + 1 : nullptr;
+    }
+    return false;
+}
+
+/// A child whose row stands before that of a child before it.
+void XmlBinding::CheckOrder(Frame& frame, const Place& place, const XmlSlice& name) const {
+    const XmlClass& description = *frame.element->Class();
+    if (description.isUnordered) return;
+    std::size_t order = place.at;
+    std::size_t before = 0;
+    for (const XmlFieldTable* table = &description.table; table != nullptr; table = table->base) {
+        if (order >= before + table->count) {
+            before += table->count;
+            continue;
+        }
+        // Rows of the bases come first.
+        order -= before;
+        for (const XmlFieldTable* base = table->base; base != nullptr; base = base->base) order += base->count;
+        break;
+    }
+    const bool isTurn = place.row->takesTurns && order + 1 == frame.order;
+    if (order < frame.order && !isTurn) Find("is out of place", name);
+    if (order > frame.order || isTurn) frame.order = order;
 }
 
 /// Without a namespace on the root local names alone count. The main namespace, and none, stand for those of a
@@ -240,7 +272,8 @@ bool XmlBinding::Root() {
     if (m_pRoot == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
     if (m_pDeclarations != nullptr) return AddDeclarations();
     if (m_rootUri != proper && !KeepNamespace(*m_pRoot, nullptr)) return false;
-    if (!m_frames.Add({m_pRoot, nullptr, m_rootUri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*m_pRoot)})) {
+    if (!m_frames.Add(
+            {m_pRoot, nullptr, m_rootUri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*m_pRoot), 0})) {
         return m_reader.FailMemory() != XmlReader::kFailed;
     }
     return Attributes(m_frames.Last());
@@ -253,7 +286,8 @@ bool XmlBinding::Start() {
     const bool isKnown = top.field == nullptr && name.IsKnown() && top.element->Class() != nullptr;
     const Place place = isKnown ? FindElement(*top.element->Class(), name) : Place();
     if (place.row == nullptr) {
-        Find("element is unknown", local);
+        const bool isOwn = m_reader.Uri() == top.uri || m_reader.Uri() == top.proper || m_reader.Uri() == 0;
+        if ((isOwn && !IsAlso(top, local)) || top.field != nullptr) Find("is not an element of the standard", local);
         return KeepPiece(top);
     }
     const XmlNamespace ns = place.entry != nullptr ? place.entry->ns : place.row->ns;
@@ -261,14 +295,19 @@ bool XmlBinding::Start() {
     const XmlUri proper = isOfParent ? top.proper : ixUri(ns);
     const XmlUri expected = isOfParent ? top.uri : proper;
     if (!TakesNamespace(m_reader.Uri(), expected, proper)) {
-        Find("element is of another namespace", local);
+        if (m_reader.Uri() == top.uri || m_reader.Uri() == top.proper)
+            Find("is an element of another namespace", local);
         return KeepPiece(top);
     }
-    if (!IsList(*place.row) && (top.seen & place.bit) != 0) {
-        Find("element is given twice", local);
+    if (!IsList(*place.row) && (top.seen & place.Bit()) != 0) {
+        Find("is given twice", local);
+        // It stays behind the one that counts.
+        top.lastField = place.row;
+        top.lastEntry = nullptr;
         return KeepPiece(top);
     }
-    top.seen |= place.bit;
+    top.seen |= place.Bit();
+    if (m_pFindings != nullptr) CheckOrder(top, place, local);
     const bool isValue =
         place.row->role == XmlRole::Element || place.row->role == XmlRole::Words || place.row->role == XmlRole::Texts;
     return isValue ? OpenField(top, place, proper) : OpenObject(top, place, proper);
@@ -313,7 +352,7 @@ bool XmlBinding::OpenObject(Frame& parent, const Place& place, XmlUri proper) {
     const XmlNamespace ns = place.entry != nullptr ? place.entry->ns : row.ns;
     const XmlUri uri = m_reader.Uri();
     if (uri != (ns == XmlNamespace::Parent ? parent.uri : proper) && !KeepNamespace(*child, nullptr)) return false;
-    if (!m_frames.Add({child, nullptr, uri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*child)})) {
+    if (!m_frames.Add({child, nullptr, uri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*child), 0})) {
         return m_reader.FailMemory() != XmlReader::kFailed;
     }
     return m_reader.AttributeCount() == 0 || Attributes(m_frames.Last());
@@ -365,7 +404,7 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
         // Markers of presence have fields of their own under names that no document has.
         if (place.row != nullptr && &description != &ix_empty_element_type::kClass &&
             description.parent != &ix_empty_element_type::kClass) {
-            frame.seen |= place.bit;
+            frame.seen |= place.Bit();
             return StoreValue(element, *place.row, value);
         }
         const XmlField* const others = XmlHooks::RowOf(description, XmlRole::Attributes);
@@ -373,7 +412,8 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
             return AddPair(element, *others, attribute.local, value);
         }
     }
-    if (m_pFindings != nullptr && attribute.uri == 0) Find("attribute is unknown", attribute.local);
+    if (m_pFindings != nullptr && attribute.uri == 0 && !IsAlso(frame, attribute.local))
+        Find("is not an attribute of the standard", attribute.local);
     const XmlSlice uri = m_reader.UriText(attribute.uri);
     const XmlSlice name = WholeName(attribute);
     m_piece.Cut(0);
@@ -398,7 +438,7 @@ bool XmlBinding::Text() {
         }
         return true;
     }
-    Find("text between elements", text);
+    Find("is a text between elements", text);
     return Keep(*top.element, {XmlRestKind::Text, false, top.lastField, top.lastEntry, 0, "", "", text.text}, 0,
                 text.length);
 }
@@ -453,9 +493,9 @@ bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlS
     if (fits) ixStoreNumber(element, row, value);
     if (fits && value != row.notSet) return true;
     if (!fits) {
-        Find(row.kind == XmlFieldKind::Flag          ? "neither true nor false"
-             : row.kind == XmlFieldKind::Enumeration ? "not a word of the standard"
-                                                     : "not a number that fits",
+        Find(row.kind == XmlFieldKind::Flag          ? "is neither true nor false"
+             : row.kind == XmlFieldKind::Enumeration ? "is not a word of the standard"
+                                                     : "is not a number that fits",
              text);
     }
     return Keep(element, {XmlRestKind::Value, false, &row, nullptr, XmlFields::Number(element, row), "", "", text.text},

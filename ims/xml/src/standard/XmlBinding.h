@@ -50,13 +50,16 @@ class XmlBinding {
         const void* lastEntry;      ///< ... and its entry in a list.
         XmlRestItem* kept;          ///< A field: the rest before it.
         XmlSlice text;
-        bool takesText;
+        bool takesText = false;
+        std::size_t order = 0;  ///< The place of the last child's row among all rows, those of bases first.
     };
     /// A row that takes an element or an attribute.
     struct Place {
         const XmlField* row = nullptr;
         const XmlNamedClass* entry = nullptr;
-        std::uint64_t bit = 0;
+        std::size_t at = 0;  ///< Among all rows of the class, its own first.
+
+        std::uint64_t Bit() const { return std::uint64_t{1} << at; }
     };
 
     bool Root();
@@ -77,6 +80,8 @@ class XmlBinding {
     bool TakeValue(Frame& parent, const XmlField& row, XmlSlice text, const Frame* inside);
     bool StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text);
     bool StoreWords(XMLElement& element, const XmlField& row, const XmlSlice& text);
+    static bool IsAlso(const Frame& frame, const XmlSlice& name);
+    void CheckOrder(Frame& frame, const Place& place, const XmlSlice& name) const;
     bool TakesNamespace(XmlUri uri, XmlUri expected, XmlUri proper) const;
     Place FindElement(const XmlClass& description, XmlName name) const;
     static Place FindAttribute(const XmlClass& description, XmlName name);

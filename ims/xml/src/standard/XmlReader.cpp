@@ -287,17 +287,26 @@ XmlSlice XmlReader::UriText(XmlUri uri) const {
     return {const_cast<char*>(kXmlNamespaces[uri].uri), kXmlNamespaces[uri].length};
 }
 
-void XmlReader::Locate(const char* place, int& line, int& column) const {
-    line = 1;
-    column = 1;
-    for (const char* at = m_copy; at < place; ++at) {
-        if (*at == '\n') {
-            ++line;
-            column = 1;
-        } else if ((static_cast<unsigned char>(*at) & 0xC0U) != 0x80U) {
-            ++column;
+void XmlReader::Locate(const char* place, int& line, int& column) {
+    const auto offset = static_cast<std::size_t>(place - m_copy);
+    if (m_counted == nullptr || offset < m_countedCopy) {
+        m_counted = m_given;
+        m_countedCopy = 0;
+        m_line = 1;
+        m_column = 1;
+    }
+    for (; m_countedCopy < offset && m_counted < m_givenEnd; ++m_counted, ++m_countedCopy) {
+        const bool isPair = *m_counted == '\r' && m_counted + 1 < m_givenEnd && m_counted[1] == '\n';
+        if (isPair) ++m_counted;
+        if (*m_counted == '\n' || *m_counted == '\r') {
+            ++m_line;
+            m_column = 1;
+        } else if ((static_cast<unsigned char>(*m_counted) & 0xC0U) != 0x80U) {
+            ++m_column;
         }
     }
+    line = m_line;
+    column = m_column;
 }
 
 XmlReader::Event XmlReader::Fail(const char* text, const char* place) {
@@ -314,6 +323,8 @@ bool XmlReader::Begin(const char* text, std::size_t length) {
     }
     m_copy = length < INT_MAX ? static_cast<char*>(__malloc(length + 1)) : nullptr;
     if (m_copy == nullptr) return FailMemory() != kFailed;
+    m_given = text;
+    m_givenEnd = text + length;
     char* to = m_copy;
     const char* const end = text + length;
     while (text < end) {
@@ -556,12 +567,12 @@ bool XmlReader::Attributes() {
             m_closesItself = true;
             return true;
         }
+        if (m_at == m_end) return Fail("the document ends within a tag", m_at) != kFailed;
         if (!hasSpace) return Fail("no white space before an attribute", m_at) != kFailed;
         if (!m_attributes.Add({})) return FailMemory() != kFailed;
         XmlReaderAttribute& attribute = m_attributes.Last();
         if (!QName(attribute.prefix, attribute.local)) {
-            return Fail(m_at == m_end ? "the document ends within a tag" : "not the name of an attribute", m_at) !=
-                   kFailed;
+            return Fail("not the name of an attribute", m_at) != kFailed;
         }
         attribute.declares =
             attribute.prefix.length != 0 ? Is(attribute.prefix, kXmlnsWord) : Is(attribute.local, kXmlnsWord);
@@ -844,6 +855,25 @@ bool XmlReader::NeedOfStart(std::size_t outer) {
     return true;
 }
 
+/// @return false without memory.
+bool XmlReader::PutDeclaration(XmlArray<char>& piece, unsigned prefix) const {
+    const unsigned binding = prefix < m_bound.Count() ? m_bound[prefix] : 0;
+    const XmlUri uri = binding != 0 ? m_bindings[binding - 1].uri : 0;
+    if (uri == 0 && m_rootUri == 0) return true;
+    bool isGood = AppendText(piece, prefix != 0 ? " xmlns:" : " xmlns");
+    if (prefix != 0) isGood = isGood && piece.Append(m_prefixes[prefix - 1].text, m_prefixes[prefix - 1].length);
+    isGood = isGood && AppendText(piece, "=\"");
+    const XmlSlice text = UriText(uri);
+    for (std::size_t i = 0; i < text.length && isGood; ++i) {
+        const char letter = text.text[i];
+        isGood = letter == '&'   ? AppendText(piece, "&amp;")
+                 : letter == '<' ? AppendText(piece, "&lt;")
+                 : letter == '"' ? AppendText(piece, "&quot;")
+                                 : piece.Add(letter);
+    }
+    return isGood && piece.Add('"');
+}
+
 bool XmlReader::Skip(XmlArray<char>& piece) {
     const std::size_t depth = m_open.Count();
     const char* const begin = m_open.Last().name;
@@ -859,23 +889,11 @@ bool XmlReader::Skip(XmlArray<char>& piece) {
         if (event == kText && !NeedMentioned(m_text.text, m_text.text + m_text.length, outer)) return false;
     }
     bool isGood = piece.Add('<') && piece.Append(begin, static_cast<std::size_t>(nameEnd - begin));
-    for (std::size_t i = 0; i < m_needed.Count() && isGood; ++i) {
-        const unsigned number = m_needed[i];
-        const unsigned binding = number < m_bound.Count() ? m_bound[number] : 0;
-        const XmlUri uri = binding != 0 ? m_bindings[binding - 1].uri : 0;
-        if (uri == 0 && m_rootUri == 0) continue;
-        isGood = AppendText(piece, number != 0 ? " xmlns:" : " xmlns");
-        if (number != 0) isGood = isGood && piece.Append(m_prefixes[number - 1].text, m_prefixes[number - 1].length);
-        isGood = isGood && AppendText(piece, "=\"");
-        const XmlSlice text = UriText(uri);
-        for (std::size_t k = 0; k < text.length && isGood; ++k) {
-            const char letter = text.text[k];
-            isGood = letter == '&'   ? AppendText(piece, "&amp;")
-                     : letter == '<' ? AppendText(piece, "&lt;")
-                     : letter == '"' ? AppendText(piece, "&quot;")
-                                     : piece.Add(letter);
-        }
-        isGood = isGood && piece.Add('"');
+    // The default namespace comes first: the writer leaves it out where it is declared anyway.
+    for (std::size_t i = 0; i < m_needed.Count(); ++i)
+        isGood = isGood && (m_needed[i] != 0 || PutDeclaration(piece, 0));
+    for (std::size_t i = 0; i < m_needed.Count(); ++i) {
+        isGood = isGood && (m_needed[i] == 0 || PutDeclaration(piece, m_needed[i]));
     }
     isGood = isGood && piece.Append(nameEnd, static_cast<std::size_t>(m_at - nameEnd));
     return isGood || FailMemory() != kFailed;

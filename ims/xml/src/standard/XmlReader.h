@@ -179,8 +179,8 @@ class XmlReader {
     XmlSlice UriText(XmlUri uri) const;
     /// Where the last event begins.
     const char* Place() const { return m_place; }
-    /// Line and column of a place, from 1 on.
-    void Locate(const char* place, int& line, int& column) const;
+    /// Line and column of a place, from 1 on. Places that follow each other are found in one pass.
+    void Locate(const char* place, int& line, int& column);
 
     Event Fail(const char* text, const char* place);
     Event FailMemory() { return Fail("no memory", nullptr); }
@@ -230,6 +230,7 @@ class XmlReader {
     bool Need(const XmlSlice& prefix, std::size_t outer);
     bool NeedMentioned(const char* text, const char* end, std::size_t outer);
     bool NeedOfStart(std::size_t outer);
+    bool PutDeclaration(XmlArray<char>& piece, unsigned prefix) const;
 
     char* m_copy = nullptr;
     char* m_at = nullptr;
@@ -256,6 +257,14 @@ class XmlReader {
     bool m_hasRoot = false;
     bool m_hasDocType = false;
     XmlProblem m_problem = {0, 0, nullptr};
+
+    /// The text as it came: the copy is changed where references are replaced. How far lines have been counted in it.
+    const char* m_given = nullptr;
+    const char* m_givenEnd = nullptr;
+    const char* m_counted = nullptr;
+    std::size_t m_countedCopy = 0;
+    int m_line = 1;
+    int m_column = 1;
 };
 
 #endif

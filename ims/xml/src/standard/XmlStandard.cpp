@@ -6,6 +6,53 @@
 
 namespace {
 
+bool DeclareServices(const XmlSchemaInfo& schema, XmlReader& reader) {
+    constexpr XmlNamespace kServices[] = {XmlNamespace::Simservs, XmlNamespace::CommonPolicy,
+                                          XmlNamespace::OmaCommonPolicy};
+    for (const XmlNamespace known : kServices) {
+        const XmlNamespaceInfo& info = kXmlNamespaces[ixUri(known)];
+        if (!schema.takesBinder) break;
+        if (!reader.Declare(info.prefix, std::strlen(info.prefix), info.uri, info.length)) return false;
+    }
+    return true;
+}
+
+/// Puts findings into words.
+class Reporter : public XmlFindings {
+  public:
+    Reporter(XmlReader& reader, void (*report)(const XmlProblem& problem, void* context), void* context)
+        : m_reader(reader), m_report(report), m_context(context) {}
+
+    void Add(const char* place, const char* what, const XmlSlice& name) override {
+        XmlProblem problem = {0, 0, m_text};
+        m_reader.Locate(place, problem.line, problem.column);
+        std::size_t length = 0;
+        const auto add = [&](const char* text, std::size_t count) {
+            for (std::size_t i = 0; i < count && length + 1 < sizeof m_text; ++i) m_text[length++] = text[i];
+            m_text[length] = '\0';
+        };
+        add("\"", 1);
+        add(name.text, name.length < kLongestName ? name.length : kLongestName);
+        add("\" ", 2);
+        add(what, std::strlen(what));
+        Report(problem);
+    }
+    void Report(const XmlProblem& problem) {
+        ++m_count;
+        if (m_report != nullptr) m_report(problem, m_context);
+    }
+    int Count() const { return m_count; }
+
+  private:
+    static constexpr std::size_t kLongestName = 80;
+
+    XmlReader& m_reader;
+    void (*m_report)(const XmlProblem& problem, void* context);
+    void* m_context;
+    int m_count = 0;
+    char m_text[200];
+};
+
 class StandardUnMarshaller : public XMLUnMarshaller {
   public:
     StandardUnMarshaller(const XmlSchemaInfo& schema, XMLObject* binder) : m_schema(schema), m_pBinder(binder) {}
@@ -25,13 +72,7 @@ class StandardUnMarshaller : public XMLUnMarshaller {
 
 /// The prefixes that something outside of the document binds: those of the services, and those of the binder.
 bool StandardUnMarshaller::Declare(XmlReader& reader) const {
-    constexpr XmlNamespace kServices[] = {XmlNamespace::Simservs, XmlNamespace::CommonPolicy,
-                                          XmlNamespace::OmaCommonPolicy};
-    for (const XmlNamespace known : kServices) {
-        const XmlNamespaceInfo& info = kXmlNamespaces[ixUri(known)];
-        if (!m_schema.takesBinder) break;
-        if (!reader.Declare(info.prefix, std::strlen(info.prefix), info.uri, info.length)) return false;
-    }
+    if (!DeclareServices(m_schema, reader)) return false;
     const IxSingleElementList* const list = XmlNamespaceBinder::DeclarationsOf(m_pBinder);
     for (const auto* pair : XmlEntries<ix_AttributeValuePair>(list)) {
         if (pair == nullptr || pair->mName == nullptr || pair->mValue == nullptr || *pair->mValue == '\0') continue;
@@ -119,4 +160,18 @@ XMLContext* ixNewStandardContext(const XmlSchemaInfo& schema) {
     auto* const context = new (std::nothrow) StandardContext(schema);
     ixTrack(kSchemaModule, kSource, __LINE__, context, sizeof *context);
     return context;
+}
+
+int ixValidate(const XmlSchemaInfo& schema, const char* text, std::size_t length,
+               void (*report)(const XmlProblem& problem, void* context), void* context) {
+    XmlReader reader;
+    Reporter reporter(reader, report, context);
+    XmlBinding binding(schema, reader, &reporter);
+    XMLElement* const root = DeclareServices(schema, reader) && reader.Begin(text, length) ? binding.Read() : nullptr;
+    if (root == nullptr) {
+        reporter.Report(*reader.Problem());
+        return -1;
+    }
+    ixDelete(root);
+    return reporter.Count();
 }

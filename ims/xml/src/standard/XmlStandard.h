@@ -8,4 +8,8 @@
 /// A new context of a schema; NULL without memory, and for a schema that has no standard profile.
 XMLContext* ixNewStandardContext(const XmlSchemaInfo& schema);
 
+/// See `XMLFactory::Validate`.
+int ixValidate(const XmlSchemaInfo& schema, const char* text, std::size_t length,
+               void (*report)(const XmlProblem& problem, void* context), void* context);
+
 #endif

@@ -157,13 +157,16 @@ bool XmlWriter::Root(const XMLElement& root) {
     return Object(root, {known.name, XmlNamespace::Parent}, {m_rootUri, m_rootUri, 0}) && Declarations(at);
 }
 
+XmlSlice XmlWriter::UriText(XmlUri uri) const {
+    if (uri >= kXmlNamespaceCount) return m_uris[uri - kXmlNamespaceCount];
+    return {const_cast<char*>(kXmlNamespaces[uri].uri), kXmlNamespaces[uri].length};
+}
+
 /// Declares on the root what has been used.
 bool XmlWriter::Declarations(std::size_t at) {
     const std::size_t end = m_text.Count();
     const auto declare = [&](const XmlSlice& prefix, XmlUri uri) {
-        const XmlSlice text = uri < kXmlNamespaceCount
-                                  ? XmlSlice{const_cast<char*>(kXmlNamespaces[uri].uri), kXmlNamespaces[uri].length}
-                                  : m_uris[uri - kXmlNamespaceCount];
+        const XmlSlice text = UriText(uri);
         return Put(prefix.length != 0 ? " xmlns:" : " xmlns") && Put(prefix) && Put("=\"") && Escaped(text, true) &&
                Put("\"");
     };
@@ -198,6 +201,14 @@ bool XmlWriter::UriOf(const char* text, XmlUri& uri) {
     return number != XmlNameTable::kNoMemory || FailMemory();
 }
 
+/// @param isNew out: nothing else has the prefix. @return false without memory.
+bool XmlWriter::Take(const XmlSlice& prefix, bool& isNew) {
+    const std::size_t before = m_taken.Count();
+    if (m_taken.Intern(prefix) == XmlNameTable::kNoMemory) return FailMemory();
+    isNew = m_taken.Count() != before;
+    return true;
+}
+
 /// The prefix of a namespace: the usual one, the one that is wanted, or a new one.
 bool XmlWriter::PrefixOf(XmlUri uri, const XmlSlice& wanted, XmlSlice& prefix) {
     while (m_prefixes.Count() <= uri) {
@@ -205,10 +216,12 @@ bool XmlWriter::PrefixOf(XmlUri uri, const XmlSlice& wanted, XmlSlice& prefix) {
     }
     if (!m_prefixes[uri].isUsed) {
         XmlSlice text = uri < kXmlNamespaceCount ? SliceOf(kXmlNamespaces[uri].prefix) : wanted;
-        for (std::size_t i = 0; uri >= kXmlNamespaceCount && m_taken.Count() < kXmlNamespaceCount; ++i) {
-            if (m_taken.Intern(SliceOf(kXmlNamespaces[i].prefix)) == XmlNameTable::kNoMemory) return FailMemory();
-        }
-        while (uri >= kXmlNamespaceCount && m_taken.Intern(text) != m_taken.Count() - 1) {
+        bool isNew = false;
+        if (m_taken.Count() == 0 && !Take(SliceOf("xml"), isNew)) return false;
+        if (m_taken.Count() == 1 && !Take(SliceOf("xmlns"), isNew)) return false;
+        isNew = uri == ixUri(XmlNamespace::Xml);
+        if (!isNew && !Take(text, isNew)) return false;
+        while (!isNew) {
             auto* const made = static_cast<char*>(__malloc(sizeof m_number + 1));
             if (made == nullptr || !m_made.Add(made)) {
                 __free(made);
@@ -218,6 +231,7 @@ bool XmlWriter::PrefixOf(XmlUri uri, const XmlSlice& wanted, XmlSlice& prefix) {
             made[0] = 'n';
             std::memcpy(made + 1, digits.text, digits.length);
             text = {made, digits.length + 1};
+            if (!Take(text, isNew)) return false;
         }
         m_prefixes[uri] = {text, true};
     }
@@ -243,7 +257,12 @@ bool XmlWriter::Start(const XmlSlice& local, XmlUri uri, XmlUri& defaultUri, std
     return true;
 }
 
-bool XmlWriter::End(std::size_t nameAt, std::size_t nameLength) {
+/// Ends an element. @param content where it begins: an element without any closes itself.
+bool XmlWriter::Close(std::size_t content, std::size_t nameAt, std::size_t nameLength) {
+    if (m_text.Count() == content) {
+        m_text.Cut(content - 1);
+        return Put("/>");
+    }
     char* const to = m_text.Room(nameLength + 3);
     if (to == nullptr) return FailMemory();
     to[0] = '<';
@@ -333,26 +352,33 @@ bool XmlWriter::Object(const XMLElement& element, const Name& name, const Around
     const std::size_t content = m_text.Count();
     // What came before all children.
     for (const XmlRestItem* item = FirstOf(element); item != nullptr; item = item->next) {
-        if (item->field == nullptr && item->entry == nullptr && !Piece(*item)) return false;
+        if (item->field == nullptr && item->entry == nullptr && !Piece(*item, inside.defaultUri)) return false;
     }
     if (!Children(element, description.table, name.local, inside)) return false;
     for (const XmlRestItem* item = FirstOf(element); item != nullptr; item = item->next) {
-        if (item->field == nullptr && item->entry != nullptr && !Piece(*item)) return false;
+        if (item->field == nullptr && item->entry != nullptr && !Piece(*item, inside.defaultUri)) return false;
     }
-    if (m_text.Count() != content) return End(nameAt, nameLength);
-    m_text.Cut(content - 1);
-    return Put("/>");
+    return Close(content, nameAt, nameLength);
 }
 
-bool XmlWriter::Piece(const XmlRestItem& item) {
-    if (item.kind == XmlRestKind::Element) return Put(item.text);
-    return item.kind != XmlRestKind::Text || Escaped(SliceOf(item.text), false);
+bool XmlWriter::Piece(const XmlRestItem& item, XmlUri defaultUri) {
+    if (item.kind == XmlRestKind::Text) return Escaped(SliceOf(item.text), false);
+    if (item.kind != XmlRestKind::Element) return true;
+    // Its first declaration goes without saying where it is that of the default namespace here.
+    const XmlSlice uri = UriText(defaultUri);
+    const char* const name = item.text + std::strcspn(item.text, " \t\n/>");
+    constexpr char kBegin[] = " xmlns=\"";
+    const char* const declared = name + sizeof kBegin - 1;
+    const bool declares = std::strncmp(name, kBegin, sizeof kBegin - 1) == 0 &&
+                          std::strncmp(declared, uri.text, uri.length) == 0 && declared[uri.length] == '"';
+    if (!declares) return Put(item.text);
+    return Put(item.text, static_cast<std::size_t>(name - item.text)) && Put(declared + uri.length + 1);
 }
 
 /// What stands behind a child.
-bool XmlWriter::Behind(const XmlRestItem* run) {
+bool XmlWriter::Behind(const XmlRestItem* run, const Around& inside) {
     for (const XmlRestItem* item = run; item != nullptr && IsOf(item, *run); item = NextOf(item->next, *run->field)) {
-        if (!item->isInside && !Piece(*item)) return false;
+        if (!item->isInside && !Piece(*item, inside.defaultUri)) return false;
     }
     return true;
 }
@@ -473,7 +499,7 @@ bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlS
             bool isSet = false;
             if (!ValueText(element, row, text, isSet)) return Fail("has no element", name, row.Name());
             if (isSet && !Value(row, run, text, inside)) return false;
-            return run == nullptr || Behind(run);
+            return run == nullptr || Behind(run, inside);
         }
         case XmlRole::Words: {
             const XmlRestItem* const given = Given(element, row);
@@ -485,7 +511,7 @@ bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlS
             }
             const XmlSlice text = given != nullptr ? SliceOf(given->text) : XmlSlice{words.Values(), words.Count()};
             if (!IsNothing(text) && !Value(row, run, text, inside)) return false;
-            return run == nullptr || Behind(run);
+            return run == nullptr || Behind(run, inside);
         }
         case XmlRole::Child:
         case XmlRole::OneOf: {
@@ -494,7 +520,7 @@ bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlS
                 return Fail("has no element", name, row.Name());
             }
             if (child != nullptr && !Child(element, row, *child, inside)) return false;
-            return run == nullptr || Behind(run);
+            return run == nullptr || Behind(run, inside);
         }
         case XmlRole::Texts:
         case XmlRole::Children:
@@ -528,7 +554,7 @@ bool XmlWriter::NextEntry(const XMLElement& element, Entries& entries, const Aro
     while (entries.run != nullptr) {
         const XmlSlice key = {reinterpret_cast<char*>(const_cast<void**>(&entries.run->entry)), sizeof node->key};
         if (entries.here.Find(key) != XmlNameTable::kNone) break;
-        if (!LeaveRun(entries)) return false;
+        if (!LeaveRun(entries, inside)) return false;
     }
     if (node->key == nullptr) return true;
     const bool isAbout = entries.run != nullptr && entries.run->entry == node->key;
@@ -536,20 +562,20 @@ bool XmlWriter::NextEntry(const XMLElement& element, Entries& entries, const Aro
         row.role == XmlRole::Texts
             ? Value(row, isAbout ? entries.run : nullptr, SliceOf(static_cast<const char*>(node->key)), inside)
             : Child(element, row, *static_cast<const XMLElement*>(node->key), inside);
-    return isWritten && (!isAbout || LeaveRun(entries));
+    return isWritten && (!isAbout || LeaveRun(entries, inside));
 }
 
 /// Writes what stands behind an entry, and goes on to the next of which there is something.
-bool XmlWriter::LeaveRun(Entries& entries) {
+bool XmlWriter::LeaveRun(Entries& entries, const Around& inside) {
     const XmlRestItem* const run = entries.run;
-    if (!Behind(run)) return false;
+    if (!Behind(run, inside)) return false;
     while (IsOf(entries.run, *run)) entries.run = NextOf(entries.run->next, *entries.row);
     return true;
 }
 
-bool XmlWriter::CloseList(Entries& entries) {
+bool XmlWriter::CloseList(Entries& entries, const Around& inside) {
     while (entries.run != nullptr) {
-        if (!LeaveRun(entries)) return false;
+        if (!LeaveRun(entries, inside)) return false;
     }
     return true;
 }
@@ -564,7 +590,7 @@ bool XmlWriter::List(const XMLElement& element, const XmlField& row, const XmlFi
         if (entries.node != nullptr && !NextEntry(element, entries, inside)) return false;
         if (others.node != nullptr && !NextEntry(element, others, inside)) return false;
     }
-    return CloseList(entries) && CloseList(others);
+    return CloseList(entries, inside) && CloseList(others, inside);
 }
 
 bool XmlWriter::Child(const XMLElement& parent, const XmlField& row, const XMLElement& child, const Around& inside) {
@@ -592,7 +618,9 @@ bool XmlWriter::Value(const XmlField& row, const XmlRestItem* run, const XmlSlic
     std::size_t nameAt = 0;
     std::size_t nameLength = 0;
     if (!Start(SliceOf(row.name), uri, defaultUri, nameAt, nameLength)) return false;
-    return forAll(XmlRestKind::Attribute, [&](const XmlRestItem& item) { return RestAttribute(item); }) && Put(">") &&
-           Escaped(text, false) && forAll(XmlRestKind::Element, [&](const XmlRestItem& item) { return Piece(item); }) &&
-           End(nameAt, nameLength);
+    const auto attribute = [&](const XmlRestItem& item) { return RestAttribute(item); };
+    if (!forAll(XmlRestKind::Attribute, attribute) || !Put(">")) return false;
+    const std::size_t content = m_text.Count();
+    const auto piece = [&](const XmlRestItem& item) { return Piece(item, defaultUri); };
+    return Escaped(text, false) && forAll(XmlRestKind::Element, piece) && Close(content, nameAt, nameLength);
 }

@@ -56,19 +56,21 @@ class XmlWriter {
     bool Field(const XMLElement& element, const XmlField& row, const XmlSlice& name, const Around& inside);
     bool OpenList(const XMLElement& element, const XmlField& row, Entries& entries);
     bool NextEntry(const XMLElement& element, Entries& entries, const Around& inside);
-    bool LeaveRun(Entries& entries);
-    bool CloseList(Entries& entries);
+    bool LeaveRun(Entries& entries, const Around& inside);
+    bool CloseList(Entries& entries, const Around& inside);
     bool List(const XMLElement& element, const XmlField& row, const XmlField* other, const Around& inside);
     bool Child(const XMLElement& parent, const XmlField& row, const XMLElement& child, const Around& inside);
     bool Value(const XmlField& row, const XmlRestItem* run, const XmlSlice& text, const Around& inside);
-    bool Behind(const XmlRestItem* run);
-    bool Piece(const XmlRestItem& item);
+    bool Behind(const XmlRestItem* run, const Around& inside);
+    bool Piece(const XmlRestItem& item, XmlUri defaultUri);
     bool NameOf(const XmlField& row, const XMLElement& child, Name& name);
     bool ValueText(const XMLElement& element, const XmlField& row, XmlSlice& text, bool& isSet);
     static const XmlRestItem* Given(const XMLElement& element, const XmlField& row);
     bool Start(const XmlSlice& local, XmlUri uri, XmlUri& defaultUri, std::size_t& nameAt, std::size_t& nameLength);
-    bool End(std::size_t nameAt, std::size_t nameLength);
+    bool Close(std::size_t content, std::size_t nameAt, std::size_t nameLength);
+    XmlSlice UriText(XmlUri uri) const;
     bool UriOf(const char* text, XmlUri& uri);
+    bool Take(const XmlSlice& prefix, bool& isNew);
     bool PrefixOf(XmlUri uri, const XmlSlice& wanted, XmlSlice& prefix);
     bool Escaped(const XmlSlice& text, bool isAttribute);
     bool Put(const char* text, std::size_t length) { return m_text.Append(text, length) || FailMemory(); }
@@ -83,7 +85,7 @@ class XmlWriter {
     XmlArray<char> m_text;
     XmlNameTable m_uris;          ///< Those that `XmlNamespace` does not have.
     XmlArray<Prefix> m_prefixes;  ///< By number of the namespace.
-    XmlNameTable m_taken;         ///< Prefixes that stand for something; empty until a new one is needed.
+    XmlNameTable m_taken;         ///< Prefixes that stand for something.
     XmlArray<char*> m_made;       ///< Texts of prefixes that are made up.
     char m_number[24] = {};
     bool m_isChanged = false;  ///< An application has added to a rest: the text is read once more.
