@@ -125,6 +125,8 @@ class StandardContext : public XMLContext {
     ~StandardContext() override { ixDelete(m_pDevice); }
 
     XMLMarshaller* createMarshaller() override {
+        // A document of any kind has no root that could be written.
+        if (std::strcmp(m_schema.rootElements, "*") == 0) return nullptr;
         return Keep(m_pMarshaller, new (std::nothrow) StandardMarshaller(m_schema));
     }
     XMLUnMarshaller* createUnMarshaller() override {
