@@ -209,14 +209,14 @@ bool XmlBinding::TakesNamespace(XmlUri uri, XmlUri expected, XmlUri proper) cons
 bool XmlBinding::Keep(XMLElement& element, const XmlRestItem& item, std::size_t nameLength, std::size_t textLength) {
     XmlRest* const rest = element.MakeRest();
     const bool isKept = rest != nullptr && rest->Append(item, nameLength, textLength) != nullptr;
-    return isKept || m_reader.FailMemory() != XmlReader::kFailed;
+    return isKept || m_reader.RefuseMemory();
 }
 
 bool XmlBinding::KeepNamespace(XMLElement& element, const XmlField* field) {
     const XmlSlice uri = m_reader.UriText(m_reader.Uri());
     // The texts of namespaces are not always ended by a NUL.
     m_piece.Cut(0);
-    if (!m_piece.Append(uri.text, uri.length) || !m_piece.Add('\0')) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (!m_piece.Append(uri.text, uri.length) || !m_piece.Add('\0')) return m_reader.RefuseMemory();
     return Keep(element, {XmlRestKind::Namespace, field != nullptr, field, nullptr, 0, m_piece.Values(), "", ""}, 0, 0);
 }
 
@@ -261,20 +261,19 @@ bool XmlBinding::Root() {
     m_main = ixUri(ixMainNamespace(m_schema));
     m_rootUri = m_reader.Uri();
     const XmlRoot root = ixRootOf(m_schema, m_reader.Local());
-    if (root.description == nullptr)
-        return m_reader.Fail("not a root element of the schema", m_reader.Place()) != XmlReader::kFailed;
+    if (root.description == nullptr) return m_reader.Refuse("not a root element of the schema", m_reader.Place());
     const XmlUri proper = ixUri(root.ns);
     m_pDeclarations = XmlHooks::RowOf(*root.description, XmlRole::Declarations);
     if (m_pDeclarations == nullptr && m_rootUri != proper && m_rootUri != 0 && m_rootUri != m_main) {
-        return m_reader.Fail("the root element is of another namespace", m_reader.Place()) != XmlReader::kFailed;
+        return m_reader.Refuse("the root element is of another namespace", m_reader.Place());
     }
     m_pRoot = root.description->create(root.description->source, __LINE__);
-    if (m_pRoot == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (m_pRoot == nullptr) return m_reader.RefuseMemory();
     if (m_pDeclarations != nullptr) return AddDeclarations();
     if (m_rootUri != proper && !KeepNamespace(*m_pRoot, nullptr)) return false;
     if (!m_frames.Add(
             {m_pRoot, nullptr, m_rootUri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*m_pRoot), 0})) {
-        return m_reader.FailMemory() != XmlReader::kFailed;
+        return m_reader.RefuseMemory();
     }
     return Attributes(m_frames.Last());
 }
@@ -326,19 +325,19 @@ bool XmlBinding::OpenField(Frame& parent, const Place& place, XmlUri proper) {
                    {},       true};
     if (uri != expected && !KeepNamespace(element, place.row)) return false;
     if (m_reader.AttributeCount() != 0 && !Attributes(frame)) return false;
-    return m_frames.Add(frame) || m_reader.FailMemory() != XmlReader::kFailed;
+    return m_frames.Add(frame) || m_reader.RefuseMemory();
 }
 
 bool XmlBinding::OpenObject(Frame& parent, const Place& place, XmlUri proper) {
     const XmlField& row = *place.row;
     const XmlClass& description = place.entry != nullptr ? *place.entry->description : *row.description;
     XMLElement* const child = description.create(description.source, row.line);
-    if (child == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (child == nullptr) return m_reader.RefuseMemory();
     if (row.store != nullptr) {
         row.store(*parent.element, child);
     } else if (!XmlHooks::Append(*parent.element, row, child)) {
         ixDelete(child);
-        return m_reader.FailMemory() != XmlReader::kFailed;
+        return m_reader.RefuseMemory();
     }
     parent.lastField = &row;
     parent.lastEntry = IsList(row) ? child : nullptr;
@@ -347,13 +346,13 @@ bool XmlBinding::OpenObject(Frame& parent, const Place& place, XmlUri proper) {
         auto& flag = static_cast<ix_empty_element_type&>(*child);
         flag.mPresent = 1;
         flag.mName = CopyOf(m_reader.Local());
-        if (flag.mName == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+        if (flag.mName == nullptr) return m_reader.RefuseMemory();
     }
     const XmlNamespace ns = place.entry != nullptr ? place.entry->ns : row.ns;
     const XmlUri uri = m_reader.Uri();
     if (uri != (ns == XmlNamespace::Parent ? parent.uri : proper) && !KeepNamespace(*child, nullptr)) return false;
     if (!m_frames.Add({child, nullptr, uri, proper, 0, nullptr, nullptr, nullptr, {}, TakesText(*child), 0})) {
-        return m_reader.FailMemory() != XmlReader::kFailed;
+        return m_reader.RefuseMemory();
     }
     return m_reader.AttributeCount() == 0 || Attributes(m_frames.Last());
 }
@@ -372,13 +371,13 @@ bool XmlBinding::Attributes(Frame& frame) {
 /// @param name without text: the pair has none.
 bool XmlBinding::AddPair(XMLElement& element, const XmlField& row, const XmlSlice& name, const XmlSlice& value) {
     auto* const pair = ixNew<ix_AttributeValuePair>(element.Class()->source, row.line);
-    if (pair == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (pair == nullptr) return m_reader.RefuseMemory();
     pair->mName = name.text != nullptr ? CopyOf(name) : nullptr;
     pair->mValue = CopyOf(value);
     const bool isGood = pair->mValue != nullptr && (pair->mName != nullptr || name.text == nullptr);
     if (isGood && XmlHooks::Append(element, row, pair)) return true;
     ixDelete(pair);
-    return m_reader.FailMemory() != XmlReader::kFailed;
+    return m_reader.RefuseMemory();
 }
 
 bool XmlBinding::AddDeclarations() {
@@ -417,7 +416,7 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
     const XmlSlice uri = m_reader.UriText(attribute.uri);
     const XmlSlice name = WholeName(attribute);
     m_piece.Cut(0);
-    if (!m_piece.Append(uri.text, uri.length) || !m_piece.Add('\0')) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (!m_piece.Append(uri.text, uri.length) || !m_piece.Add('\0')) return m_reader.RefuseMemory();
     return Keep(element,
                 {XmlRestKind::Attribute, frame.field != nullptr, frame.field, nullptr, 0, m_piece.Values(), name.text,
                  value.text},
@@ -459,7 +458,7 @@ bool XmlBinding::TakeValue(Frame& parent, const XmlField& row, XmlSlice text, co
     parent.lastEntry = nullptr;
     if (row.role == XmlRole::Words) return StoreWords(element, row, text);
     if (row.role != XmlRole::Texts) return StoreValue(element, row, text);
-    if (!XmlHooks::AppendText(element, row, text.text, text.length)) return m_reader.FailMemory() != XmlReader::kFailed;
+    if (!XmlHooks::AppendText(element, row, text.text, text.length)) return m_reader.RefuseMemory();
     parent.lastEntry = XmlFields::List(element, row)->LastNode()->key;
     if (inside != nullptr && element.Rest() != nullptr) element.Rest()->SetEntry(inside->kept, row, parent.lastEntry);
     return true;
@@ -472,7 +471,7 @@ bool XmlBinding::StoreWords(XMLElement& element, const XmlField& row, const XmlS
         const std::size_t begin = i;
         while (i < text.length && !XmlReader::IsSpace(text.text[i])) ++i;
         if (i != begin && !XmlHooks::AppendText(element, row, text.text + begin, i - begin)) {
-            return m_reader.FailMemory() != XmlReader::kFailed;
+            return m_reader.RefuseMemory();
         }
     }
     if (XmlFields::IsSet(element, row)) return true;
@@ -483,7 +482,7 @@ bool XmlBinding::StoreWords(XMLElement& element, const XmlField& row, const XmlS
 bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text) {
     if (row.kind == XmlFieldKind::Text) {
         char* const copy = CopyOf(text);
-        if (copy == nullptr) return m_reader.FailMemory() != XmlReader::kFailed;
+        if (copy == nullptr) return m_reader.RefuseMemory();
         __free(element.*row.member.text);
         element.*row.member.text = copy;
         return true;

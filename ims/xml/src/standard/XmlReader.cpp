@@ -2,6 +2,8 @@
 
 #include <climits>
 
+#include "XmlScan.h"
+
 namespace {
 
 /// What a byte can be in a name.
@@ -19,24 +21,6 @@ struct ByteKinds {
     }
 };
 constexpr ByteKinds kBytes;
-
-/// Bytes at which a scan stops: those given, what is no character, and what has to be looked at whether it is one.
-struct Stops {
-    bool at[256] = {};
-
-    template <std::size_t size>
-    constexpr explicit Stops(const char (&bytes)[size]) {
-        for (int i = 0; i < 256; ++i) at[i] = i >= 0x80 || (i < 0x20 && i != '\t' && i != '\n');
-        for (std::size_t i = 0; i < size; ++i) at[static_cast<unsigned char>(bytes[i])] = true;
-    }
-    char* Next(char* text) const {
-        while (!at[static_cast<unsigned char>(*text)]) ++text;
-        return text;
-    }
-};
-constexpr Stops kTextStops("<&]");
-constexpr Stops kDoubleQuoted("\"<&\t\n");
-constexpr Stops kSingleQuoted("'<&\t\n");
 
 struct Range {
     unsigned long first, last;
@@ -321,8 +305,8 @@ bool XmlReader::Begin(const char* text, std::size_t length) {
         text += 3;
         length -= 3;
     }
-    m_copy = length < INT_MAX ? static_cast<char*>(__malloc(length + 1)) : nullptr;
-    if (m_copy == nullptr) return FailMemory() != kFailed;
+    m_copy = length < INT_MAX ? static_cast<char*>(__malloc(length + 1 + kXmlScanPadding)) : nullptr;
+    if (m_copy == nullptr) return RefuseMemory();
     m_given = text;
     m_givenEnd = text + length;
     char* to = m_copy;
@@ -337,7 +321,7 @@ bool XmlReader::Begin(const char* text, std::size_t length) {
         *to++ = '\n';
         text += stop + 1 < end && stop[1] == '\n' ? 2 : 1;
     }
-    *to = '\0';
+    std::memset(to, 0, 1 + kXmlScanPadding);
     m_at = m_copy;
     m_end = to;
     const bool declares = IsAt("<?xml") && IsSpace(m_at[5]);
@@ -365,7 +349,7 @@ bool XmlReader::Intern(const XmlSlice& text, XmlUri& uri) {
         return true;
     }
     const unsigned number = m_uris.Intern(text);
-    if (number == XmlNameTable::kNoMemory) return FailMemory() != kFailed;
+    if (number == XmlNameTable::kNoMemory) return RefuseMemory();
     uri = static_cast<XmlUri>(kXmlNamespaceCount + number);
     return true;
 }
@@ -381,11 +365,11 @@ bool XmlReader::InternCopy(const char* text, std::size_t length, bool isRaw, Xml
 
 bool XmlReader::Bind(const XmlSlice& prefix, XmlUri uri) {
     const unsigned number = prefix.length == 0 ? 0 : m_prefixes.Intern(prefix) + 1;
-    if (number == XmlNameTable::kNoMemory + 1 && prefix.length != 0) return FailMemory() != kFailed;
+    if (number == XmlNameTable::kNoMemory + 1 && prefix.length != 0) return RefuseMemory();
     while (m_bound.Count() <= number) {
-        if (!m_bound.Add(0)) return FailMemory() != kFailed;
+        if (!m_bound.Add(0)) return RefuseMemory();
     }
-    if (!m_bindings.Add({number, m_bound[number], uri})) return FailMemory() != kFailed;
+    if (!m_bindings.Add({number, m_bound[number], uri})) return RefuseMemory();
     m_bound[number] = static_cast<unsigned>(m_bindings.Count());
     if (number == 0) m_default = uri;
     return true;
@@ -405,10 +389,10 @@ bool XmlReader::BindDeclaration(XmlReaderAttribute& attribute) {
     XmlSlice prefix = attribute.prefix.length != 0 ? attribute.local : XmlSlice();
     const bool isXml = Is(prefix, kXmlWord);
     if (Is(prefix, kXmlnsWord) || uri == ixUri(XmlNamespace::Xmlns) || isXml != (uri == ixUri(XmlNamespace::Xml))) {
-        return Fail("a prefix that must not be declared so", attribute.local.text) != kFailed;
+        return Refuse("a prefix that must not be declared so", attribute.local.text);
     }
     if (prefix.length != 0 && uri == 0) {
-        return Fail("a prefix is declared without namespace", attribute.local.text) != kFailed;
+        return Refuse("a prefix is declared without namespace", attribute.local.text);
     }
     return isXml || Bind(prefix, uri);
 }
@@ -420,7 +404,7 @@ bool XmlReader::UriOf(const XmlSlice& prefix, XmlUri& uri) {
         return true;
     }
     uri = ixUri(XmlNamespace::Xml);
-    return Is(prefix, kXmlWord) || Fail("a prefix is not declared", prefix.text) != kFailed;
+    return Is(prefix, kXmlWord) || Refuse("a prefix is not declared", prefix.text);
 }
 
 /// Gives the names of the start tag their namespaces.
@@ -455,7 +439,7 @@ bool XmlReader::HasTwins() {
                 const XmlReaderAttribute& other = m_attributes[j];
                 if (one.local.length == other.local.length && one.uri == other.uri &&
                     AreSame(one.local.text, other.local.text, one.local.length)) {
-                    return Fail("an attribute is given twice", one.local.text) == kFailed;
+                    return !Refuse("an attribute is given twice", one.local.text);
                 }
             }
         }
@@ -470,14 +454,14 @@ bool XmlReader::HasTwins() {
         const unsigned number = names.Intern(one.local);
         const bool isNew = number == last.Count();
         if (number == XmlNameTable::kNoMemory || !before.Add(isNew ? count : last[number])) {
-            return FailMemory() == kFailed;
+            return !RefuseMemory();
         }
         for (std::size_t j = before[i]; j != count; j = before[j]) {
             if (m_attributes[j].uri == one.uri) {
-                return Fail("an attribute is given twice", one.local.text) == kFailed;
+                return !Refuse("an attribute is given twice", one.local.text);
             }
         }
-        if (isNew && !last.Add(i)) return FailMemory() == kFailed;
+        if (isNew && !last.Add(i)) return !RefuseMemory();
         last[number] = i;
     }
     return false;
@@ -567,12 +551,12 @@ bool XmlReader::Attributes() {
             m_closesItself = true;
             return true;
         }
-        if (m_at == m_end) return Fail("the document ends within a tag", m_at) != kFailed;
-        if (!hasSpace) return Fail("no white space before an attribute", m_at) != kFailed;
-        if (!m_attributes.Add({})) return FailMemory() != kFailed;
+        if (m_at == m_end) return Refuse("the document ends within a tag", m_at);
+        if (!hasSpace) return Refuse("no white space before an attribute", m_at);
+        if (!m_attributes.Add({})) return RefuseMemory();
         XmlReaderAttribute& attribute = m_attributes.Last();
         if (!QName(attribute.prefix, attribute.local)) {
-            return Fail("not the name of an attribute", m_at) != kFailed;
+            return Refuse("not the name of an attribute", m_at);
         }
         attribute.declares =
             attribute.prefix.length != 0 ? Is(attribute.prefix, kXmlnsWord) : Is(attribute.local, kXmlnsWord);
@@ -582,19 +566,18 @@ bool XmlReader::Attributes() {
 
 bool XmlReader::Value(XmlReaderAttribute& attribute) {
     SkipSpaces();
-    if (*m_at != '=') return Fail("no \"=\" behind the name of an attribute", m_at) != kFailed;
+    if (*m_at != '=') return Refuse("no \"=\" behind the name of an attribute", m_at);
     ++m_at;
     SkipSpaces();
     const char quote = *m_at;
-    if (quote != '"' && quote != '\'') return Fail("an attribute without quotes", m_at) != kFailed;
-    const Stops& stops = quote == '"' ? kDoubleQuoted : kSingleQuoted;
+    if (quote != '"' && quote != '\'') return Refuse("an attribute without quotes", m_at);
     attribute.value.text = ++m_at;
     for (;;) {
-        m_at = stops.Next(m_at);
+        m_at = ixNextSpecial(m_at, quote);
         if (*m_at == quote) break;
         const bool wasRaw = attribute.isRaw;
         attribute.isRaw = true;
-        if (*m_at == '<') return Fail("\"<\" in an attribute", m_at) != kFailed;
+        if (*m_at == '<') return Refuse("\"<\" in an attribute", m_at);
         const bool isSpace = IsSpace(*m_at);
         if (*m_at != '&' && !isSpace) {
             attribute.isRaw = wasRaw;
@@ -602,7 +585,7 @@ bool XmlReader::Value(XmlReaderAttribute& attribute) {
             continue;
         }
         char* const behind = isSpace ? m_at + 1 : ReferenceEnd(m_at);
-        if (behind == nullptr) return Fail("a reference to no character", m_at) != kFailed;
+        if (behind == nullptr) return Refuse("a reference to no character", m_at);
         m_at = behind;
     }
     attribute.value.length = static_cast<std::size_t>(m_at - attribute.value.text);
@@ -612,9 +595,9 @@ bool XmlReader::Value(XmlReaderAttribute& attribute) {
 
 /// Behind the character at `m_at`, at which a scan has stopped. @return false: it is none.
 bool XmlReader::StepOver() {
-    if (m_at == m_end) return Fail("the document ends too early", m_at) != kFailed;
+    if (m_at == m_end) return Refuse("the document ends too early", m_at);
     const char* behind = m_at;
-    if (!IsXmlCharacter(CharacterAt(behind, m_end))) return Fail(kNoCharacter, m_at) != kFailed;
+    if (!IsXmlCharacter(CharacterAt(behind, m_end))) return Refuse(kNoCharacter, m_at);
     m_at += behind - m_at;
     return true;
 }
@@ -622,7 +605,7 @@ bool XmlReader::StepOver() {
 /// What is read over has to consist of characters, too.
 bool XmlReader::AreCharacters(const char* begin, const char* end) {
     const char* const valid = ValidEnd(begin, static_cast<std::size_t>(end - begin));
-    return valid == end || Fail(kNoCharacter, valid) != kFailed;
+    return valid == end || Refuse(kNoCharacter, valid);
 }
 
 char* XmlReader::ReferenceEnd(char* text) {
@@ -661,7 +644,7 @@ XmlReader::Event XmlReader::TextRun() {
     m_text.text = m_at;
     m_isRaw = false;
     for (;;) {
-        m_at = kTextStops.Next(m_at);
+        m_at = ixNextSpecial(m_at, ']');
         if (*m_at == '<') break;
         if (*m_at != ']' && *m_at != '&') {
             if (!StepOver()) return kFailed;
@@ -689,7 +672,7 @@ bool XmlReader::TextAlone(XmlSlice& text) {
         return true;
     }
     // All that has to be looked at twice is left to the other functions.
-    char* const end = kTextStops.Next(m_at);
+    char* const end = ixNextSpecial(m_at, ']');
     const Open& open = m_open.Last();
     if (*end != '<' || end[1] != '/' || static_cast<std::size_t>(m_end - end) < open.length + 3) return false;
     char* const behind = end + 2 + open.length;
@@ -702,10 +685,10 @@ bool XmlReader::TextAlone(XmlSlice& text) {
 
 bool XmlReader::CharacterData() {
     constexpr char kBegin[] = "<![CDATA[";
-    if (!IsAt(kBegin)) return Fail("markup that an element must not have", m_at) != kFailed;
+    if (!IsAt(kBegin)) return Refuse("markup that an element must not have", m_at);
     char* const begin = m_at + sizeof kBegin - 1;
     char* const end = std::strstr(begin, "]]>");
-    if (end == nullptr) return Fail("a CDATA section without end", m_at) != kFailed;
+    if (end == nullptr) return Refuse("a CDATA section without end", m_at);
     m_text = {begin, static_cast<std::size_t>(end - begin)};
     m_isRaw = false;
     m_at = end + 3;
@@ -714,7 +697,7 @@ bool XmlReader::CharacterData() {
 
 bool XmlReader::Comment() {
     char* const end = std::strstr(m_at + 4, "--");
-    if (end == nullptr || end[2] != '>') return Fail("a comment without end, or with \"--\"", m_at) != kFailed;
+    if (end == nullptr || end[2] != '>') return Refuse("a comment without end, or with \"--\"", m_at);
     const char* const begin = m_at;
     m_at = end + 3;
     return AreCharacters(begin, end);
@@ -729,7 +712,7 @@ bool XmlReader::Instruction() {
     const bool isReserved = IsInAnyCase(target, kXmlWord);
     char* const end = std::strstr(m_at, "?>");
     if (!isName || isReserved || end == nullptr || (end != m_at && !IsSpace(*m_at))) {
-        return Fail("not a processing instruction", begin) != kFailed;
+        return Refuse("not a processing instruction", begin);
     }
     m_at = end + 2;
     return AreCharacters(begin, end);
@@ -763,11 +746,11 @@ bool XmlReader::Declaration() {
     for (std::size_t i = 2; isGood && i < value.length; ++i) isGood = value.text[i] >= '0' && value.text[i] <= '9';
     if (isGood && Pseudo("encoding", value)) {
         const bool isKnown = IsInAnyCase(value, "utf-8") || IsInAnyCase(value, "us-ascii");
-        if (!isKnown) return Fail("another encoding than UTF-8", value.text) != kFailed;
+        if (!isKnown) return Refuse("another encoding than UTF-8", value.text);
     }
     if (isGood && Pseudo("standalone", value)) isGood = Is(value, "yes") || Is(value, "no");
     SkipSpaces();
-    if (!isGood || !IsAt("?>")) return Fail("not an XML declaration", m_at) != kFailed;
+    if (!isGood || !IsAt("?>")) return Refuse("not an XML declaration", m_at);
     m_at += 2;
     return true;
 }
@@ -778,7 +761,7 @@ bool XmlReader::DocType() {
     char* const begin = m_at;
     XmlSlice prefix;
     XmlSlice name;
-    if (!IsAt(kBegin) || m_hasRoot || m_hasDocType) return Fail("markup that is none", begin) != kFailed;
+    if (!IsAt(kBegin) || m_hasRoot || m_hasDocType) return Refuse("markup that is none", begin);
     m_hasDocType = true;
     m_at += sizeof kBegin - 1;
     bool isGood = IsSpace(*m_at);
@@ -805,8 +788,8 @@ bool XmlReader::DocType() {
         if (isGood) m_at = close + 1;
     }
     if (isGood) SkipSpaces();
-    if (isGood && *m_at == '[') return Fail("a document type with declarations", m_at) != kFailed;
-    if (!isGood || *m_at != '>') return Fail("not a document type", begin) != kFailed;
+    if (isGood && *m_at == '[') return Refuse("a document type with declarations", m_at);
+    if (!isGood || *m_at != '>') return Refuse("not a document type", begin);
     ++m_at;
     return AreCharacters(begin, m_at);
 }
@@ -822,11 +805,11 @@ bool XmlReader::Need(const XmlSlice& prefix, std::size_t outer) {
     // Without a binding there is no prefix of that name, and no default namespace.
     if (binding > outer || (binding == 0 && number != 0)) return true;
     while (m_asked.Count() <= number) {
-        if (!m_asked.Add(0)) return FailMemory() != kFailed;
+        if (!m_asked.Add(0)) return RefuseMemory();
     }
     if (m_asked[number] == m_pieces) return true;
     m_asked[number] = m_pieces;
-    return m_needed.Add(number) || FailMemory() != kFailed;
+    return m_needed.Add(number) || RefuseMemory();
 }
 
 /// Values may be names, too: whatever looks like a prefix counts.
@@ -896,5 +879,5 @@ bool XmlReader::Skip(XmlArray<char>& piece) {
         isGood = isGood && (m_needed[i] == 0 || PutDeclaration(piece, m_needed[i]));
     }
     isGood = isGood && piece.Append(nameEnd, static_cast<std::size_t>(m_at - nameEnd));
-    return isGood || FailMemory() != kFailed;
+    return isGood || RefuseMemory();
 }

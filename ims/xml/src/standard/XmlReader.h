@@ -184,6 +184,9 @@ class XmlReader {
 
     Event Fail(const char* text, const char* place);
     Event FailMemory() { return Fail("no memory", nullptr); }
+    /// The same for steps. @return false.
+    bool Refuse(const char* text, const char* place) { return Fail(text, place) != kFailed; }
+    bool RefuseMemory() { return FailMemory() != kFailed; }
     /// NULL: nothing has failed.
     const XmlProblem* Problem() const { return m_problem.text != nullptr ? &m_problem : nullptr; }
 

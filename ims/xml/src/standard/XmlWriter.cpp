@@ -189,6 +189,11 @@ bool XmlWriter::Declarations(std::size_t at) {
 // --- Names -----------------------------------------------------------------------------------------------------------
 
 bool XmlWriter::UriOf(const char* text, XmlUri& uri) {
+    // Attributes of one namespace often come in numbers.
+    if (m_lastUri != 0 && std::strcmp(text, m_lastUriText) == 0) {
+        uri = m_lastUri;
+        return true;
+    }
     const XmlSlice slice = SliceOf(text);
     for (std::size_t i = 0; i < kXmlNamespaceCount; ++i) {
         const XmlNamespaceInfo& known = kXmlNamespaces[i];
@@ -198,6 +203,8 @@ bool XmlWriter::UriOf(const char* text, XmlUri& uri) {
     }
     const unsigned number = m_uris.Intern(slice);
     uri = static_cast<XmlUri>(kXmlNamespaceCount + number);
+    m_lastUri = uri;
+    m_lastUriText = text;
     return number != XmlNameTable::kNoMemory || FailMemory();
 }
 
@@ -275,6 +282,13 @@ bool XmlWriter::Close(std::size_t content, std::size_t nameAt, std::size_t nameL
 bool XmlWriter::Escaped(const XmlSlice& text, bool isAttribute) {
     const char* from = text.text;
     const char* const end = from + text.length;
+    // Usually there is nothing to do, and the text is copied while it is looked at.
+    char* to = m_text.Room(text.length);
+    if (to == nullptr) return text.length == 0 || FailMemory();
+    for (; end - from >= 8 && ArePlain(from); from += 8, to += 8) std::memcpy(to, from, 8);
+    while (from < end && kEscapes.of[static_cast<unsigned char>(*from)] == kPlain) *to++ = *from++;
+    if (from == end) return true;
+    m_text.Cut(m_text.Count() - static_cast<std::size_t>(end - from));
     for (const char* at = from; at < end;) {
         while (end - at >= 8 && ArePlain(at)) at += 8;
         if (at == end) break;
@@ -398,6 +412,12 @@ const XmlRestItem* XmlWriter::Given(const XMLElement& element, const XmlField& r
 
 /// The text of a field that holds a value. @param isSet out: there is something to write.
 bool XmlWriter::ValueText(const XMLElement& element, const XmlField& row, XmlSlice& text, bool& isSet) {
+    if (row.kind == XmlFieldKind::Text && FirstOf(element) == nullptr) {
+        const char* const value = element.*row.member.text;
+        isSet = value != nullptr;
+        if (isSet) text = SliceOf(value);
+        return isSet || !row.mandatory;
+    }
     const XmlRestItem* const given = FirstOf(element) != nullptr ? Given(element, row) : nullptr;
     isSet = given != nullptr ? given->text != nullptr : XmlFields::IsSet(element, row);
     if (!isSet) return given != nullptr || !row.mandatory;
@@ -433,9 +453,19 @@ bool XmlWriter::Attributes(const XMLElement& element, const XmlFieldTable& table
         bool isSet = false;
         if (!ValueText(element, row, text, isSet)) return Fail("has no attribute", name, row.Name());
         if (!isSet) continue;
-        if (!Put(" ") || !Put(SliceOf(row.name)) || !Put("=\"") || !Escaped(text, true) || !Put("\"")) return false;
+        if (!Attribute(SliceOf(row.name), text)) return false;
     }
     return true;
+}
+
+bool XmlWriter::Attribute(const XmlSlice& name, const XmlSlice& value) {
+    char* const to = m_text.Room(name.length + 3);
+    if (to == nullptr) return FailMemory();
+    to[0] = ' ';
+    std::memcpy(to + 1, name.text, name.length);
+    to[name.length + 1] = '=';
+    to[name.length + 2] = '"';
+    return Escaped(value, true) && (m_text.Add('"') || FailMemory());
 }
 
 /// The pairs of a list. Declarations among them are not taken over: the writer makes its own.
@@ -453,7 +483,7 @@ bool XmlWriter::OtherAttributes(const XMLElement& element, const XmlField& row) 
             m_isChanged = true;  // Whether there are two is seen when the text is read.
         }
         const XmlSlice value = SliceOf(pair->mValue != nullptr ? pair->mValue : "");
-        if (!Put(" ") || !Put(name) || !Put("=\"") || !Escaped(value, true) || !Put("\"")) return false;
+        if (!Attribute(name, value)) return false;
     }
     return true;
 }

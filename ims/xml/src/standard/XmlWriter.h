@@ -50,6 +50,7 @@ class XmlWriter {
     bool Declarations(std::size_t at);
     bool Object(const XMLElement& element, const Name& name, const Around& around);
     bool Attributes(const XMLElement& element, const XmlFieldTable& table, const XmlSlice& name);
+    bool Attribute(const XmlSlice& name, const XmlSlice& value);
     bool OtherAttributes(const XMLElement& element, const XmlField& row);
     bool RestAttribute(const XmlRestItem& item);
     bool Children(const XMLElement& element, const XmlFieldTable& table, const XmlSlice& name, const Around& inside);
@@ -83,7 +84,9 @@ class XmlWriter {
     XmlUri m_main;
     XmlUri m_rootUri = 0;
     XmlArray<char> m_text;
-    XmlNameTable m_uris;          ///< Those that `XmlNamespace` does not have.
+    XmlNameTable m_uris;   ///< Those that `XmlNamespace` does not have.
+    XmlUri m_lastUri = 0;  ///< The one that was asked for last; 0: none.
+    const char* m_lastUriText = nullptr;
     XmlArray<Prefix> m_prefixes;  ///< By number of the namespace.
     XmlNameTable m_taken;         ///< Prefixes that stand for something.
     XmlArray<char*> m_made;       ///< Texts of prefixes that are made up.

@@ -1,0 +1,51 @@
+/// @file
+/// Finds the next byte of a text that has to be looked at: 16 bytes at a time where the machine can.
+#ifndef IX_XML_SCAN_H
+#define IX_XML_SCAN_H
+
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__SSE2__) && !defined(IMSXML_PLAIN_SCAN)
+#include <emmintrin.h>
+#elif defined(__ARM_NEON) && defined(__aarch64__) && !defined(IMSXML_PLAIN_SCAN)
+#include <arm_neon.h>
+#endif
+
+/// Readable bytes that have to stand behind a text that is searched.
+constexpr std::size_t kXmlScanPadding = 16;
+
+/// The first byte from `text` on that is "<", "&", `other`, a control character or not ASCII; there has to be one.
+inline char* ixNextSpecial(char* text, char other) {
+#if defined(__SSE2__) && !defined(IMSXML_PLAIN_SCAN)
+    const __m128i less = _mm_set1_epi8('<');
+    const __m128i ampersand = _mm_set1_epi8('&');
+    const __m128i third = _mm_set1_epi8(other);
+    const __m128i blank = _mm_set1_epi8(' ');
+    for (;; text += 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+        // Bytes from 0x80 on are negative.
+        const __m128i found = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, less), _mm_cmpeq_epi8(bytes, ampersand)),
+                                           _mm_or_si128(_mm_cmpeq_epi8(bytes, third), _mm_cmplt_epi8(bytes, blank)));
+        const auto mask = static_cast<unsigned>(_mm_movemask_epi8(found));
+        if (mask != 0) return text + __builtin_ctz(mask);
+    }
+#elif defined(__ARM_NEON) && defined(__aarch64__) && !defined(IMSXML_PLAIN_SCAN)
+    for (;; text += 16) {
+        const int8x16_t bytes = vld1q_s8(reinterpret_cast<const std::int8_t*>(text));
+        const uint8x16_t found = vorrq_u8(
+            vorrq_u8(vceqq_s8(bytes, vdupq_n_s8('<')), vceqq_s8(bytes, vdupq_n_s8('&'))),
+            vorrq_u8(vceqq_s8(bytes, vdupq_n_s8(static_cast<std::int8_t>(other))), vcltq_s8(bytes, vdupq_n_s8(' '))));
+        // Four bits of each byte.
+        const std::uint64_t mask = vget_lane_u64(vreinterpret_u64_u8(vshrn_n_u16(vreinterpretq_u16_u8(found), 4)), 0);
+        if (mask != 0) return text + (__builtin_ctzll(mask) >> 2);
+    }
+#else
+    for (;; ++text) {
+        const char letter = *text;
+        if (letter == '<' || letter == '&' || letter == other || static_cast<signed char>(letter) < ' ') return text;
+    }
+#endif
+}
+
+#endif
