@@ -452,16 +452,14 @@ bool XmlReader::HasTwins() {
     for (std::size_t i = 0; i < count; ++i) {
         const XmlReaderAttribute& one = m_attributes[i];
         const unsigned number = names.Intern(one.local);
-        const bool isNew = number == last.Count();
-        if (number == XmlNameTable::kNoMemory || !before.Add(isNew ? count : last[number])) {
-            return !RefuseMemory();
-        }
+        if (number == XmlNameTable::kNoMemory) return !RefuseMemory();
+        if (number >= last.Count() && !last.Add(count)) return !RefuseMemory();
+        if (!before.Add(last[number])) return !RefuseMemory();
         for (std::size_t j = before[i]; j != count; j = before[j]) {
             if (m_attributes[j].uri == one.uri) {
                 return !Refuse("an attribute is given twice", one.local.text);
             }
         }
-        if (isNew && !last.Add(i)) return !RefuseMemory();
         last[number] = i;
     }
     return false;

@@ -105,7 +105,7 @@ class StandardMarshaller : public XMLMarshaller {
         __free(m_pText);
         XmlWriter writer(m_schema);
         m_pText = writer.Write(root);
-        std::strcpy(m_reason, writer.Problem());
+        std::memcpy(m_reason, writer.Problem(), sizeof m_reason);
         return m_pText;
     }
     int Reserved() override { return 0; }
