@@ -187,11 +187,11 @@ unsigned* XmlNameTable::SlotOf(const XmlSlice& name) const {
 }
 
 bool XmlNameTable::Grow() {
-    const std::size_t size = m_size == 0 ? 32 : 4 * m_size;
-    auto* const slots = static_cast<unsigned*>(__malloc(size * sizeof(unsigned)));
+    const std::size_t size = m_size == 0 ? kFew : 4 * m_size;
+    auto* const slots = m_size == 0 ? m_few : static_cast<unsigned*>(__malloc(size * sizeof(unsigned)));
     if (slots == nullptr) return false;
     std::memset(slots, 0, size * sizeof(unsigned));
-    __free(m_slots);
+    if (m_size > kFew) __free(m_slots);
     m_slots = slots;
     m_size = size;
     for (std::size_t i = 0; i < m_names.Count(); ++i) *SlotOf(m_names[i]) = static_cast<unsigned>(i + 1);

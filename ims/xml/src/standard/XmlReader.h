@@ -21,12 +21,12 @@ struct XmlSlice {
     }
 };
 
-/// A growing array of plain values.
-template <class Value>
+/// A growing array of plain values, the first `few` in place.
+template <class Value, std::size_t few = 16>
 class XmlArray {
   public:
     XmlArray() = default;
-    ~XmlArray() { __free(m_values); }
+    ~XmlArray() { FreeBlock(); }
     XmlArray(const XmlArray&) = delete;
     XmlArray& operator=(const XmlArray&) = delete;
 
@@ -37,7 +37,7 @@ class XmlArray {
     void Cut(std::size_t count) { m_count = count; }
     /// @return false without memory.
     bool Add(const Value& value) {
-        if (m_count == m_size && !Reserve(m_size == 0 ? 16 : 2 * m_size)) return false;
+        if (m_count == m_size && !Grow(1)) return false;
         m_values[m_count++] = value;
         return true;
     }
@@ -49,14 +49,13 @@ class XmlArray {
     Value* Values() { return m_values; }
     /// Adds `count` values that the caller then sets; NULL without memory.
     Value* Room(std::size_t count) {
-        if (m_count + count > m_size && !Reserve(2 * m_size > m_count + count ? 2 * m_size : m_count + count + 16)) {
-            return nullptr;
-        }
+        if (m_count + count > m_size && !Grow(count)) return nullptr;
         m_count += count;
         return m_values + m_count - count;
     }
     /// The block, which passes to the caller; the array is empty then.
     Value* Release() {
+        static_assert(few == 0, "none of the values are in place");
         Value* const values = m_values;
         m_values = nullptr;
         m_count = 0;
@@ -65,26 +64,34 @@ class XmlArray {
     }
 
   private:
-    bool Reserve(std::size_t size) {
+    [[gnu::noinline]] bool Grow(std::size_t count) {
+        const std::size_t size = 2 * m_size > m_count + count ? 2 * m_size : m_count + count + 15;
         auto* const grown = static_cast<Value*>(__malloc(size * sizeof(Value)));
         if (grown == nullptr) return false;
         if (m_count != 0) std::memcpy(static_cast<void*>(grown), m_values, m_count * sizeof(Value));
-        __free(m_values);
+        FreeBlock();
         m_values = grown;
         m_size = size;
         return true;
     }
 
-    Value* m_values = nullptr;
+    void FreeBlock() {
+        if (m_size > few) __free(m_values);
+    }
+
+    alignas(Value) char m_few[few * sizeof(Value) + 1];
+    Value* m_values = few != 0 ? reinterpret_cast<Value*>(m_few) : nullptr;
     std::size_t m_count = 0;
-    std::size_t m_size = 0;
+    std::size_t m_size = few;
 };
 
 /// Names by their characters: numbers from 0 on. The texts stay with the caller.
 class XmlNameTable {
   public:
     XmlNameTable() = default;
-    ~XmlNameTable() { __free(m_slots); }
+    ~XmlNameTable() {
+        if (m_size > kFew) __free(m_slots);
+    }
     XmlNameTable(const XmlNameTable&) = delete;
     XmlNameTable& operator=(const XmlNameTable&) = delete;
 
@@ -102,6 +109,9 @@ class XmlNameTable {
     bool Grow();
 
     XmlArray<XmlSlice> m_names;
+    static constexpr std::size_t kFew = 32;
+
+    unsigned m_few[kFew];
     unsigned* m_slots = nullptr;  ///< A number and one; 0: free.
     std::size_t m_size = 0;
 };

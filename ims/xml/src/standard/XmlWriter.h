@@ -83,7 +83,7 @@ class XmlWriter {
     const XmlSchemaInfo& m_schema;
     XmlUri m_main;
     XmlUri m_rootUri = 0;
-    XmlArray<char> m_text;
+    XmlArray<char, 0> m_text;
     XmlNameTable m_uris;   ///< Those that `XmlNamespace` does not have.
     XmlUri m_lastUri = 0;  ///< The one that was asked for last; 0: none.
     const char* m_lastUriText = nullptr;
