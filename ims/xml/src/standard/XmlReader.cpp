@@ -534,10 +534,35 @@ XmlReader::Event XmlReader::Start() {
     return kStart;
 }
 
+/// An attribute as most are: ` name="value"` with nothing in it that has to be looked at again. @return false: nothing
+/// was read.
+bool XmlReader::PlainAttribute() {
+    char* const begin = m_at + 1;
+    if (*m_at != ' ' || (kBytes.of[static_cast<unsigned char>(*begin)] & kNameStart) == 0) return false;
+    char* end = begin + 1;
+    while ((kBytes.of[static_cast<unsigned char>(*end)] & kNameInside) != 0) ++end;
+    const char quote = end[0] == '=' ? end[1] : '\0';
+    if (quote != '"' && quote != '\'') return false;
+    char* const value = end + 2;
+    char* const close = ixNextSpecial(value, quote);
+    XmlReaderAttribute* const attribute = *close == quote ? m_attributes.Room(1) : nullptr;
+    if (attribute == nullptr) return false;
+    attribute->prefix = {begin, 0};
+    attribute->local = {begin, static_cast<std::size_t>(end - begin)};
+    attribute->value = {value, static_cast<std::size_t>(close - value)};
+    attribute->uri = 0;
+    attribute->isRaw = false;
+    attribute->declares = *begin == 'x' && Is(attribute->local, kXmlnsWord);
+    m_at = close + 1;
+    return true;
+}
+
 /// Up to the end of the tag.
 bool XmlReader::Attributes() {
     m_attributes.Cut(0);
     for (;;) {
+        while (PlainAttribute()) {
+        }
         const bool hasSpace = IsSpace(*m_at);
         SkipSpaces();
         if (*m_at == '>') {
@@ -553,9 +578,7 @@ bool XmlReader::Attributes() {
         if (!hasSpace) return Refuse("no white space before an attribute", m_at);
         if (!m_attributes.Add({})) return RefuseMemory();
         XmlReaderAttribute& attribute = m_attributes.Last();
-        if (!QName(attribute.prefix, attribute.local)) {
-            return Refuse("not the name of an attribute", m_at);
-        }
+        if (!QName(attribute.prefix, attribute.local)) return Refuse("not the name of an attribute", m_at);
         attribute.declares =
             attribute.prefix.length != 0 ? Is(attribute.prefix, kXmlnsWord) : Is(attribute.local, kXmlnsWord);
         if (!Value(attribute)) return false;

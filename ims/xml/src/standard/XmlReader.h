@@ -216,6 +216,7 @@ class XmlReader {
     Event End();
     Event TextRun();
     bool Attributes();
+    bool PlainAttribute();
     bool Value(XmlReaderAttribute& attribute);
     bool Resolve();
     bool HasTwins();
