@@ -10,6 +10,7 @@
 #include "XMLCommunicationDiversion.h"
 #include "XMLConferenceInfo.h"
 #include "XMLPresence.h"
+#include "XMLRcsTermsInfo.h"
 #include "XMLReginfo.h"
 #include "XMLResourceList.h"
 #include "XMLSchemaNameSpaceRetrieval.h"
@@ -408,6 +409,24 @@ TEST_F(StandardTest, AServiceIsSwitchedOffAndEverythingElseStays) {
     const std::size_t at = expected.find("\"true\"", expected.find("<communication-diversion "));
     expected.replace(at, 6, "\"false\"");
     EXPECT_EQ(standard.Write(root.get()), expected);
+}
+
+TEST_F(StandardTest, EveryCharacterIsEscapedWhereverItStands) {
+    const Standard standard(IX_XML_SCHEMA_RCS_TERMS_INFO);
+    const XmlOwned<> root(standard.Factory()->CreateRootElement());
+    auto& terms = static_cast<ix_rcs_terms_info&>(*root);
+    for (std::size_t length = 1; length < 40; ++length) {
+        for (std::size_t at = 0; at < length; ++at) {
+            for (const char* const character : {"&", "<", ">", "\"", "'", "\n", "\t", "\r", "\xC3\xA9", "\x7F"}) {
+                const std::string text =
+                    std::string(at, 'a') + character + std::string(length - at - 1, 'b') + "]]>" + character;
+                terms.setVersionValue(text.c_str());
+                terms.setTermsVersionValue(text.c_str());
+                const XmlOwned<> again = standard.Read(standard.Write(root.get()));
+                ASSERT_TRUE(XmlFields::Equal(root.get(), again.get())) << text << standard.Write(root.get());
+            }
+        }
+    }
 }
 
 TEST_F(StandardTest, NothingIsTooWideAndAThousandIsDeep) {

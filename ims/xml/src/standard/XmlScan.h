@@ -1,10 +1,11 @@
 /// @file
-/// Finds the next byte of a text that has to be looked at: 16 bytes at a time where the machine can.
+/// Looks at many bytes of a text at a time: 16 where the machine can.
 #ifndef IX_XML_SCAN_H
 #define IX_XML_SCAN_H
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #if defined(__SSE2__) && !defined(IMSXML_PLAIN_SCAN)
 #include <emmintrin.h>
@@ -45,6 +46,37 @@ inline char* ixNextSpecial(char* text, char other) {
         const char letter = *text;
         if (letter == '<' || letter == '&' || letter == other || static_cast<signed char>(letter) < ' ') return text;
     }
+#endif
+}
+
+/// True when eight bytes stand for themselves in texts and in attributes: ASCII without control characters, "&", "<",
+/// ">" and quotes.
+inline bool ixArePlain8(const char* text) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101U;
+    constexpr std::uint64_t kHighs = 0x8080808080808080U;
+    std::uint64_t word = 0;
+    std::memcpy(&word, text, sizeof word);
+    std::uint64_t special = word | (word - kOnes * 0x20);
+    constexpr unsigned char kSpecial[] = {'&', '<', '>', '"'};
+    for (const unsigned char letter : kSpecial) {
+        const std::uint64_t same = word ^ kOnes * letter;
+        special |= (same - kOnes) & ~same;
+    }
+    return (special & kHighs) == 0;
+}
+
+/// The same of sixteen bytes.
+inline bool ixArePlain16(const char* text) {
+#if defined(__SSE2__) && !defined(IMSXML_PLAIN_SCAN)
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+    // "<" and ">" differ in one bit.
+    const __m128i angles = _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8(2)), _mm_set1_epi8('>'));
+    const __m128i others =
+        _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('&')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')));
+    const __m128i found = _mm_or_si128(_mm_or_si128(angles, others), _mm_cmplt_epi8(bytes, _mm_set1_epi8(' ')));
+    return _mm_movemask_epi8(found) == 0;
+#else
+    return ixArePlain8(text) && ixArePlain8(text + 8);
 #endif
 }
 

@@ -1,10 +1,9 @@
 #include "XmlWriter.h"
 
-#include <initializer_list>
-
 #include "XmlElementSupport.h"
 #include "XmlFields.h"
 #include "XmlHooks.h"
+#include "XmlScan.h"
 
 namespace {
 
@@ -87,18 +86,24 @@ bool IsAbsent(const XMLElement& element, const XmlField& row) {
     }
 }
 
-/// True when eight characters stand for themselves, in attributes as well.
-bool ArePlain(const char* text) {
-    constexpr std::uint64_t kOnes = 0x0101010101010101U;
-    constexpr std::uint64_t kHighs = 0x8080808080808080U;
-    std::uint64_t word = 0;
-    std::memcpy(&word, text, sizeof word);
-    std::uint64_t special = word | (word - kOnes * 0x20);
-    for (const char letter : {'&', '<', '>', '"'}) {
-        const std::uint64_t same = word ^ kOnes * static_cast<unsigned char>(letter);
-        special |= (same - kOnes) & ~same;
+/// Copies a text as long as its bytes stand for themselves. @return how many do.
+std::size_t CopyPlain(char* to, const char* text, std::size_t length) {
+    std::size_t i = 0;
+    if (length >= 16) {
+        for (; i + 16 <= length && ixArePlain16(text + i); i += 16) std::memcpy(to + i, text + i, 16);
+        // The last sixteen overlap those before.
+        const std::size_t last = length - 16;
+        if (i > last && ixArePlain16(text + last)) {
+            std::memcpy(to + last, text + last, 16);
+            return length;
+        }
+    } else if (length >= 8 && ixArePlain8(text) && ixArePlain8(text + length - 8)) {
+        std::memcpy(to, text, 8);
+        std::memcpy(to + length - 8, text + length - 8, 8);
+        return length;
     }
-    return (special & kHighs) == 0;
+    for (; i < length && kEscapes.of[static_cast<unsigned char>(text[i])] == kPlain; ++i) to[i] = text[i];
+    return i;
 }
 
 bool IsNothing(const XmlSlice& text) { return text.text == nullptr; }
@@ -280,17 +285,16 @@ bool XmlWriter::Close(std::size_t content, std::size_t nameAt, std::size_t nameL
 }
 
 bool XmlWriter::Escaped(const XmlSlice& text, bool isAttribute) {
-    const char* from = text.text;
-    const char* const end = from + text.length;
     // Usually there is nothing to do, and the text is copied while it is looked at.
-    char* to = m_text.Room(text.length);
+    char* const to = m_text.Room(text.length);
     if (to == nullptr) return text.length == 0 || FailMemory();
-    for (; end - from >= 8 && ArePlain(from); from += 8, to += 8) std::memcpy(to, from, 8);
-    while (from < end && kEscapes.of[static_cast<unsigned char>(*from)] == kPlain) *to++ = *from++;
-    if (from == end) return true;
-    m_text.Cut(m_text.Count() - static_cast<std::size_t>(end - from));
+    const std::size_t plain = CopyPlain(to, text.text, text.length);
+    if (plain == text.length) return true;
+    m_text.Cut(m_text.Count() - (text.length - plain));
+    const char* from = text.text + plain;
+    const char* const end = text.text + text.length;
     for (const char* at = from; at < end;) {
-        while (end - at >= 8 && ArePlain(at)) at += 8;
+        while (end - at >= 16 && ixArePlain16(at)) at += 16;
         if (at == end) break;
         const Escape escape = kEscapes.of[static_cast<unsigned char>(*at)];
         if (escape == kPlain || (escape >= kInAttributes && !isAttribute)) {
