@@ -72,7 +72,8 @@ class IX_XML_EXPORT XMLMarshaller : public XmlHeapObject {
     XMLMarshaller& operator=(const XMLMarshaller&) = delete;
 
     /// @return the text, which belongs to the marshaller until its next `Marshall` or its end; NULL when the tree
-    /// cannot be written. A text longer than the writer's capacity (32767 characters) is cut; see `IsTruncated`.
+    /// cannot be written. In the device profile a text longer than the writer's capacity (32767 characters) is cut; see
+    /// `IsTruncated`.
     virtual char* Marshall(XMLElement* root) = 0;
     /// Does nothing; keeps its place in the table of virtual operations.
     virtual int Reserved() = 0;
@@ -92,8 +93,9 @@ class IX_XML_EXPORT XMLUnMarshaller : public XmlHeapObject {
     XMLUnMarshaller& operator=(const XMLUnMarshaller&) = delete;
 
     /// @return the root, which the caller frees with `XMLFactory::DeleteElement`; NULL when `text` is NULL, is not
-    /// complete and balanced XML in the tokenizer's sense, has another root, or when memory ran out. Memory that runs
-    /// out while an element or a text is stored does not fail the document, but leaves that one out.
+    /// complete and balanced XML in the tokenizer's sense (standard profile: well-formed), has another root, or when
+    /// memory ran out. Memory that runs out while an element or a text is stored does not fail the document of the device
+    /// profile, but leaves that one out.
     virtual XMLElement* UnMarshall(const char* text) = 0;
     /// The same for the text of a file. The file stays with the caller, who closes it.
     virtual XMLElement* UnMarshall(XMLFile* file) = 0;
@@ -135,7 +137,11 @@ class IX_XML_EXPORT XMLContext : public XmlHeapObject {
     /// namespace retrieval decodes), so that its prefixes are understood and written. Call it before the create
     /// operations. The binder stays with the caller and must live until both are created, and as long as the
     /// unmarshaller is used; NULL changes nothing.
-    /// @return 1 for the contexts of the supplementary services, 0 for all others, which do nothing.
+    ///
+    /// In the standard profile every schema takes one: its prefixes count where the document does not declare them itself,
+    /// which an element cut out of a document needs.
+    /// @return 1 for the contexts of the supplementary services and for those of the standard profile, 0 for all others,
+    /// which do nothing.
     virtual int SetNamespaceBinder(XMLObject* binder);
 
   protected:
