@@ -94,8 +94,8 @@ class IX_XML_EXPORT XMLUnMarshaller : public XmlHeapObject {
 
     /// @return the root, which the caller frees with `XMLFactory::DeleteElement`; NULL when `text` is NULL, is not
     /// complete and balanced XML in the tokenizer's sense (standard profile: well-formed), has another root, or when
-    /// memory ran out. Memory that runs out while an element or a text is stored does not fail the document of the device
-    /// profile, but leaves that one out.
+    /// memory ran out. Memory that runs out while an element or a text is stored does not fail the document of the
+    /// device profile, but leaves that one out.
     virtual XMLElement* UnMarshall(const char* text) = 0;
     /// The same for the text of a file. The file stays with the caller, who closes it.
     virtual XMLElement* UnMarshall(XMLFile* file) = 0;
@@ -138,10 +138,10 @@ class IX_XML_EXPORT XMLContext : public XmlHeapObject {
     /// operations. The binder stays with the caller and must live until both are created, and as long as the
     /// unmarshaller is used; NULL changes nothing.
     ///
-    /// In the standard profile every schema takes one: its prefixes count where the document does not declare them itself,
-    /// which an element cut out of a document needs.
-    /// @return 1 for the contexts of the supplementary services and for those of the standard profile, 0 for all others,
-    /// which do nothing.
+    /// In the standard profile every schema takes one: its prefixes count where the document does not declare them
+    /// itself, which an element cut out of a document needs.
+    /// @return 1 for the contexts of the supplementary services and for those of the standard profile, 0 for all
+    /// others, which do nothing.
     virtual int SetNamespaceBinder(XMLObject* binder);
 
   protected:

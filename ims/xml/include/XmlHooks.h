@@ -4,8 +4,7 @@
 /// - A text element's end tag stores its text, number, flag or word; its start tag says nothing yet.
 /// - A child is taken when it is of the row's class, in place of an earlier one, which is deleted; else refused.
 /// - An attribute is stored when it comes without a pair; a pair is refused under a name that has a row, and goes to
-/// the
-///   other attributes else.
+///   the other attributes else.
 /// - A missing text leaves the field as it is. What no row takes is answered as `XmlAnswers` says.
 #ifndef IX_XML_HOOKS_H
 #define IX_XML_HOOKS_H
