@@ -36,6 +36,9 @@ TEST(OutlineTest, EachShapeHasItsForm) {
          "  attributes\n    lang = \"en\"\n    (default) = null\n    (default) = null\n"},
         {R"("keywords":["one","two"],"entry":[null],"size":7,"busy":true)",
          "  keywords = \"one\"\n  keywords = \"two\"\n  entry = null\n  size = 7\n  busy = true\n"},
+        {R"("rest":[{"kind":"attribute","name":"v:a","text":"1"},{"kind":"element","at":"entry","text":"<x/>"},
+            {"kind":"namespace","in":"uri","namespace":"urn:u"}])",
+         "  rest\n    attribute v:a = \"1\"\n    element = \"<x/>\" at entry\n    namespace = \"urn:u\" in uri\n"},
         // What a terminal would obey.
         {R"("list":[],"title":"\u001b[2J\u007f\u009b\u202e\u2028\u2066\u20ac\u00e9\u2065\"")",
          "  title = \"\\u001b[2J\\u007f\\u009b\\u202e\\u2028\\u2066\u20ac\u00e9\u2065\\\"\"\n"},

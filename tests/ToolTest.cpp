@@ -260,6 +260,35 @@ TEST_F(ToolTest, NamespacesPrintsDeclarations) {
     EXPECT_EQ(Run("namespaces lines").output, "p\tu x y\n");
 }
 
+TEST_F(ToolTest, TheStandardProfileKeepsEverythingAndSaysWhatIsWrong) {
+    const std::string document =
+        "<!DOCTYPE isComposing>\n<c:isComposing xmlns:c='urn:ietf:params:xml:ns:im-iscomposing' v='1'>"
+        "<c:state>a<![CDATA[&]]></c:state></c:isComposing>";
+    Write("typing", document);
+    EXPECT_EQ(Run("convert typing").status, 1);
+    const Result converted = Run("convert --profile standard typing");
+    EXPECT_EQ(converted.output,
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<isComposing "
+              "xmlns=\"urn:ietf:params:xml:ns:im-iscomposing\" v=\"1\"><state>a&amp;</state></isComposing>");
+    EXPECT_EQ(converted.errors, "");
+    EXPECT_NE(Run("decode --profile standard typing").output.find("\"kind\": \"attribute\""), std::string::npos);
+    EXPECT_EQ(Run("namespaces --profile standard typing").output, "c\turn:ietf:params:xml:ns:im-iscomposing\n");
+    EXPECT_EQ(Run("validate typing").errors, "typing:2:64: \"v\" is not an attribute of the standard\n");
+    EXPECT_EQ(Run("validate typing").status, 1);
+    Write("valid", "<isComposing xmlns='urn:ietf:params:xml:ns:im-iscomposing'><state>idle</state></isComposing>");
+    EXPECT_EQ(Run("validate valid").output, "valid: valid\n");
+    Write("broken", "<isComposing><state></isComposing>");
+    EXPECT_EQ(Run("convert --profile standard broken").errors, "broken:1:21: not the end tag of the open element\n");
+    EXPECT_EQ(Run("validate broken").status, 1);
+    Write("other", "<!-- <a> --><other/>");
+    EXPECT_EQ(Run("validate other").errors.rfind("other:1:13: root element <other> is of no schema", 0), 0U);
+    Write("early", "no document");
+    EXPECT_EQ(Run("validate early").errors, "early:1:1: text outside of the root element\n");
+    Write("indication", "<3gpp-ims/>");
+    EXPECT_EQ(Run("convert --profile standard indication").errors,
+              "indication: schema call-waiting-indication has no standard profile\n");
+}
+
 TEST_F(ToolTest, SchemasPrintsEverySchema) {
     const Result result = Run("schemas");
     EXPECT_EQ(result.status, 0);

@@ -21,6 +21,9 @@ constexpr std::string_view kIdentities[] = {"type", "id", "name", "uri", "entity
 /// Name of the lists whose entries have no name of their own.
 constexpr char kAny[] = "any";
 
+/// Name of what no field holds.
+constexpr char kRest[] = "rest";
+
 bool IsString(const Json& object, const char* key) {
     const auto field = object.find(key);
     return field != object.end() && field->is_string();
@@ -115,7 +118,12 @@ void Outline::AddField(const std::string& name, const Json& value, std::size_t d
 }
 
 void Outline::AddList(const std::string& name, const Json& list, std::size_t depth) {
-    // Attribute pairs are the only objects without a class.
+    if (name == kRest) {
+        AddLine(Styled(kName, name), depth);
+        for (const Json& entry : list) AddRest(entry, depth + 1);
+        return;
+    }
+    // Attribute pairs are the only other objects without a class.
     const bool hasAttributes = std::any_of(
         list.begin(), list.end(), [](const Json& entry) { return entry.is_object() && !entry.contains("class"); });
     if (hasAttributes) AddLine(Styled(kName, name), depth);
@@ -136,6 +144,17 @@ void Outline::AddAttribute(const Json& pair, std::size_t depth) {
     AddLine(
         Assignment(isNamed ? pair["name"].get<std::string>() : "(default)", pair.is_object() ? pair["value"] : pair),
         depth);
+}
+
+/// Kind, name, text, and where it is: `attribute xml:lang = "en" in display-name`.
+void Outline::AddRest(const Json& entry, std::size_t depth) {
+    std::string line = Styled(kName, Unquoted(entry["kind"]));
+    if (entry.contains("name")) line += ' ' + Styled(kName, Unquoted(entry["name"]));
+    line += " = " + Value(entry.contains("text") ? entry["text"] : entry["namespace"]);
+    for (const char* const place : {"at", "in"}) {
+        if (entry.contains(place)) line += Styled(kAside, std::string(" ") + place + ' ' + Unquoted(entry[place]));
+    }
+    AddLine(line, depth);
 }
 
 void Outline::AddLine(const std::string& line, std::size_t depth) {

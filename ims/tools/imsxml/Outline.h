@@ -32,6 +32,7 @@ class Outline {
     void AddElement(const std::string& name, const Json& element, std::size_t depth);
     void AddField(const std::string& name, const Json& value, std::size_t depth);
     void AddList(const std::string& name, const Json& list, std::size_t depth);
+    void AddRest(const Json& entry, std::size_t depth);
     void AddAttribute(const Json& pair, std::size_t depth);
     void AddLine(const std::string& line, std::size_t depth);
     std::string Assignment(const std::string& name, const Json& value);

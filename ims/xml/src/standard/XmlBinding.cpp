@@ -404,7 +404,7 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
         if (place.row != nullptr && &description != &ix_empty_element_type::kClass &&
             description.parent != &ix_empty_element_type::kClass) {
             frame.seen |= place.Bit();
-            return StoreValue(element, *place.row, value);
+            return StoreValue(element, *place.row, value, attribute.local.text);
         }
         const XmlField* const others = XmlHooks::RowOf(description, XmlRole::Attributes);
         if (others != nullptr) {
@@ -412,7 +412,7 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
         }
     }
     if (m_pFindings != nullptr && attribute.uri == 0 && !IsAlso(frame, attribute.local))
-        Find("is not an attribute of the standard", attribute.local);
+        Find("is not an attribute of the standard", attribute.local, attribute.local.text);
     const XmlSlice uri = m_reader.UriText(attribute.uri);
     const XmlSlice name = WholeName(attribute);
     m_piece.Cut(0);
@@ -479,7 +479,7 @@ bool XmlBinding::StoreWords(XMLElement& element, const XmlField& row, const XmlS
 }
 
 /// What does not fit leaves the field as it is.
-bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text) {
+bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text, const char* place) {
     if (row.kind == XmlFieldKind::Text) {
         char* const copy = CopyOf(text);
         if (copy == nullptr) return m_reader.RefuseMemory();
@@ -495,7 +495,7 @@ bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlS
         Find(row.kind == XmlFieldKind::Flag          ? "is neither true nor false"
              : row.kind == XmlFieldKind::Enumeration ? "is not a word of the standard"
                                                      : "is not a number that fits",
-             text);
+             text, place);
     }
     return Keep(element, {XmlRestKind::Value, false, &row, nullptr, XmlFields::Number(element, row), "", "", text.text},
                 0, text.length);

@@ -78,15 +78,16 @@ class XmlBinding {
     bool CloseObject(Frame& frame);
     bool CloseField(Frame& frame);
     bool TakeValue(Frame& parent, const XmlField& row, XmlSlice text, const Frame* inside);
-    bool StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text);
+    bool StoreValue(XMLElement& element, const XmlField& row, const XmlSlice& text, const char* place = nullptr);
     bool StoreWords(XMLElement& element, const XmlField& row, const XmlSlice& text);
     static bool IsAlso(const Frame& frame, const XmlSlice& name);
     void CheckOrder(Frame& frame, const Place& place, const XmlSlice& name) const;
     bool TakesNamespace(XmlUri uri, XmlUri expected, XmlUri proper) const;
     Place FindElement(const XmlClass& description, XmlName name) const;
     static Place FindAttribute(const XmlClass& description, XmlName name);
-    void Find(const char* what, const XmlSlice& name) const {
-        if (m_pFindings != nullptr) m_pFindings->Add(m_reader.Place(), what, name);
+    /// @param place NULL: where the last event begins.
+    void Find(const char* what, const XmlSlice& name, const char* place = nullptr) const {
+        if (m_pFindings != nullptr) m_pFindings->Add(place != nullptr ? place : m_reader.Place(), what, name);
     }
 
     const XmlSchemaInfo& m_schema;
