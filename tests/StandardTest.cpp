@@ -357,6 +357,26 @@ TEST_F(StandardTest, ApplicationsAddToARest) {
     EXPECT_EQ(standard.Write(root.get()), begin + " version=\"1\" state=\"full\"/>");
 }
 
+TEST_F(StandardTest, ComparisonCountsRests) {
+    const Standard standard(IX_XML_SCHEMA_IS_COMPOSING);
+    // The same document, then others that differ in one point each.
+    const char* const contents[] = {
+        "<state>a</state><x/><y/><refresh>1</refresh><x/>", "<state>a</state><x/><refresh>1</refresh><x/><y/>",
+        "<state>a</state><x/><y/><refresh>1</refresh><z/>", "<state>a</state><y/><x/><refresh>1</refresh><x/>",
+        "<state>a</state><x/><y/><refresh>1</refresh>",     "<state>a</state><x/><y/><refresh>1</refresh>x",
+        "<x/><state>a</state><y/><refresh>1</refresh><x/>", "<state>a</state><refresh>1</refresh>"};
+    std::vector<XmlOwned<>> trees;
+    for (const char* const content : contents) {
+        trees.push_back(standard.Read("<isComposing xmlns='urn:ietf:params:xml:ns:im-iscomposing'>" +
+                                      std::string(content) + "</isComposing>"));
+    }
+    for (std::size_t i = 0; i < trees.size(); ++i) {
+        for (std::size_t j = 0; j < trees.size(); ++j) {
+            EXPECT_EQ(XmlFields::Equal(trees[i].get(), trees[j].get()), i == j) << i << ' ' << j;
+        }
+    }
+}
+
 TEST_F(StandardTest, WhatTheStandardDemandsIsNamed) {
     const Standard standard(IX_XML_SCHEMA_REGINFO);
     const XmlOwned<> root(standard.Factory()->CreateRootElement());
@@ -466,6 +486,8 @@ TEST_F(StandardTest, LengthsCountInBothProfiles) {
         EXPECT_EQ(XmlOwned<>(unMarshaller->UnMarshall(text, 28)), nullptr);
         EXPECT_EQ(XmlOwned<>(unMarshaller->UnMarshall(nullptr, 0)), nullptr);
     }
+    EXPECT_EQ(XMLFactory::Validate(IX_XML_SCHEMA_RCS_TERMS_INFO, nullptr, 0, nullptr, nullptr), -1);
+    EXPECT_EQ(XMLFactory::Validate(IX_XML_SCHEMA_RESERVED_6, text, 29, nullptr, nullptr), -1);
     EXPECT_EQ(XMLFactory::newInstance(IX_XML_SCHEMA_CALL_WAITING_INDICATION, IX_XML_PROFILE_STANDARD), nullptr);
     EXPECT_EQ(XMLFactory::newInstance(IX_XML_SCHEMA_REGINFO, static_cast<eXMLProfile>(2)), nullptr);
 }

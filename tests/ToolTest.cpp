@@ -402,10 +402,17 @@ TEST_F(ToolTest, WrongUsage) {
 }
 
 TEST_F(ToolTest, HelpAndVersion) {
-    for (const char* arguments : {"--help", "decode --help", "convert --help", "namespaces --help", "schemas --help"}) {
+    const std::pair<const char*, const char*> table[] = {{"--help", "Exit status"},
+                                                         {"decode --help", "one object per file"},
+                                                         {"convert --help", "without a line feed"},
+                                                         {"validate --help", "FILE: valid"},
+                                                         {"namespaces --help", "one line per declaration"},
+                                                         {"schemas --help", "one line per schema"}};
+    for (const auto& [arguments, phrase] : table) {
         const Result result = Run(arguments);
         EXPECT_EQ(result.status, 0) << arguments;
         EXPECT_NE(result.output.find("Example"), std::string::npos) << arguments;
+        EXPECT_NE(result.output.find(phrase), std::string::npos) << arguments;
     }
     EXPECT_EQ(Run("--version").output, "imsxml 0.1.0\n");
 }
