@@ -52,12 +52,12 @@ TEST_F(DplTest, OnlyTheLevelsOfTheMaskReachTheSink) {
     const auto sink = [](const ixDplHostLogLine& line, void* context) {
         static_cast<std::vector<int>*>(context)->push_back(line.level);
     };
-    ixDplHostSetLogSink(sink, &levels, (1U << 2) | (1U << 4));
+    ixDplHostSetLogSink(sink, &levels, 1U | (1U << 2) | (1U << 31));
     for (int level = -1; level < 40; ++level) ixLogModuleEventSimple(level, 1, "file", 1, "text", 0, 0, 0);
-    EXPECT_EQ(levels, (std::vector<int>{2, 4}));
+    EXPECT_EQ(levels, (std::vector<int>{0, 2, 31}));
     ixDplHostSetLogSink(nullptr, nullptr, kIxDplHostAllLevels);
     ixLogModuleEventSimple(2, 1, "file", 1, "text", 0, 0, 0);
-    EXPECT_EQ(levels.size(), 2U);
+    EXPECT_EQ(levels.size(), 3U);
 }
 
 TEST_F(DplTest, TheLedgerTellsWhatIsAliveAndWhatWasRemovedWrongly) {

@@ -443,6 +443,7 @@ TEST_F(ToolTest, EachFaultHasItsMessageAndPlace) {
         {"\n</a>", "2:1: end tag </a>, but no element is open"},
         {"<a>\xc3\xa9<b x=y/></a>", "1:5: attribute \"x\" of <b> has a value without quotes"},
         {"<a><b x=\"1\" y/></a>", "1:4: attribute \"y\" of <b> has no \"=\""},
+        {"<a><b x= \"1\" y/></a>", "1:4: attribute \"y\" of <b> has no \"=\""},
         {"<b x=\"y/></b>", "1:1: attribute \"x\" of <b> has no closing quote before the next \">\""},
         {"<b \"y\"/>", "1:1: attribute without a name in <b>"},
         {"<a\n<b></b></a>", "1:1: start tag <a> has no \">\" before the next \"<\""},
