@@ -236,7 +236,7 @@ bool XmlBinding::KeepPiece(Frame& frame) {
 XMLElement* XmlBinding::Read() {
     bool isGood = Root();
     while (isGood) {
-        switch (m_reader.Next(m_frames.Count() != 0 && m_frames.Last().takesText)) {
+        switch (m_reader.Next(WantsBlanks())) {
             case XmlReader::kStart:
                 isGood = m_pDeclarations != nullptr ? AddDeclarations() : Start();
                 break;
@@ -280,6 +280,7 @@ bool XmlBinding::Root() {
 
 bool XmlBinding::Start() {
     Frame& top = m_frames.Last();
+    if (!KeepText(top)) return false;
     const XmlSlice& local = m_reader.Local();
     const XmlName name(local.text, local.length);
     const bool isKnown = top.field == nullptr && name.IsKnown() && top.element->Class() != nullptr;
@@ -427,18 +428,24 @@ bool XmlBinding::Text() {
     Frame& top = m_frames.Last();
     XmlSlice text = m_reader.Text();
     if (m_reader.IsRaw()) XmlReader::Decode(text, false);
-    if (top.takesText) {
-        if (top.text.text == nullptr) {
-            top.text = text;
-        } else {
-            // What stood between two runs has been read: the second one moves behind the first.
-            std::memmove(top.text.text + top.text.length, text.text, text.length);
-            top.text.length += text.length;
-        }
-        return true;
+    if (top.text.text == nullptr) {
+        top.text = text;
+    } else {
+        // What stood between two runs has been read: the second one moves behind the first.
+        std::memmove(top.text.text + top.text.length, text.text, text.length);
+        top.text.length += text.length;
     }
+    return true;
+}
+
+/// Keeps the text before a child, or before the end, of an element that has no place for it.
+bool XmlBinding::KeepText(Frame& frame) {
+    const XmlSlice text = frame.text;
+    if (frame.takesText || text.text == nullptr) return true;
+    frame.text = {};
+    if (XmlReader::IsBlank(text)) return true;
     Find("is a text between elements", text);
-    return Keep(*top.element, {XmlRestKind::Text, false, top.lastField, top.lastEntry, 0, "", "", text.text}, 0,
+    return Keep(*frame.element, {XmlRestKind::Text, false, frame.lastField, frame.lastEntry, 0, "", "", text.text}, 0,
                 text.length);
 }
 
@@ -504,6 +511,7 @@ bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlS
 bool XmlBinding::CloseObject(Frame& frame) {
     XMLElement& element = *frame.element;
     const XmlClass* const description = element.Class();
+    if (!KeepText(frame)) return false;
     if (description == nullptr) return true;
     const XmlField* const ownText = description->OwnText();
     if (ownText != nullptr) {

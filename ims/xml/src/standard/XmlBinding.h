@@ -65,6 +65,13 @@ class XmlBinding {
     bool Root();
     bool Start();
     bool Text();
+    bool KeepText(Frame& frame);
+    /// White space counts within a text only.
+    bool WantsBlanks() const {
+        if (m_frames.Count() == 0) return false;
+        const Frame& top = m_frames[m_frames.Count() - 1];
+        return top.takesText || top.text.text != nullptr;
+    }
     bool End();
     bool AddPair(XMLElement& element, const XmlField& row, const XmlSlice& name, const XmlSlice& value);
     bool AddDeclarations();

@@ -543,7 +543,9 @@ bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlS
                 if (words.Count() != 0 && !words.Add(' ')) return FailMemory();
                 if (!words.Append(word, std::strlen(word))) return FailMemory();
             }
-            const XmlSlice text = given != nullptr ? SliceOf(given->text) : XmlSlice{words.Values(), words.Count()};
+            const XmlSlice text = given != nullptr
+                                      ? SliceOf(given->text)
+                                      : XmlSlice{words.Count() != 0 ? words.Values() : nullptr, words.Count()};
             if (!IsNothing(text) && !Value(row, run, text, inside)) return false;
             return run == nullptr || Behind(run, inside);
         }
