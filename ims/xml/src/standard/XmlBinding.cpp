@@ -64,8 +64,8 @@ XmlSlice WholeName(const XmlReaderAttribute& attribute) {
 
 XmlNamespace ixMainNamespace(const XmlSchemaInfo& schema) {
     const char* const uri = schema.standardUri != nullptr ? schema.standardUri : schema.namespaceUri;
-    std::size_t i = 0;
-    while (i + 1 < kXmlNamespaceCount && std::strcmp(kXmlNamespaces[i].uri, uri) != 0) ++i;
+    std::size_t i = kXmlNamespaceCount - 1;
+    while (i != 0 && std::strcmp(kXmlNamespaces[i].uri, uri) != 0) --i;
     return static_cast<XmlNamespace>(i);
 }
 
@@ -133,7 +133,7 @@ void ixStoreNumber(XMLElement& element, const XmlField& row, long long value) {
 
 // --- Rows ------------------------------------------------------------------------------------------------------------
 
-XmlBinding::Place XmlBinding::FindElement(const XmlClass& description, XmlName name) const {
+XmlBinding::Place XmlBinding::FindElement(const XmlClass& description, XmlName name) {
     const auto isElement = [](const XmlField& row) {
         return row.role == XmlRole::Element || row.role == XmlRole::Words || row.role == XmlRole::Texts ||
                row.role == XmlRole::Child || row.role == XmlRole::Children;
@@ -225,6 +225,9 @@ bool XmlBinding::KeepPiece(Frame& frame) {
     m_piece.Cut(0);
     if (!m_reader.Skip(m_piece)) return false;
     const bool isInside = frame.field != nullptr;
+    // Behind the element's own text, if there was any before it.
+    const bool isBehindText = frame.takesText && !isInside && frame.text.text != nullptr && frame.lastField == nullptr;
+    if (isBehindText) frame.lastField = frame.element->Class()->OwnText();
     return Keep(*frame.element,
                 {XmlRestKind::Element, isInside, isInside ? frame.field : frame.lastField,
                  isInside ? nullptr : frame.lastEntry, 0, "", "", m_piece.Values()},
@@ -408,9 +411,7 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
             return StoreValue(element, *place.row, value, attribute.local.text);
         }
         const XmlField* const others = XmlHooks::RowOf(description, XmlRole::Attributes);
-        if (others != nullptr) {
-            return AddPair(element, *others, attribute.local, value);
-        }
+        if (others != nullptr) return AddPair(element, *others, attribute.local, value);
     }
     if (m_pFindings != nullptr && attribute.uri == 0 && !IsAlso(frame, attribute.local))
         Find("is not an attribute of the standard", attribute.local, attribute.local.text);

@@ -90,7 +90,7 @@ class XmlBinding {
     static bool IsAlso(const Frame& frame, const XmlSlice& name);
     void CheckOrder(Frame& frame, const Place& place, const XmlSlice& name) const;
     bool TakesNamespace(XmlUri uri, XmlUri expected, XmlUri proper) const;
-    Place FindElement(const XmlClass& description, XmlName name) const;
+    static Place FindElement(const XmlClass& description, XmlName name);
     static Place FindAttribute(const XmlClass& description, XmlName name);
     /// @param place NULL: where the last event begins.
     void Find(const char* what, const XmlSlice& name, const char* place = nullptr) const {

@@ -7,7 +7,7 @@
 namespace {
 
 /// What a byte can be in a name.
-enum : unsigned char { kNameStart = 1, kNameInside = 2, kSpaceByte = 4 };
+enum : unsigned char { kNameStart = 1, kNameInside = 2 };
 
 struct ByteKinds {
     unsigned char of[256] = {};
@@ -213,6 +213,23 @@ unsigned XmlNameTable::Find(const XmlSlice& name) const {
     return number != 0 ? number - 1 : kNone;
 }
 
+bool XmlUriTable::Intern(const XmlSlice& text, XmlUri& uri) {
+    for (std::size_t i = 0; i < kXmlNamespaceCount; ++i) {
+        const XmlNamespaceInfo& known = kXmlNamespaces[i];
+        if (known.length != text.length || std::memcmp(known.uri, text.text, text.length) != 0) continue;
+        uri = static_cast<XmlUri>(i);
+        return true;
+    }
+    const unsigned number = m_others.Intern(text);
+    uri = static_cast<XmlUri>(kXmlNamespaceCount + number);
+    return number != XmlNameTable::kNoMemory;
+}
+
+XmlSlice XmlUriTable::Text(XmlUri uri) const {
+    if (uri >= kXmlNamespaceCount) return m_others[uri - kXmlNamespaceCount];
+    return {const_cast<char*>(kXmlNamespaces[uri].uri), kXmlNamespaces[uri].length};
+}
+
 XmlReader::~XmlReader() {
     for (std::size_t i = 0; i < m_kept.Count(); ++i) __free(m_kept[i]);
     __free(m_copy);
@@ -264,11 +281,6 @@ void XmlReader::Decode(XmlSlice& text, bool isAttribute) {
         }
     }
     text.length = static_cast<std::size_t>(to - text.text);
-}
-
-XmlSlice XmlReader::UriText(XmlUri uri) const {
-    if (uri >= kXmlNamespaceCount) return m_uris[uri - kXmlNamespaceCount];
-    return {const_cast<char*>(kXmlNamespaces[uri].uri), kXmlNamespaces[uri].length};
 }
 
 void XmlReader::Locate(const char* place, int& line, int& column) {
@@ -341,26 +353,13 @@ char* XmlReader::Keep(const char* text, std::size_t length) {
     return copy;
 }
 
-bool XmlReader::Intern(const XmlSlice& text, XmlUri& uri) {
-    for (std::size_t i = 0; i < kXmlNamespaceCount; ++i) {
-        const XmlNamespaceInfo& known = kXmlNamespaces[i];
-        if (known.length != text.length || std::memcmp(known.uri, text.text, text.length) != 0) continue;
-        uri = static_cast<XmlUri>(i);
-        return true;
-    }
-    const unsigned number = m_uris.Intern(text);
-    if (number == XmlNameTable::kNoMemory) return RefuseMemory();
-    uri = static_cast<XmlUri>(kXmlNamespaceCount + number);
-    return true;
-}
-
-/// The same for a text that is not in the copy, or not as it is.
+/// The number of a namespace whose text is not in the copy, or not as it is.
 bool XmlReader::InternCopy(const char* text, std::size_t length, bool isRaw, XmlUri& uri) {
     XmlSlice kept = {Keep(text, length), length};
     if (kept.text == nullptr) return false;
     kept.text[length] = '\0';
     if (isRaw) Decode(kept, true);
-    return Intern(kept, uri);
+    return m_uris.Intern(kept, uri) || RefuseMemory();
 }
 
 bool XmlReader::Bind(const XmlSlice& prefix, XmlUri uri) {
@@ -384,7 +383,7 @@ bool XmlReader::Declare(const char* prefix, std::size_t prefixLength, const char
 bool XmlReader::BindDeclaration(XmlReaderAttribute& attribute) {
     XmlUri uri = 0;
     const bool isKnown = attribute.isRaw ? InternCopy(attribute.value.text, attribute.value.length, true, uri)
-                                         : Intern(attribute.value, uri);
+                                         : m_uris.Intern(attribute.value, uri) || RefuseMemory();
     if (!isKnown) return false;
     XmlSlice prefix = attribute.prefix.length != 0 ? attribute.local : XmlSlice();
     const bool isXml = Is(prefix, kXmlWord);

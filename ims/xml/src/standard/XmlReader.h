@@ -120,6 +120,18 @@ class XmlNameTable {
 using XmlUri = unsigned;
 constexpr XmlUri ixUri(XmlNamespace known) { return static_cast<XmlUri>(known); }
 
+/// The namespaces of a document by their numbers. The texts of those that `XmlNamespace` does not have stay with the
+/// caller.
+class XmlUriTable {
+  public:
+    /// @return false without memory.
+    bool Intern(const XmlSlice& text, XmlUri& uri);
+    XmlSlice Text(XmlUri uri) const;
+
+  private:
+    XmlNameTable m_others;
+};
+
 /// An attribute of a start tag.
 struct XmlReaderAttribute {
     XmlSlice prefix;
@@ -186,7 +198,7 @@ class XmlReader {
     static const char* ValidEnd(const char* text, std::size_t length);
 
     /// The characters of a namespace of this document.
-    XmlSlice UriText(XmlUri uri) const;
+    XmlSlice UriText(XmlUri uri) const { return m_uris.Text(uri); }
     /// Where the last event begins.
     const char* Place() const { return m_place; }
     /// Line and column of a place, from 1 on. Places that follow each other are found in one pass.
@@ -222,7 +234,6 @@ class XmlReader {
     bool HasTwins();
     bool BindDeclaration(XmlReaderAttribute& attribute);
     bool Bind(const XmlSlice& prefix, XmlUri uri);
-    bool Intern(const XmlSlice& text, XmlUri& uri);
     bool InternCopy(const char* text, std::size_t length, bool isRaw, XmlUri& uri);
     char* Keep(const char* text, std::size_t length);
     void Close();
@@ -254,7 +265,7 @@ class XmlReader {
     XmlArray<Binding> m_bindings;
     XmlNameTable m_prefixes;
     XmlArray<unsigned> m_bound;  ///< By prefix: its binding and one; 0: none.
-    XmlNameTable m_uris;
+    XmlUriTable m_uris;
     XmlArray<char*> m_kept;  ///< Texts of namespaces that are not in the copy as they are.
     XmlArray<XmlReaderAttribute> m_attributes;
     XmlUri m_default = 0;

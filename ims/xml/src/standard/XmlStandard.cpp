@@ -32,7 +32,11 @@ class Reporter : public XmlFindings {
             m_text[length] = '\0';
         };
         add("\"", 1);
-        add(name.text, name.length < kLongestName ? name.length : kLongestName);
+        std::size_t shown = name.length < kLongestName ? name.length : kLongestName;
+        // No character is cut.
+        while (shown != 0 && shown < name.length && (static_cast<unsigned char>(name.text[shown]) & 0xC0U) == 0x80U)
+            --shown;
+        add(name.text, shown);
         add("\" ", 2);
         add(what, std::strlen(what));
         Report(problem);

@@ -106,8 +106,6 @@ std::size_t CopyPlain(char* to, const char* text, std::size_t length) {
     return i;
 }
 
-bool IsNothing(const XmlSlice& text) { return text.text == nullptr; }
-
 }  // namespace
 
 XmlWriter::~XmlWriter() {
@@ -162,16 +160,11 @@ bool XmlWriter::Root(const XMLElement& root) {
     return Object(root, {known.name, XmlNamespace::Parent}, {m_rootUri, m_rootUri, 0}) && Declarations(at);
 }
 
-XmlSlice XmlWriter::UriText(XmlUri uri) const {
-    if (uri >= kXmlNamespaceCount) return m_uris[uri - kXmlNamespaceCount];
-    return {const_cast<char*>(kXmlNamespaces[uri].uri), kXmlNamespaces[uri].length};
-}
-
 /// Declares on the root what has been used.
 bool XmlWriter::Declarations(std::size_t at) {
     const std::size_t end = m_text.Count();
     const auto declare = [&](const XmlSlice& prefix, XmlUri uri) {
-        const XmlSlice text = UriText(uri);
+        const XmlSlice text = m_uris.Text(uri);
         return Put(prefix.length != 0 ? " xmlns:" : " xmlns") && Put(prefix) && Put("=\"") && Escaped(text, true) &&
                Put("\"");
     };
@@ -199,18 +192,10 @@ bool XmlWriter::UriOf(const char* text, XmlUri& uri) {
         uri = m_lastUri;
         return true;
     }
-    const XmlSlice slice = SliceOf(text);
-    for (std::size_t i = 0; i < kXmlNamespaceCount; ++i) {
-        const XmlNamespaceInfo& known = kXmlNamespaces[i];
-        if (known.length != slice.length || std::memcmp(known.uri, text, slice.length) != 0) continue;
-        uri = static_cast<XmlUri>(i);
-        return true;
-    }
-    const unsigned number = m_uris.Intern(slice);
-    uri = static_cast<XmlUri>(kXmlNamespaceCount + number);
+    if (!m_uris.Intern(SliceOf(text), uri)) return FailMemory();
     m_lastUri = uri;
     m_lastUriText = text;
-    return number != XmlNameTable::kNoMemory || FailMemory();
+    return true;
 }
 
 /// @param isNew out: nothing else has the prefix. @return false without memory.
@@ -383,7 +368,7 @@ bool XmlWriter::Piece(const XmlRestItem& item, XmlUri defaultUri) {
     if (item.kind == XmlRestKind::Text) return Escaped(SliceOf(item.text), false);
     if (item.kind != XmlRestKind::Element) return true;
     // Its first declaration goes without saying where it is that of the default namespace here.
-    const XmlSlice uri = UriText(defaultUri);
+    const XmlSlice uri = m_uris.Text(defaultUri);
     const char* const name = item.text + std::strcspn(item.text, " \t\n/>");
     constexpr char kBegin[] = " xmlns=\"";
     const char* const declared = name + sizeof kBegin - 1;
@@ -526,7 +511,8 @@ bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlS
             XmlSlice text;
             bool isSet = false;
             if (!ValueText(element, row, text, isSet)) return Fail("has no text", name);
-            return !isSet || Escaped(text, false);
+            if (isSet && !Escaped(text, false)) return false;
+            return run == nullptr || Behind(run, inside);
         }
         case XmlRole::Element: {
             XmlSlice text;
@@ -546,7 +532,7 @@ bool XmlWriter::Field(const XMLElement& element, const XmlField& row, const XmlS
             const XmlSlice text = given != nullptr
                                       ? SliceOf(given->text)
                                       : XmlSlice{words.Count() != 0 ? words.Values() : nullptr, words.Count()};
-            if (!IsNothing(text) && !Value(row, run, text, inside)) return false;
+            if (text.text != nullptr && !Value(row, run, text, inside)) return false;
             return run == nullptr || Behind(run, inside);
         }
         case XmlRole::Child:

@@ -69,7 +69,6 @@ class XmlWriter {
     static const XmlRestItem* Given(const XMLElement& element, const XmlField& row);
     bool Start(const XmlSlice& local, XmlUri uri, XmlUri& defaultUri, std::size_t& nameAt, std::size_t& nameLength);
     bool Close(std::size_t content, std::size_t nameAt, std::size_t nameLength);
-    XmlSlice UriText(XmlUri uri) const;
     bool UriOf(const char* text, XmlUri& uri);
     bool Take(const XmlSlice& prefix, bool& isNew);
     bool PrefixOf(XmlUri uri, const XmlSlice& wanted, XmlSlice& prefix);
@@ -84,7 +83,7 @@ class XmlWriter {
     XmlUri m_main;
     XmlUri m_rootUri = 0;
     XmlArray<char, 0> m_text;
-    XmlNameTable m_uris;   ///< Those that `XmlNamespace` does not have.
+    XmlUriTable m_uris;
     XmlUri m_lastUri = 0;  ///< The one that was asked for last; 0: none.
     const char* m_lastUriText = nullptr;
     XmlArray<Prefix> m_prefixes;  ///< By number of the namespace.
