@@ -20,6 +20,13 @@ class XmlDescribedElement;
 class XmlDescribedObject;
 class ix_empty_element_type;
 
+/// A row or a description that says one thing more.
+template <class Row, class Value, class Given>
+constexpr Row ixWith(Row row, Value Row::*member, Given value) {
+    row.*member = value;
+    return row;
+}
+
 /// What the data member of a field holds. Its type is in parentheses.
 enum class XmlFieldKind : unsigned char {
     Text,           ///< Owned text (`char*`).
@@ -148,52 +155,20 @@ struct IX_XML_EXPORT XmlField {
     /// @name What else a row may say
     /// @{
     /// The value that means 'not set', in place of 0.
-    constexpr XmlField NotSet(long long value) const {
-        XmlField row = *this;
-        row.notSet = value;
-        return row;
-    }
+    constexpr XmlField NotSet(long long value) const { return ixWith(*this, &XmlField::notSet, value); }
     /// No value means 'not set': the field is always shown.
     constexpr XmlField Always() const { return NotSet(kXmlAlwaysSet); }
-    constexpr XmlField Nearest() const {
-        XmlField row = *this;
-        row.nearest = true;
-        return row;
-    }
-    constexpr XmlField LeavesEarlier() const {
-        XmlField row = *this;
-        row.leavesEarlier = true;
-        return row;
-    }
-    constexpr XmlField Key(const char* text) const {
-        XmlField row = *this;
-        row.key = text;
-        return row;
-    }
+    constexpr XmlField Nearest() const { return ixWith(*this, &XmlField::nearest, true); }
+    constexpr XmlField LeavesEarlier() const { return ixWith(*this, &XmlField::leavesEarlier, true); }
+    constexpr XmlField Key(const char* text) const { return ixWith(*this, &XmlField::key, text); }
     /// The namespace that the standard has the element in, where that is not the one of the element around it.
-    constexpr XmlField In(XmlNamespace standard) const {
-        XmlField row = *this;
-        row.ns = standard;
-        return row;
-    }
+    constexpr XmlField In(XmlNamespace standard) const { return ixWith(*this, &XmlField::ns, standard); }
     /// The standard demands the attribute or the element.
-    constexpr XmlField Mandatory() const {
-        XmlField row = *this;
-        row.mandatory = true;
-        return row;
-    }
+    constexpr XmlField Mandatory() const { return ixWith(*this, &XmlField::mandatory, true); }
     /// The entries of the list alternate with those of the next row.
-    constexpr XmlField TakesTurns() const {
-        XmlField row = *this;
-        row.takesTurns = true;
-        return row;
-    }
+    constexpr XmlField TakesTurns() const { return ixWith(*this, &XmlField::takesTurns, true); }
     /// A source line that is fixed from outside.
-    constexpr XmlField At(int fixed) const {
-        XmlField row = *this;
-        row.line = fixed;
-        return row;
-    }
+    constexpr XmlField At(int fixed) const { return ixWith(*this, &XmlField::line, fixed); }
     /// @}
 };
 
@@ -305,29 +280,13 @@ struct XmlClass {
         return of->ownText;
     }
     /// A class that is no root although its base is `XMLObject`.
-    constexpr XmlClass NoRoot() const {
-        XmlClass description = *this;
-        description.isRoot = false;
-        return description;
-    }
+    constexpr XmlClass NoRoot() const { return ixWith(*this, &XmlClass::isRoot, false); }
     /// Elements and attributes that the standard has as well, and no field holds; separated by blanks.
-    constexpr XmlClass Also(const char* names) const {
-        XmlClass description = *this;
-        description.also = names;
-        return description;
-    }
+    constexpr XmlClass Also(const char* names) const { return ixWith(*this, &XmlClass::also, names); }
     /// A class whose standard lets the children come in any order.
-    constexpr XmlClass Unordered() const {
-        XmlClass description = *this;
-        description.isUnordered = true;
-        return description;
-    }
+    constexpr XmlClass Unordered() const { return ixWith(*this, &XmlClass::isUnordered, true); }
     /// The element that objects of the class stand for.
-    constexpr XmlClass Of(XmlName standsFor) const {
-        XmlClass description = *this;
-        description.element = standsFor;
-        return description;
-    }
+    constexpr XmlClass Of(XmlName standsFor) const { return ixWith(*this, &XmlClass::element, standsFor); }
 };
 
 /// @name Classes of objects

@@ -56,37 +56,18 @@ struct XmlContainerRow {
     /// @name What else a row may say
     /// @{
     constexpr XmlContainerRow Inside(const XmlClass& top) const {
-        XmlContainerRow row = *this;
-        row.parent = &top;
-        return row;
+        return ixWith(*this, &XmlContainerRow::parent, &top);
     }
     constexpr XmlContainerRow EndsAs(const char* className) const {
-        XmlContainerRow row = *this;
-        row.endsAs = className;
-        row.endsAnything = false;
-        return row;
+        return ixWith(EndsItsOwn(), &XmlContainerRow::endsAs, className);
     }
-    constexpr XmlContainerRow EndsAnything() const {
-        XmlContainerRow row = *this;
-        row.endsAnything = true;
-        return row;
-    }
-    constexpr XmlContainerRow EndsItsOwn() const {
-        XmlContainerRow row = *this;
-        row.endsAnything = false;
-        return row;
-    }
+    constexpr XmlContainerRow EndsAnything() const { return ixWith(*this, &XmlContainerRow::endsAnything, true); }
+    constexpr XmlContainerRow EndsItsOwn() const { return ixWith(*this, &XmlContainerRow::endsAnything, false); }
     constexpr XmlContainerRow MadeBy(XMLElement* (*maker)(const char* name, const char* source, int line)) const {
-        XmlContainerRow row = *this;
-        row.make = maker;
-        return row;
+        return ixWith(*this, &XmlContainerRow::make, maker);
     }
     /// A source line that is fixed from outside.
-    constexpr XmlContainerRow At(int fixed) const {
-        XmlContainerRow row = *this;
-        row.line = fixed;
-        return row;
-    }
+    constexpr XmlContainerRow At(int fixed) const { return ixWith(*this, &XmlContainerRow::line, fixed); }
     /// @}
 };
 
