@@ -4,10 +4,13 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 
 #include "XMLFactory.h"
+#include "XMLList.h"
 #include "XmlFields.h"
+#include "XmlNamespaceTable.h"
 #include "ixDplHost.h"
 
 namespace {
@@ -44,16 +47,30 @@ class Work {
     /// - A disposition notification of a message that was processed is written under a name that is not read. A default
     ///   namespace that a child element declares is written on the root, where it is not read.
     /// - The walk over the `many` of an identity leaves some out, others each time.
+    /// - A default namespace in the binder takes the prefix away from the names that are written. Those of common
+    /// policy
+    ///   are read with a prefix only.
     bool IsStable() const {
-        return !m_writtenTwice || m_cut || m_first.find('&') != std::string::npos || m_first == m_second ||
-               m_first.find("<proessing-notification>") != std::string::npos || DeclaresDefaultTwice() ||
-               m_first.find("<many ") != std::string::npos || m_first.find(":many ") != std::string::npos;
+        return !m_writtenTwice || m_cut || m_unprefixed || m_first.find('&') != std::string::npos ||
+               m_first == m_second || m_first.find("<proessing-notification>") != std::string::npos ||
+               DeclaresDefaultTwice() || m_first.find("<many ") != std::string::npos ||
+               m_first.find(":many ") != std::string::npos;
     }
 
     void Print() const { std::fprintf(stderr, "first:\n%s\nsecond:\n%s\n", m_first.c_str(), m_second.c_str()); }
 
   private:
     bool DeclaresDefaultTwice() const { return m_first.find(" xmlns=\"") != m_first.rfind(" xmlns=\""); }
+
+    /// True when the binder gives the names of a common policy no prefix.
+    static bool UnprefixesCommonPolicy(const XMLObject* binder) {
+        const IxSingleElementList* const declarations = XmlNamespaceBinder::DeclarationsOf(binder);
+        for (const ix_AttributeValuePair* pair : XmlEntries<const ix_AttributeValuePair>(declarations)) {
+            const bool isPolicy = pair->mValue != nullptr && std::strstr(pair->mValue, ":common-policy") != nullptr;
+            if (isPolicy && pair->mName == nullptr) return true;
+        }
+        return false;
+    }
 
     XMLElement* Decode(XMLUnMarshaller* reader, const char* text) {
         XMLElement* const root = reader != nullptr ? reader->UnMarshall(text) : nullptr;
@@ -63,7 +80,9 @@ class Work {
 
     void Run(XMLContext& namespaces, XMLContext& context, const char* text) {
         XMLElement* const binder = Decode(namespaces.createUnMarshaller(), text);
-        context.SetNamespaceBinder(static_cast<XMLObject*>(binder));
+        auto* const declarations = static_cast<XMLObject*>(binder);
+        m_unprefixed = UnprefixesCommonPolicy(declarations);
+        context.SetNamespaceBinder(declarations);
         XMLUnMarshaller* const reader = context.createUnMarshaller();
         XMLMarshaller* const writer = context.createMarshaller();
         XMLElement* const root = Decode(reader, text);
@@ -87,6 +106,7 @@ class Work {
 
     bool m_allDecoded = true;
     bool m_cut = false;
+    bool m_unprefixed = false;
     bool m_writtenTwice = false;
     std::string m_first;
     std::string m_second;
