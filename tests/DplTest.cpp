@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
+#include <set>
 #include <thread>
 
 #include "XmlTest.h"
@@ -114,7 +115,7 @@ TEST_F(DplTest, TheNthAllocationFailsAndThoseThatFollowIt) {
 // fixture, whose ledger keeps blocks from being kept.
 TEST(BlockCacheTest, BlocksThatServeAgainHaveTheirSize) {
     const auto work = [] {
-        constexpr std::size_t kMost = 300;
+        constexpr std::size_t kMost = 600;
         std::vector<unsigned char*> blocks;
         for (int round = 0; round < 3; ++round) {
             for (std::size_t i = 0; i < 20 * kMost; ++i) {
@@ -137,6 +138,41 @@ TEST(BlockCacheTest, BlocksThatServeAgainHaveTheirSize) {
     std::thread other(work);
     work();
     other.join();
+}
+
+// One thread that only takes and one that only frees, and threads that come and go, live on the blocks that there are.
+TEST(BlockCacheTest, BlocksComeBackFromOtherThreads) {
+    constexpr std::size_t kCount = 5000;
+    constexpr std::size_t kSize = 200;
+    std::set<void*> seen;
+    for (int round = 0; round < 20; ++round) {
+        std::vector<void*> blocks(kCount);
+        std::thread([&] { std::generate(blocks.begin(), blocks.end(), [] { return __malloc(kSize); }); }).join();
+        seen.insert(blocks.begin(), blocks.end());
+        ASSERT_EQ(std::set<void*>(blocks.begin(), blocks.end()).size(), kCount);
+        std::thread([&] { std::for_each(blocks.begin(), blocks.end(), __free); }).join();
+    }
+#if !defined(__SANITIZE_ADDRESS__)
+    EXPECT_LT(seen.size(), kCount + kCount / 2);
+#endif
+}
+
+// What is freed while a thread ends, when its cache has gone, serves as well.
+TEST(BlockCacheTest, BlocksAreFreedWhileThreadsEnd) {
+    struct Late {
+        void* block = nullptr;
+        ~Late() {
+            __free(block);
+            __free(__malloc(40));
+        }
+    };
+    std::thread([] {
+        static thread_local Late late;
+        late.block = nullptr;
+        late.block = __malloc(40);
+    }).join();
+    void* const block = __malloc(40);
+    std::thread([block] { __free(block); }).join();
 }
 
 TEST_F(DplTest, CopiesStayWithinTheirBuffer) {

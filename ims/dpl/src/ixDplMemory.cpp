@@ -106,7 +106,7 @@ bool CountAndFail() {
 
 void* __malloc(std::size_t size) {
     if (mode.load(std::memory_order_relaxed) != 0) return Allocate(size, false);
-    return BlockCache::Mine().Take(size);
+    return BlockCache::Take(size);
 }
 
 void* __calloc(std::size_t count, std::size_t size) {
@@ -117,11 +117,11 @@ void* __calloc(std::size_t count, std::size_t size) {
 void __free(void* pointer) {
     if (pointer == nullptr) return;
     if (mode.load(std::memory_order_relaxed) == 0) {
-        BlockCache::Mine().Give(pointer);
+        BlockCache::Give(pointer);
         return;
     }
     if (LedgerIsOn()) RemoveFromHeap(pointer);
-    std::free(pointer);
+    BlockCache::Give(pointer);
 }
 
 void trmemlog_add(int module, const char* source, int line, void* pointer, std::size_t size) {
