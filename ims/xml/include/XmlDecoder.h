@@ -9,6 +9,7 @@
 
 #include "XMLCommonDef.h"
 #include "XmlCommon.h"
+#include "XmlNames.h"
 #include "XmlPlatform.h"
 
 /// Receives the events of one document.
@@ -66,6 +67,16 @@ enum eXmlDecodeResult {
     IX_XML_ERROR = -1       ///< Bad input, or no memory.
 };
 
+/// The name of an element. The tokenizer looks at it once, in the start tag; the end tag has the same.
+struct XmlElementName {
+    char* text = nullptr;          ///< In the start tag; NULL: not looked at yet.
+    std::size_t length = 0;        ///< Prefix included.
+    std::size_t prefixLength = 0;  ///< With the colon; 0: no prefix.
+    XmlName whole = IX_STR_IX_NULL;
+    XmlName local = IX_STR_IX_NULL;  ///< What stands behind the prefix.
+    bool isResolved = false;         ///< All but text and length is known.
+};
+
 /// The tokenizer. One object decodes one document, given at once or in pieces; one thread uses it.
 class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
   public:
@@ -84,6 +95,8 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     std::size_t LengthOf(const char* name) const { return IsReported(name) ? m_event.length : __strlen(name); }
     /// True while `name` is being reported: an element with its "/", or an attribute.
     bool IsReported(const char* name) const { return name == m_event.text; }
+    /// The element whose name, with its "/", is being reported, if that is `name`; NULL: nothing is known of it.
+    const XmlElementName* ElementOf(const char* name) const { return IsReported(name) ? m_event.element : nullptr; }
 
     /// Decodes up to `length` characters of `text`, or fewer if a NUL comes first. The text is copied and not changed.
     ///
@@ -124,7 +137,7 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     /// An open name. Its text is in place when it is short.
     struct OpenName {
         BuddyLinkList node{nullptr};
-        std::size_t length = 0;
+        XmlElementName name;
         char text[40];
     };
     /// Open names come in blocks, so that a deep document takes few of them and none ever moves.
@@ -134,16 +147,11 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
         OpenNames* next = nullptr;
     };
 
-    /// The name in a tag.
-    struct TagName {
-        char* text = nullptr;
-        std::size_t length = 0;
-    };
-
     /// The name in the event that is being reported; none between events.
     struct EventName {
         const char* text = nullptr;
         std::size_t length = 0;
+        const XmlElementName* element = nullptr;  ///< NULL: an attribute, or a tag of the caller's.
     };
 
     /// Where the attributes of a tag stand. They are noted while the list is checked, if they are few and each has a
@@ -169,16 +177,16 @@ class IX_XML_EXPORT XmlDecoder : public XmlHeapObject {
     int DecodeTag(char* scan, char* begin, char* end);
     int DecodeDeclaration(const char* content, const char* end);
     int DecodeEndTag(char* text, char* begin, char* end);
-    int DecodeSelfClosingTag(char* content, char* end);
-    int DecodeStartTag(char* content, char* end);
-    int SplitAttributes(char* content, char* end, TagName* name);
+    int DecodeSelfClosingTag(XmlElementName& name, char* content, char* end);
+    int DecodeStartTag(XmlElementName& name, char* content, char* end);
+    int SplitAttributes(char* content, char* end, XmlElementName& name);
     static int ValidateList(char* text, const char* end, AttributePlaces& attributes);
-    int ReportAttributes(const TagName& name, char* rest, char* end, bool hasEntities);
-    int ReportPlaces(const TagName& name, const AttributePlaces& attributes, bool hasEntities);
-    int ReportElement(char* name, std::size_t length, char* text);
-    void ReportAttribute(const TagName& element, char* name, std::size_t length, char* value);
-    int ReportSelfClosingEnd(const TagName& name, char* rest);
-    bool PushName(const char* name, std::size_t length);
+    int ReportAttributes(const XmlElementName& name, char* rest, char* end, bool hasEntities);
+    int ReportPlaces(const XmlElementName& name, const AttributePlaces& attributes, bool hasEntities);
+    int ReportElement(const XmlElementName& element, char* name, char* text);
+    void ReportAttribute(const XmlElementName& element, char* name, std::size_t length, char* value);
+    int ReportSelfClosingEnd(const XmlElementName& name, char* rest);
+    bool PushName(const XmlElementName& name);
     OpenName* NextOpenName();
     OpenName& LastOpenName() const { return m_openNames->names[m_openIndex - 1]; }
     BuddyLinkList* NodeBefore() const;

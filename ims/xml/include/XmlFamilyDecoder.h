@@ -230,9 +230,10 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     int XMLChangeNamespaceTag(const char* tag);
     /// Removes the prefix. @return 1, the result in `PassName`; 0 for NULL or without memory.
     int XMLRemoveNameSpaceTag(const char* tag);
-    /// Result of the last `XMLChangeNamespaceTag`; NULL before it, or when it failed.
+    /// Result of the last `XMLChangeNamespaceTag`; NULL before it, or when it failed. After an event it can stand in
+    /// the tokenizer's text, up to the next event.
     char* MappedTag() const { return m_pMappedTag; }
-    /// Result of the last `XMLRemoveNameSpaceTag`; NULL before it, or when it failed.
+    /// Result of the last `XMLRemoveNameSpaceTag`; NULL before it, or when it failed. After an event as above.
     char* PassName() const { return m_pPassName; }
 
   protected:
@@ -270,7 +271,6 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     struct StartTag {
         bool isOpen = false;                   ///< There is one.
         const char* reported = nullptr;        ///< Its name in the events of the tokenizer; NULL: it is none of them.
-        XmlName resolved = IX_STR_IX_NULL;     ///< Its name as it is compared, when it was reported.
         XmlWorkText name;                      ///< A copy for attributes that other callers bring.
         const XmlContainerRow* row = nullptr;  ///< Of its name; NULL: no container.
         XMLElement* own = nullptr;             ///< The object that it put on the stack, if it did.
@@ -284,10 +284,11 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     static const XmlField* KnownRow(const XmlContainerRow* row, const XMLElement& receiver, XmlName attribute);
     bool EndContainer(const XmlContainerRow& row, const XmlTag& tag, char* text, bool& offered);
     bool IsReported(const char* name) const { return m_pTokenizer != nullptr && m_pTokenizer->IsReported(name); }
-    int MapPrefix(const char* tag, std::size_t length);
-    int RemovePrefix(const char* tag, std::size_t length);
-    char* ComparedName(char* element, std::size_t length);
-    void KeepStarted(const char* element, std::size_t length, XmlName resolved);
+    int MapPrefix(char* tag, std::size_t length, bool stays);
+    int RemovePrefix(char* tag, std::size_t length, bool stays);
+    char* ComparedName(char* element, std::size_t length, bool stays);
+    XmlName ComparedNumber(const char* name, const XmlElementName* known) const;
+    void KeepStarted(const char* element, std::size_t length);
     bool IsStarted(const char* element, const char* attribute) const;
     bool KeepOrphan(XMLElement* object);
 
@@ -298,8 +299,6 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     char* m_pMappedTag = nullptr;
     char* m_pPassName = nullptr;
     const XmlDecoder* m_pTokenizer = nullptr;
-    const char* m_pCompared = nullptr;  ///< What the last tag is compared as, without "/", and wherever it stands ...
-    std::size_t m_comparedLength = 0;   ///< ... and its length.
 
     const XmlDecoderInfo& m_info;
     XmlWorkText m_mappedText;

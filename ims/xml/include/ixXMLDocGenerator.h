@@ -95,6 +95,8 @@ class IX_XML_EXPORT IxXMLDocGenerator : public XmlHeapObject {
   private:
     void Append(const char* text, std::size_t length);
     void Append(const char* text);
+    void AppendCut(const char* text, std::size_t length);
+    void AppendName(const char* name);
     void AppendPrefixed(const char* prefix, const char* name);
     void AppendValue(const char* value);
     void StartTag(const char* name, int open);

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <iterator>
 
+#include "XmlScan.h"
+
 namespace {
 
 /// A line with the event number of the tokenizer and a source line that is fixed.
@@ -41,6 +43,8 @@ class ByteSet {
 constexpr std::size_t kMostDelimiters = 32;
 constexpr ByteSet kSpaces(" \t\r\n", kMostDelimiters);
 constexpr ByteSet kNameEnds("\"'= \t\r\n", kMostDelimiters);
+constexpr ByteSet kTagNameEnds("> \t\r\n", kMostDelimiters);
+constexpr ByteSet kTagNameStops(":> \t\r\n", kMostDelimiters);
 
 /// memchr for a byte that is usually near: the first words are looked at here, without a call.
 char* FindByte(char* from, const char* last, char byte) {
@@ -108,6 +112,25 @@ char* CutAt(char* text, char delimiter, char* end, char** rest) {
     return text;
 }
 
+/// The name that a tag begins with, and has behind it a delimiter or `end`. Nothing of the tag has been changed yet:
+/// what has just been written is slow to read in larger units.
+XmlElementName NameIn(char* tag, char* end) {
+    XmlElementName name;
+    char* const stop = kTagNameStops.EndOf(tag);
+    char* const found = *stop == ':' ? kTagNameEnds.EndOf(stop) : stop;
+    name.length = static_cast<std::size_t>((found < end ? found : end) - tag);
+    if (name.length == 0) return name;
+    name.text = tag;
+    name.isResolved = true;
+    name.whole = XmlName::OfPadded(tag, name.length);
+    name.local = name.whole;
+    if (*stop == ':') {
+        name.prefixLength = static_cast<std::size_t>(stop + 1 - tag);
+        name.local = XmlName::OfPadded(stop + 1, name.length - name.prefixLength);
+    }
+    return name;
+}
+
 }  // namespace
 
 int XmlDecoderSchema::ReservedLast() { return 0; }
@@ -148,7 +171,7 @@ bool XmlDecoder::AppendToPending(const char* text, std::size_t length) {
     if (needed > INT_MAX) return false;
     if (needed > m_pendingSize) {
         const std::size_t size = m_pendingLength == 0 || needed > 2 * m_pendingSize ? needed : 2 * m_pendingSize;
-        char* const joined = static_cast<char*>(__malloc(size));
+        char* const joined = static_cast<char*>(__malloc(size + kXmlScanPadding));
         if (joined == nullptr) return false;
         if (m_pendingLength != 0) std::memcpy(joined, m_pPending, m_pendingLength);
         __free(m_pPending);
@@ -204,8 +227,8 @@ int XmlDecoder::Decode(const char* text, int length) {
     m_tagSearched = 0;
     for (;;) {
         m_iSelfClosing = 0;
-        begin = FindByte(begin, last, '<');
-        if (begin == nullptr) {
+        begin = ixNextOf(begin, '<');
+        if (begin == last) {
             m_DecodeState = IX_XML_PARSE_CONTINUE;
             m_pPending[0] = '\0';
             m_pendingLength = 0;
@@ -213,9 +236,8 @@ int XmlDecoder::Decode(const char* text, int length) {
             return IX_XML_INCOMPLETE;
         }
         if (behind <= begin) behind = begin + 1;
-        char* const end = FindByte(behind, last, '>');
-        if (end == nullptr) return KeepFrom(scan, begin);
-        *end = '\0';
+        char* const end = ixNextOf(behind, '>');
+        if (end == last) return KeepFrom(scan, begin);
         const int step = DecodeTag(scan, begin, end);
         if (step == kSyntaxError) {
             m_DecodeState = IX_XML_PARSE_ERROR;
@@ -239,13 +261,18 @@ int XmlDecoder::Decode(const char* text, int length) {
     }
 }
 
-/// One tag, from its "<" at `begin` to its ">" at `end`, which is a NUL by now. The text before it starts at `scan`.
+/// One tag, from its "<" at `begin` to its ">" at `end`, which becomes a NUL. The text before it starts at `scan`.
 int XmlDecoder::DecodeTag(char* scan, char* begin, char* end) {
     char* const content = begin + 1;
     const bool isComment = *content == '!' && std::strncmp(content, "!--", 3) == 0;
-    if (*content == '?' || isComment) return DecodeDeclaration(content, end);
-    if (*content == '/') return DecodeEndTag(scan, begin, end);
-    return end[-1] == '/' ? DecodeSelfClosingTag(content, end) : DecodeStartTag(content, end);
+    if (*content == '?' || *content == '/' || isComment) {
+        *end = '\0';
+        return *content == '/' ? DecodeEndTag(scan, begin, end) : DecodeDeclaration(content, end);
+    }
+    char* const behind = end[-1] == '/' ? end - 1 : end;
+    XmlElementName name = NameIn(content, behind);
+    *end = '\0';
+    return behind != end ? DecodeSelfClosingTag(name, content, end) : DecodeStartTag(name, content, end);
 }
 
 /// A declaration stands before the root element only. A comment ends at the first ">", so one that contains a ">" is
@@ -264,7 +291,7 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
     const OpenName& last = LastOpenName();
     const char* const open = static_cast<const char*>(last.node.m_pData);
     const auto length = static_cast<std::size_t>(end - name);
-    if (open == nullptr || last.length != length || !SameBytes(open, name, length)) {
+    if (open == nullptr || last.name.length != length || !SameBytes(open, name, length)) {
         if (open != nullptr)
             ixLog(
                 kSource,
@@ -281,7 +308,7 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
             ixLog(kSource, Line(2, 323, "<XML Decoder>XmlDecoder:: pStrEndElement: Malloc unable to allocate memory"));
             return IX_XML_ERROR;
         }
-        if (ReportElement(endName, length + 1, text) != 0)
+        if (ReportElement(last.name, endName, text) != 0)
             ixLog(kSource,
                   Line(3, 331, "<XML Decoder>:ProcessElement(pStrEndElement, start) failed when pStrEndElement=\"%s\""),
                   endName);
@@ -290,29 +317,27 @@ int XmlDecoder::DecodeEndTag(char* text, char* begin, char* end) {
     return kTagDone;
 }
 
-int XmlDecoder::DecodeSelfClosingTag(char* content, char* end) {
+int XmlDecoder::DecodeSelfClosingTag(XmlElementName& name, char* content, char* end) {
     end[-1] = '\0';
     m_iSelfClosing = 1;
-    TagName name;
-    const int result = SplitAttributes(content, end - 1, &name);
+    const int result = SplitAttributes(content, end - 1, name);
     m_iSelfClosing = 0;
     if (result != IX_XML_ERROR) return kTagDone;
     ixLog(kSource, Line(3, 374, "<XML Decoder>:Decoder Failed in DecodeAttributes and ret:IX_XML_PARSE_ERROR"));
     return kSyntaxError;
 }
 
-int XmlDecoder::DecodeStartTag(char* content, char* end) {
-    TagName name;
-    const int result = SplitAttributes(content, end, &name);
+int XmlDecoder::DecodeStartTag(XmlElementName& name, char* content, char* end) {
+    const int result = SplitAttributes(content, end, name);
     if (result == IX_XML_ERROR) {
         ixLog(kSource, Line(3, 401, "<XML Decoder>:Decoder Failed in DecodeAttributes"));
         return kSyntaxError;
     }
     if (m_pSchemaDecoder != nullptr) {
-        if (result == 1) ReportElement(name.text, name.length, nullptr);
+        if (result == 1) ReportElement(name, name.text, nullptr);
         m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
     }
-    if (!PushName(name.text, name.length)) {
+    if (!PushName(name)) {
         ixLog(kSource,
               Line(3, 439, "<XML Decoder>:Decoder Failed as stack is not empty at end, reason: IX_XML_PARSE_ERROR"));
         return kSyntaxError;
@@ -332,29 +357,33 @@ int XmlDecoder::DecodeAttributes(char* tagContent) {
         ixLog(kSource, Line(2, 501, "XmlDecoder::DecodeAttributes n_strAttrList is null"));
         return IX_XML_ERROR;
     }
-    TagName name;
-    return SplitAttributes(tagContent, tagContent + __strlen(tagContent), &name);
+    XmlElementName name;
+    return SplitAttributes(tagContent, tagContent + __strlen(tagContent), name);
 }
 
 /// DecodeAttributes for a tag whose NUL stands at `end`; also yields the element's name.
-int XmlDecoder::SplitAttributes(char* content, char* end, TagName* name) {
+int XmlDecoder::SplitAttributes(char* content, char* end, XmlElementName& name) {
     // Unescaping works on a copy of a value. Its memory is taken before the first event of the tag.
     if (!m_unescapeCopy.Reserve(static_cast<std::size_t>(end - content) + 1)) {
         ixLog(kSource, Line(2, 510, "XmlDecoder:: pStrAttrCheck: Malloc unable to allocate memory"));
         return IX_XML_ERROR;
     }
     char* rest = nullptr;
-    name->text = CutToken(content, kSpaces, &rest);
-    if (name->text == nullptr) {
-        m_DecodeState = IX_XML_PARSE_ERROR;
-        return IX_XML_ERROR;
+    if (name.text != nullptr) {
+        EndToken(name.text + name.length, &rest);
+    } else {
+        name.text = CutToken(content, kSpaces, &rest);
+        if (name.text == nullptr) {
+            m_DecodeState = IX_XML_PARSE_ERROR;
+            return IX_XML_ERROR;
+        }
+        // The delimiter behind the name is a NUL by now, if there was one.
+        name.length = static_cast<std::size_t>((rest[-1] == '\0' ? rest - 1 : rest) - name.text);
     }
-    // The delimiter behind the name is a NUL by now, if there was one.
-    name->length = static_cast<std::size_t>((rest[-1] == '\0' ? rest - 1 : rest) - name->text);
     const char* token = rest;
     while (*token == '=') ++token;
     if ((*token != '\0' || m_iSelfClosing == 1) && m_pSchemaDecoder != nullptr) {
-        ReportElement(name->text, name->length, nullptr);
+        ReportElement(name, name.text, nullptr);
     }
     // Required: memory for a copy of the list is taken here, and its failure told, although the check needs no copy.
     if (!m_attributeList.Reserve(static_cast<std::size_t>(end - rest) + 1)) {
@@ -370,27 +399,29 @@ int XmlDecoder::SplitAttributes(char* content, char* end, TagName* name) {
         return IX_XML_ERROR;
     }
     if (m_pSchemaDecoder == nullptr) return 0;
-    if (rest == end) return m_iSelfClosing == 1 ? ReportSelfClosingEnd(*name, rest) : 1;
+    if (rest == end) return m_iSelfClosing == 1 ? ReportSelfClosingEnd(name, rest) : 1;
     const bool hasEntities = std::memchr(rest, '&', static_cast<std::size_t>(end - rest)) != nullptr;
-    if (attributes.isComplete && attributes.count != 0) return ReportPlaces(*name, attributes, hasEntities);
-    return ReportAttributes(*name, rest, end, hasEntities);
+    if (attributes.isComplete && attributes.count != 0) return ReportPlaces(name, attributes, hasEntities);
+    return ReportAttributes(name, rest, end, hasEntities);
 }
 
-int XmlDecoder::ReportElement(char* name, std::size_t length, char* text) {
-    m_event = {name, length};
+/// @param name that of `element`, with "/" before it for the end.
+int XmlDecoder::ReportElement(const XmlElementName& element, char* name, char* text) {
+    const bool isEnd = name != element.text;
+    m_event = {name, element.length + (isEnd ? 1 : 0), element.isResolved ? &element : nullptr};
     const int result = m_pSchemaDecoder->ProcessElement(name, text);
     m_event = {};
     return result;
 }
 
-void XmlDecoder::ReportAttribute(const TagName& element, char* name, std::size_t length, char* value) {
-    m_event = {name, length};
+void XmlDecoder::ReportAttribute(const XmlElementName& element, char* name, std::size_t length, char* value) {
+    m_event = {name, length, nullptr};
     m_pSchemaDecoder->ProcessAttribute(element.text, name, value);
     m_event = {};
 }
 
 /// The events of attributes whose places are known.
-int XmlDecoder::ReportPlaces(const TagName& name, const AttributePlaces& attributes, bool hasEntities) {
+int XmlDecoder::ReportPlaces(const XmlElementName& name, const AttributePlaces& attributes, bool hasEntities) {
     // All ends first: what has just been written is slow to read in larger units.
     for (std::size_t i = 0; i < attributes.count; ++i) {
         *attributes.places[i].equals = '\0';
@@ -407,7 +438,7 @@ int XmlDecoder::ReportPlaces(const TagName& name, const AttributePlaces& attribu
 }
 
 /// The events of any list: names run up to the next "=", even over a value whose attribute has no name.
-int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end, bool hasEntities) {
+int XmlDecoder::ReportAttributes(const XmlElementName& name, char* rest, char* end, bool hasEntities) {
     int result = 0;
     do {
         char* attribute = CutAt(rest, '=', end, &rest);
@@ -435,7 +466,7 @@ int XmlDecoder::ReportAttributes(const TagName& name, char* rest, char* end, boo
 }
 
 /// Reports "/name": the "/" takes the place of the "<", or of white space behind it.
-int XmlDecoder::ReportSelfClosingEnd(const TagName& name, char* rest) {
+int XmlDecoder::ReportSelfClosingEnd(const XmlElementName& name, char* rest) {
     m_pSchemaDecoder->ProcessEndOfStartTag(name.text);
     // Required: memory for a copy of the name is taken here, and its failure told, although no copy is needed.
     if (!m_endName.Reserve(name.length + 2)) {
@@ -444,7 +475,7 @@ int XmlDecoder::ReportSelfClosingEnd(const TagName& name, char* rest) {
     }
     char* const endName = name.text - 1;
     *endName = '/';
-    ReportElement(endName, name.length + 1, rest);
+    ReportElement(name, endName, rest);
     m_iSelfClosing = 0;
     return 0;
 }
@@ -480,10 +511,16 @@ int XmlDecoder::ValidateList(char* text, const char* end, AttributePlaces& attri
     return 0;
 }
 
-unsigned int XmlDecoder::PushElement(const char* name) { return PushName(name, __strlen(name)) ? 1 : 0; }
+unsigned int XmlDecoder::PushElement(const char* name) {
+    XmlElementName open;
+    open.text = const_cast<char*>(name);
+    open.length = __strlen(name);
+    return PushName(open) ? 1 : 0;
+}
 
-bool XmlDecoder::PushName(const char* name, std::size_t length) {
+bool XmlDecoder::PushName(const XmlElementName& name) {
     if (m_pElementStack == nullptr) return false;
+    const std::size_t length = name.length;
     const bool isLong = length >= sizeof m_firstNames.names[0].text;
     char* text = isLong ? static_cast<char*>(__malloc(length + 1)) : nullptr;
     OpenName* const open = isLong && text == nullptr ? nullptr : NextOpenName();
@@ -492,9 +529,13 @@ bool XmlDecoder::PushName(const char* name, std::size_t length) {
         ixLog(kSource, Line(2, 121, "XmlDecoder::PushElement"));
         return false;
     }
-    if (!isLong && name != nullptr) text = open->text;
-    if (text != nullptr) std::memcpy(text, name, length + 1);
-    open->length = length;
+    if (!isLong && name.text != nullptr) text = open->text;
+    if (text != nullptr) {
+        // Without its NUL, which has just been written.
+        std::memcpy(text, name.text, length);
+        text[length] = '\0';
+    }
+    open->name = name;
     open->node.m_pData = text;
     open->node.m_pNext = nullptr;
     ++m_openIndex;

@@ -11,11 +11,14 @@ char* BehindPrefix(const XmlKnownName& known, char* name) {
     return *expected == '\0' && *name == ':' ? name + 1 : nullptr;
 }
 
-/// The first colon of a name, or its end. Names are short, and often just written: not worth a call.
+/// The first colon of a name, or its end. Names are short: not worth a call.
 const char* FindColon(const char* name, const char* end) {
     while (name != end && *name != ':') ++name;
     return name;
 }
+
+/// Longer names go through the operations, whose results can be cut.
+constexpr std::size_t kLongestPlain = 1000;
 
 }  // namespace
 
@@ -38,15 +41,20 @@ int XmlFamilyDecoder::SetNameSpaceBinderInfo(XMLObject* binder) {
 
 int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
     m_pMappedTag = nullptr;
-    return tag != nullptr ? MapPrefix(tag, std::strlen(tag)) : 0;
+    return tag != nullptr ? MapPrefix(const_cast<char*>(tag), std::strlen(tag), false) : 0;
 }
 
-int XmlFamilyDecoder::MapPrefix(const char* tag, std::size_t length) {
+/// @param stays the tag has no prefix, and is used where it stands. The memory for a copy is needed all the same.
+int XmlFamilyDecoder::MapPrefix(char* tag, std::size_t length, bool stays) {
     m_pMappedTag = nullptr;
     const bool isEnd = *tag == '/';
     if (!m_mappedText.Reserve(length + 2)) {
         ixLog(m_info.source, isEnd ? m_info.texts.changeEndTagNoMemory : m_info.texts.changeTagNoMemory);
         return 0;
+    }
+    if (stays) {
+        m_pMappedTag = tag;
+        return 1;
     }
     const char* const name = isEnd ? tag + 1 : tag;
     const char* const end = tag + length;
@@ -56,8 +64,6 @@ int XmlFamilyDecoder::MapPrefix(const char* tag, std::size_t length) {
     if (entry == nullptr || *entry->canonicalPrefix == '\0') {
         std::memcpy(m_mappedText.Text(), tag, length + 1);
         m_pMappedTag = m_mappedText.Text();
-        m_pCompared = name;
-        m_comparedLength = static_cast<std::size_t>(end - name);
         return 1;
     }
     const std::size_t prefixLength = std::strlen(entry->canonicalPrefix);
@@ -71,19 +77,18 @@ int XmlFamilyDecoder::MapPrefix(const char* tag, std::size_t length) {
     std::memcpy(to, entry->canonicalPrefix, prefixLength);
     std::memcpy(to + prefixLength, colon, localSize);
     m_pMappedTag = m_mappedText.Text();
-    m_pCompared = to;
-    m_comparedLength = prefixLength + localSize - 1;
     return 1;
 }
 
 int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
     m_pPassName = nullptr;
-    if (tag != nullptr) return RemovePrefix(tag, std::strlen(tag));
+    if (tag != nullptr) return RemovePrefix(const_cast<char*>(tag), std::strlen(tag), false);
     ixLog(m_info.source, m_info.texts.removeTagNoTag);
     return 0;
 }
 
-int XmlFamilyDecoder::RemovePrefix(const char* tag, std::size_t length) {
+/// @param stays as above.
+int XmlFamilyDecoder::RemovePrefix(char* tag, std::size_t length, bool stays) {
     m_pPassName = nullptr;
     std::size_t size = length + 2;
     // Required: some decoders count the size in 16 bits, so that of a name of 65534 characters and more only the
@@ -93,33 +98,46 @@ int XmlFamilyDecoder::RemovePrefix(const char* tag, std::size_t length) {
         ixLog(m_info.source, m_info.texts.removeTagNoMemory);
         return 0;
     }
+    if (stays) {
+        m_pPassName = tag;
+        return 1;
+    }
     const char* const end = tag + (length < size ? length : size - (size != 0 ? 1 : 0));
     char* to = m_passText.Text();
     m_pPassName = to;
-    if (*tag == '/' && tag != end) *to++ = *tag++;
-    const char* const colon = FindColon(tag, end);
-    if (colon != end) tag = colon + 1;
-    m_pCompared = tag;
-    m_comparedLength = static_cast<std::size_t>(end - tag);
-    std::memcpy(to, tag, m_comparedLength);
-    to[m_comparedLength] = '\0';
+    const char* name = tag;
+    if (*name == '/' && name != end) *to++ = *name++;
+    const char* const colon = FindColon(name, end);
+    if (colon != end) name = colon + 1;
+    const auto localLength = static_cast<std::size_t>(end - name);
+    std::memcpy(to, name, localLength);
+    to[localLength] = '\0';
     return 1;
 }
 
 /// The name as the tables of the schema have it; NULL without memory.
-char* XmlFamilyDecoder::ComparedName(char* element, std::size_t length) {
+/// @param stays see `MapPrefix`.
+char* XmlFamilyDecoder::ComparedName(char* element, std::size_t length, bool stays) {
     switch (m_info.names) {
         case XmlNamePolicy::Mapped:
-            MapPrefix(element, length);
+            MapPrefix(element, length, stays);
             return m_pMappedTag;
         case XmlNamePolicy::Stripped:
-            RemovePrefix(element, length);
+            RemovePrefix(element, length, stays);
             return m_pPassName;
         default:
-            m_pCompared = element + (*element == '/' ? 1 : 0);
-            m_comparedLength = static_cast<std::size_t>(element + length - m_pCompared);
             return element;
     }
+}
+
+/// The number of a name as it is compared.
+XmlName XmlFamilyDecoder::ComparedNumber(const char* name, const XmlElementName* known) const {
+    const bool isMapped = m_info.names == XmlNamePolicy::Mapped;
+    if (known != nullptr && (!isMapped || known->prefixLength == 0)) {
+        return m_info.names == XmlNamePolicy::Stripped ? known->local : known->whole;
+    }
+    if (*name == '/') ++name;
+    return {name, std::strlen(name)};
 }
 
 std::size_t XmlFamilyDecoder::LengthOf(const char* name) const {
@@ -135,9 +153,12 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
     m_started.row = nullptr;
     m_started.own = nullptr;
     const std::size_t length = LengthOf(element);
+    const XmlElementName* known = m_pTokenizer != nullptr ? m_pTokenizer->ElementOf(element) : nullptr;
+    if (length > kLongestPlain) known = nullptr;
+    const bool stays = known != nullptr && known->prefixLength == 0;
     // Where names are compared with their prefix, the local name is at hand as well.
-    const bool ready = m_info.names != XmlNamePolicy::Mapped || RemovePrefix(element, length) != 0;
-    char* const name = ready ? ComparedName(element, length) : nullptr;
+    const bool ready = m_info.names != XmlNamePolicy::Mapped || RemovePrefix(element, length, stays) != 0;
+    char* const name = ready ? ComparedName(element, length, stays) : nullptr;
     if (name == nullptr) {
         m_pPassName = nullptr;
         m_pMappedTag = nullptr;
@@ -145,16 +166,13 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
         return -1;
     }
     const bool isEnd = *name == '/';
-    // A tag that closes itself is reported twice, from one place.
-    const bool isSame = isEnd && m_started.reported == element + 1 && IsReported(element);
-    const XmlTag tag(name, isEnd, isSame ? m_started.resolved : XmlName(m_pCompared, m_comparedLength));
+    const XmlTag tag(name, isEnd, ComparedNumber(name, known));
     if (isEnd) return EndElement(tag, text);
-    KeepStarted(element, length, tag.name);
+    KeepStarted(element, length);
     return StartElement(tag);
 }
 
-void XmlFamilyDecoder::KeepStarted(const char* element, std::size_t length, XmlName resolved) {
-    m_started.resolved = resolved;
+void XmlFamilyDecoder::KeepStarted(const char* element, std::size_t length) {
     m_started.reported = IsReported(element) ? element : nullptr;
     m_started.isOpen = m_started.reported != nullptr || m_started.name.Reserve(length + 1);
     if (m_started.isOpen && m_started.reported == nullptr) {
@@ -179,7 +197,7 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     if (*attribute == '\0') return 0;
     const XmlContainerRow* row = m_started.row;
     if (!IsStarted(element, attribute)) {
-        char* const name = ComparedName(element, std::strlen(element));
+        char* const name = ComparedName(element, std::strlen(element), false);
         if (name == nullptr) {
             ixLog(m_info.source, m_info.texts.noAttributeName);
             return -1;

@@ -27,8 +27,25 @@ constexpr std::uint64_t Load4(const char* text) {
 }
 constexpr std::uint64_t Load8(const char* text) { return Load4(text) | Load4(text + 4) << 32; }
 
-/// The beginning and the end of a name, which are all of it up to 16 characters.
+/// The bits of the first `count` bytes of a word.
+constexpr std::uint64_t BytesOf(std::size_t count) { return count < 8 ? (std::uint64_t{1} << 8 * count) - 1 : ~0ULL; }
+
+/// The words of a name of up to 16 characters, NULs behind its end; of a longer one its beginning and its end.
 struct Ends {
+    static constexpr std::size_t kMost = 16;
+    struct Masks {
+        std::uint64_t first[kMost + 1] = {};
+        std::uint64_t last[kMost + 1] = {};
+
+        constexpr Masks() {
+            for (std::size_t i = 0; i <= kMost; ++i) {
+                first[i] = BytesOf(i);
+                last[i] = BytesOf(i > 8 ? i - 8 : 0);
+            }
+        }
+    };
+    static const Masks kMasks;
+
     std::uint64_t first = 0;
     std::uint64_t last = 0;
 
@@ -36,7 +53,8 @@ struct Ends {
     constexpr Ends(const char* text, std::size_t length) {
         if (length >= 8) {
             first = Load8(text);
-            last = Load8(text + length - 8);
+            if (length > 8) last = Load8(text + length - 8);
+            if (length > 8 && length < kMost) last >>= 8 * (kMost - length);
         } else if (length >= 4) {
             first = Load4(text) | Load4(text + length - 4) << (8 * (length - 4));
         } else if (length > 0) {
@@ -44,9 +62,17 @@ struct Ends {
                     Byte(text, length - 1) << (8 * (length - 1));
         }
     }
+    /// The same of at most 16 characters, without a look at their number: 16 bytes can be read.
+    static Ends OfPadded(const char* text, std::size_t length) {
+        Ends ends;
+        ends.first = Load8(text) & kMasks.first[length];
+        ends.last = Load8(text + 8) & kMasks.last[length];
+        return ends;
+    }
     constexpr bool operator==(const Ends& other) const { return first == other.first && last == other.last; }
     constexpr std::size_t Slot() const { return ((first ^ last << 7) * 0x9e3779b97f4a7c15U) >> 54; }
 };
+constexpr Ends::Masks Ends::kMasks;
 static_assert(kSlots == std::size_t{1} << (64 - 54), "the upper bits number the slots");
 
 /// For the index only, which is made at compile time.
@@ -98,9 +124,7 @@ const char* TextOf(int number) {
     return slot->number;
 }
 
-int NumberOf(const char* text, std::size_t length) {
-    const Ends ends(text, length);
-    if (length > sizeof ends) return NumberOfLong(text, length, ends);
+int NumberOfShort(std::size_t length, const Ends& ends) {
     const Slot* slot = &kIndex.slots[ends.Slot()];
     for (; slot->number != XmlName::kUnknown; slot = &kIndex.next[slot->number]) {
         if (slot->length == length && kIndex.ends[slot->number] == ends) break;
@@ -110,7 +134,17 @@ int NumberOf(const char* text, std::size_t length) {
 
 }  // namespace
 
-XmlName::XmlName(const char* text, std::size_t length) : number(NumberOf(text, length)) {}
+XmlName::XmlName(const char* text, std::size_t length) {
+    const Ends ends(text, length);
+    number = length > Ends::kMost ? NumberOfLong(text, length, ends) : NumberOfShort(length, ends);
+}
+
+XmlName XmlName::OfPadded(const char* text, std::size_t length) {
+    if (length > Ends::kMost) return {text, length};
+    XmlName name(IX_STR_IX_NULL);
+    name.number = NumberOfShort(length, Ends::OfPadded(text, length));
+    return name;
+}
 
 const char* XmlName::Text() const { return number != kUnknown ? TextOf(number) : nullptr; }
 

@@ -2,6 +2,9 @@
 
 #include <cstring>
 
+#include "XMLCommonDef.h"
+#include "XmlScan.h"
+
 namespace {
 
 constexpr char kQuote[] = "&quot;";
@@ -9,21 +12,94 @@ constexpr std::size_t kQuoteLength = sizeof kQuote - 1;
 
 }  // namespace
 
-/// Appends what fits. The length is kept, so that the cost of a piece does not depend on how full the buffer is.
-inline void IxXMLDocGenerator::Append(const char* text, std::size_t length) {
+/// What of a piece fits.
+[[gnu::noinline]] void IxXMLDocGenerator::AppendCut(const char* text, std::size_t length) {
     const std::size_t room = kCapacity - 1 - m_length;
     if (length > room) {
         m_bTruncated = true;
-        std::memcpy(m_pBuffer + m_length, text, room);
-        m_length += room;
-    } else {
-        std::memcpy(m_pBuffer + m_length, text, length);
-        m_length += length;
+        length = room;
     }
+    std::memcpy(m_pBuffer + m_length, text, length);
+    m_length += length;
+    m_pBuffer[m_length] = '\0';
+}
+
+/// The length is kept, so that the cost of a piece does not depend on how full the buffer is.
+inline void IxXMLDocGenerator::Append(const char* text, std::size_t length) {
+    if (length > kCapacity - 1 - m_length) {
+        AppendCut(text, length);
+        return;
+    }
+    std::memcpy(m_pBuffer + m_length, text, length);
+    m_length += length;
     m_pBuffer[m_length] = '\0';
 }
 
 inline void IxXMLDocGenerator::Append(const char* text) { Append(text, std::strlen(text)); }
+
+/// The same for a name. Most are fixed strings, which have room behind them: they are copied in words, without a call.
+inline void IxXMLDocGenerator::AppendName(const char* name) {
+#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+    const auto& table = ix_xml_common_array_definition::arrXmlStrRef;
+    const std::size_t offset = reinterpret_cast<std::uintptr_t>(name) - reinterpret_cast<std::uintptr_t>(&table[0][0]);
+    if (offset < sizeof table && kCapacity - m_length > sizeof table[0]) {
+        char* to = m_pBuffer + m_length;
+        // A row is longer than its text by more than a word.
+        for (;; name += sizeof(std::uint64_t), to += sizeof(std::uint64_t)) {
+            std::uint64_t word = 0;
+            std::memcpy(&word, name, sizeof word);
+            std::memcpy(to, &word, sizeof word);
+            const std::uint64_t nul = (word - 0x0101010101010101U) & ~word & 0x8080808080808080U;
+            if (nul == 0) continue;
+            m_length = static_cast<std::size_t>(to - m_pBuffer) + (static_cast<std::size_t>(__builtin_ctzll(nul)) >> 3);
+            return;
+        }
+    }
+#endif
+    Append(name);
+}
+
+inline void IxXMLDocGenerator::AppendPrefixed(const char* prefix, const char* name) {
+    if (prefix != nullptr) {
+        Append(prefix);
+        Append(":", 1);
+    }
+    AppendName(name);
+}
+
+inline void IxXMLDocGenerator::AppendValue(const char* value) {
+    Append("=\"", 2);
+    const std::size_t length = value != nullptr ? std::strlen(value) : 0;
+    if (length < kCapacity - 1 - m_length && ixCopyUpTo(m_pBuffer + m_length, value, length, '"')) {
+        m_length += length;
+    } else if (length != 0 && std::memchr(value, '"', length) != nullptr) {
+        char* const escaped = escapeString(value);
+        if (escaped != nullptr) Append(escaped);
+        __free(escaped);
+    } else if (length != 0) {
+        Append(value, length);
+    }
+    Append("\"", 1);
+}
+
+/// Behind the "<".
+inline void IxXMLDocGenerator::StartTag(const char* name, int open) {
+    AppendPrefixed(m_pDefaultPrefix, name);
+    Append(open == 1 ? " " : ">", 1);
+    m_iStartTagOpen = open;
+}
+
+inline void IxXMLDocGenerator::EndAttribute(int selfEnd, int close, bool blank) {
+    if (selfEnd == 1) {
+        Append("/>", 2);
+    } else if (close == 1) {
+        Append(">", 1);
+    } else {
+        if (blank) Append(" ", 1);
+        return;
+    }
+    m_iStartTagOpen = 0;
+}
 
 IxXMLDocGenerator::~IxXMLDocGenerator() { ixDeInitXmlDoc(); }
 
@@ -91,20 +167,14 @@ void IxXMLDocGenerator::ixSetXmlNamespace(const char* prefix) {
 
 void IxXMLDocGenerator::ixStartElement(const char* name, int open) {
     if (m_pBuffer == nullptr || name == nullptr) return;
-    Append("\n", 1);
+    Append("\n<", 2);
     StartTag(name, open);
 }
 
 void IxXMLDocGenerator::ixStartElementWithoutNL(const char* name, int open) {
     if (m_pBuffer == nullptr || name == nullptr) return;
-    StartTag(name, open);
-}
-
-void IxXMLDocGenerator::StartTag(const char* name, int open) {
     Append("<", 1);
-    AppendPrefixed(m_pDefaultPrefix, name);
-    Append(open == 1 ? " " : ">", 1);
-    m_iStartTagOpen = open;
+    StartTag(name, open);
 }
 
 void IxXMLDocGenerator::ixStartElementSelfEnding(const char* name) {
@@ -225,37 +295,4 @@ char* IxXMLDocGenerator::escapeString(const char* value) const {
     }
     *to = '\0';
     return escaped;
-}
-
-void IxXMLDocGenerator::AppendPrefixed(const char* prefix, const char* name) {
-    if (prefix != nullptr) {
-        Append(prefix);
-        Append(":", 1);
-    }
-    Append(name);
-}
-
-void IxXMLDocGenerator::AppendValue(const char* value) {
-    Append("=\"", 2);
-    const std::size_t length = __strlen(value);
-    if (length != 0 && std::memchr(value, '"', length) != nullptr) {
-        char* const escaped = escapeString(value);
-        if (escaped != nullptr) Append(escaped);
-        __free(escaped);
-    } else if (length != 0) {
-        Append(value, length);
-    }
-    Append("\"", 1);
-}
-
-void IxXMLDocGenerator::EndAttribute(int selfEnd, int close, bool blank) {
-    if (selfEnd == 1) {
-        Append("/>", 2);
-    } else if (close == 1) {
-        Append(">", 1);
-    } else {
-        if (blank) Append(" ", 1);
-        return;
-    }
-    m_iStartTagOpen = 0;
 }

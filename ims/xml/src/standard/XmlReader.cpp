@@ -2,7 +2,7 @@
 
 #include <climits>
 
-#include "XmlScan.h"
+#include "../XmlScan.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "XmlElementSupport.h"
 #include "XmlFields.h"
 #include "XmlHooks.h"
-#include "XmlScan.h"
+#include "../XmlScan.h"
 
 namespace {
 
