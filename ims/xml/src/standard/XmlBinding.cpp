@@ -285,7 +285,7 @@ bool XmlBinding::Start() {
     Frame& top = m_frames.Last();
     if (!KeepText(top)) return false;
     const XmlSlice& local = m_reader.Local();
-    const XmlName name(local.text, local.length);
+    const XmlName name = XmlName::OfPadded(local.text, local.length);
     const bool isKnown = top.field == nullptr && name.IsKnown() && top.element->Class() != nullptr;
     const Place place = isKnown ? FindElement(*top.element->Class(), name) : Place();
     if (place.row == nullptr) {
@@ -402,7 +402,7 @@ bool XmlBinding::Attribute(Frame& frame, XmlReaderAttribute& attribute) {
     const bool isOwn = attribute.prefix.length == 0 && frame.field == nullptr && element.Class() != nullptr;
     if (isOwn) {
         const XmlClass& description = *element.Class();
-        const XmlName name(attribute.local.text, attribute.local.length);
+        const XmlName name = XmlName::OfPadded(attribute.local.text, attribute.local.length);
         const Place place = name.IsKnown() ? FindAttribute(description, name) : Place();
         // Markers of presence have fields of their own under names that no document has.
         if (place.row != nullptr && &description != &ix_empty_element_type::kClass &&
@@ -440,9 +440,8 @@ bool XmlBinding::Text() {
 }
 
 /// Keeps the text before a child, or before the end, of an element that has no place for it.
-bool XmlBinding::KeepText(Frame& frame) {
+bool XmlBinding::KeepOther(Frame& frame) {
     const XmlSlice text = frame.text;
-    if (frame.takesText || text.text == nullptr) return true;
     frame.text = {};
     if (XmlReader::IsBlank(text)) return true;
     Find("is a text between elements", text);
@@ -451,7 +450,8 @@ bool XmlBinding::KeepText(Frame& frame) {
 }
 
 bool XmlBinding::End() {
-    Frame frame = m_frames.Last();
+    // It stays as it is until another one is added.
+    Frame& frame = m_frames.Last();
     m_frames.Cut(m_frames.Count() - 1);
     return frame.field != nullptr ? CloseField(frame) : CloseObject(frame);
 }

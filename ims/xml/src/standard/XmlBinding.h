@@ -65,7 +65,8 @@ class XmlBinding {
     bool Root();
     bool Start();
     bool Text();
-    bool KeepText(Frame& frame);
+    bool KeepText(Frame& frame) { return frame.takesText || frame.text.text == nullptr || KeepOther(frame); }
+    bool KeepOther(Frame& frame);
     /// White space counts within a text only.
     bool WantsBlanks() const {
         if (m_frames.Count() == 0) return false;

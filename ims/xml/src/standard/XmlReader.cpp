@@ -95,11 +95,19 @@ Character* NameEnd(Character* text, const char* end) {
     return at;
 }
 
-/// The same in a text that ends with a NUL.
+/// True for the ASCII characters that begin names.
+inline bool Begins(char letter) { return (kBytes.of[static_cast<unsigned char>(letter)] & kNameStart) != 0; }
+
+/// Behind the ASCII characters from `text` on that can stand inside of names.
+inline char* InsideEnd(char* text) {
+    while ((kBytes.of[static_cast<unsigned char>(*text)] & kNameInside) != 0) ++text;
+    return text;
+}
+
+/// The end of a name in a text that ends with a NUL.
 inline char* NameEndIn(char* text, const char* end) {
-    if ((kBytes.of[static_cast<unsigned char>(*text)] & kNameStart) == 0) return NameEnd(text, end);
-    char* at = text + 1;
-    while ((kBytes.of[static_cast<unsigned char>(*at)] & kNameInside) != 0) ++at;
+    if (!Begins(*text)) return NameEnd(text, end);
+    char* const at = InsideEnd(text + 1);
     return static_cast<unsigned char>(*at) < 0x80 ? at : NameEnd(text, end);
 }
 
@@ -397,9 +405,13 @@ bool XmlReader::BindDeclaration(XmlReaderAttribute& attribute) {
 }
 
 bool XmlReader::UriOf(const XmlSlice& prefix, XmlUri& uri) {
-    const unsigned number = m_prefixes.Find(prefix);
+    // Prefixes repeat.
+    const bool isLast = prefix.length == m_lastPrefix.length && AreSame(prefix.text, m_lastPrefix.text, prefix.length);
+    const unsigned number = isLast ? m_lastNumber : m_prefixes.Find(prefix);
     if (number != XmlNameTable::kNone && m_bound[number + 1] != 0) {
         uri = m_bindings[m_bound[number + 1] - 1].uri;
+        m_lastPrefix = prefix;
+        m_lastNumber = number;
         return true;
     }
     uri = ixUri(XmlNamespace::Xml);
@@ -409,13 +421,13 @@ bool XmlReader::UriOf(const XmlSlice& prefix, XmlUri& uri) {
 /// Gives the names of the start tag their namespaces.
 bool XmlReader::Resolve() {
     const std::size_t count = m_attributes.Count();
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count && m_isQualified; ++i) {
         XmlReaderAttribute& attribute = m_attributes[i];
         if (attribute.declares && !BindDeclaration(attribute)) return false;
     }
     m_uri = m_default;
     if (m_prefix.length != 0 && !UriOf(m_prefix, m_uri)) return false;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count && m_isQualified; ++i) {
         XmlReaderAttribute& attribute = m_attributes[i];
         if (attribute.prefix.length == 0) continue;
         if (attribute.declares) {
@@ -537,28 +549,39 @@ XmlReader::Event XmlReader::Start() {
 /// was read.
 bool XmlReader::PlainAttribute() {
     char* const begin = m_at + 1;
-    if (*m_at != ' ' || (kBytes.of[static_cast<unsigned char>(*begin)] & kNameStart) == 0) return false;
-    char* end = begin + 1;
-    while ((kBytes.of[static_cast<unsigned char>(*end)] & kNameInside) != 0) ++end;
+    if (*m_at != ' ' || !Begins(*begin)) return false;
+    char* local = begin;
+    char* end = InsideEnd(begin + 1);
+    if (*end == ':' && Begins(end[1])) {
+        local = end + 1;
+        end = InsideEnd(local + 1);
+    }
     const char quote = end[0] == '=' ? end[1] : '\0';
     if (quote != '"' && quote != '\'') return false;
     char* const value = end + 2;
     char* const close = ixNextSpecial(value, quote);
     XmlReaderAttribute* const attribute = *close == quote ? m_attributes.Room(1) : nullptr;
     if (attribute == nullptr) return false;
-    attribute->prefix = {begin, 0};
-    attribute->local = {begin, static_cast<std::size_t>(end - begin)};
+    attribute->prefix = {begin, local != begin ? static_cast<std::size_t>(local - begin) - 1 : 0};
+    attribute->local = {local, static_cast<std::size_t>(end - local)};
     attribute->value = {value, static_cast<std::size_t>(close - value)};
     attribute->uri = 0;
     attribute->isRaw = false;
-    attribute->declares = *begin == 'x' && Is(attribute->local, kXmlnsWord);
+    NoteDeclaration(*attribute);
     m_at = close + 1;
     return true;
+}
+
+void XmlReader::NoteDeclaration(XmlReaderAttribute& attribute) {
+    const XmlSlice& name = attribute.prefix.length != 0 ? attribute.prefix : attribute.local;
+    attribute.declares = *name.text == 'x' && Is(name, kXmlnsWord);
+    m_isQualified = m_isQualified || attribute.declares || attribute.prefix.length != 0;
 }
 
 /// Up to the end of the tag.
 bool XmlReader::Attributes() {
     m_attributes.Cut(0);
+    m_isQualified = false;
     for (;;) {
         while (PlainAttribute()) {
         }
@@ -578,8 +601,7 @@ bool XmlReader::Attributes() {
         if (!m_attributes.Add({})) return RefuseMemory();
         XmlReaderAttribute& attribute = m_attributes.Last();
         if (!QName(attribute.prefix, attribute.local)) return Refuse("not the name of an attribute", m_at);
-        attribute.declares =
-            attribute.prefix.length != 0 ? Is(attribute.prefix, kXmlnsWord) : Is(attribute.local, kXmlnsWord);
+        NoteDeclaration(attribute);
         if (!Value(attribute)) return false;
     }
 }

@@ -229,6 +229,7 @@ class XmlReader {
     Event TextRun();
     bool Attributes();
     bool PlainAttribute();
+    void NoteDeclaration(XmlReaderAttribute& attribute);
     bool Value(XmlReaderAttribute& attribute);
     bool Resolve();
     bool HasTwins();
@@ -268,6 +269,9 @@ class XmlReader {
     XmlUriTable m_uris;
     XmlArray<char*> m_kept;  ///< Texts of namespaces that are not in the copy as they are.
     XmlArray<XmlReaderAttribute> m_attributes;
+    bool m_isQualified = false;  ///< Of the last start: some attribute has a prefix, or declares one.
+    XmlSlice m_lastPrefix;       ///< That was looked up last, with success ...
+    unsigned m_lastNumber = 0;   ///< ... and its number.
     XmlUri m_default = 0;
     XmlUri m_rootUri = 0;
     XmlArray<unsigned> m_needed;  ///< Prefixes that a piece needs declared ...

@@ -1,9 +1,9 @@
 #include "XmlWriter.h"
 
+#include "../XmlScan.h"
 #include "XmlElementSupport.h"
 #include "XmlFields.h"
 #include "XmlHooks.h"
-#include "../XmlScan.h"
 
 namespace {
 
