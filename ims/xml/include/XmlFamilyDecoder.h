@@ -284,10 +284,10 @@ class IX_XML_EXPORT XmlFamilyDecoder : public XmlDecoderSchema {
     static const XmlField* KnownRow(const XmlContainerRow* row, const XMLElement& receiver, XmlName attribute);
     bool EndContainer(const XmlContainerRow& row, const XmlTag& tag, char* text, bool& offered);
     bool IsReported(const char* name) const { return m_pTokenizer != nullptr && m_pTokenizer->IsReported(name); }
-    int MapPrefix(char* tag, std::size_t length, bool stays);
-    int RemovePrefix(char* tag, std::size_t length, bool stays);
-    char* ComparedName(char* element, std::size_t length, bool stays);
-    XmlName ComparedNumber(const char* name, const XmlElementName* known) const;
+    int MapPrefix(char* tag, std::size_t length, const XmlElementName* known);
+    int RemovePrefix(char* tag, std::size_t length, const XmlElementName* known);
+    char* ComparedName(char* element, std::size_t length, const XmlElementName* known);
+    XmlName ComparedNumber(const char* name, const char* element, const XmlElementName* known) const;
     void KeepStarted(const char* element, std::size_t length);
     bool IsStarted(const char* element, const char* attribute) const;
     bool KeepOrphan(XMLElement* object);

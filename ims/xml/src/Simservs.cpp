@@ -27,6 +27,7 @@ constexpr XmlDecoderInfo kInfo = Info();
 XMLSimservsDecoder::XMLSimservsDecoder() : XmlFamilyDecoder(kInfo) {}
 
 int XMLSimservsDecoder::StartElement(const XmlTag& tag) {
+    if (*tag.text != 's') return XmlFamilyDecoder::StartElement(tag);
     // Required: a name is compared over its own length, or over that of "simserv" when it is shorter. So the beginnings
     // "simserv" and "ss:sims" to "ss:simserv" are roots as well.
     char root[] = "simservs";

@@ -41,32 +41,33 @@ int XmlFamilyDecoder::SetNameSpaceBinderInfo(XMLObject* binder) {
 
 int XmlFamilyDecoder::XMLChangeNamespaceTag(const char* tag) {
     m_pMappedTag = nullptr;
-    return tag != nullptr ? MapPrefix(const_cast<char*>(tag), std::strlen(tag), false) : 0;
+    return tag != nullptr ? MapPrefix(const_cast<char*>(tag), std::strlen(tag), nullptr) : 0;
 }
 
-/// @param stays the tag has no prefix, and is used where it stands. The memory for a copy is needed all the same.
-int XmlFamilyDecoder::MapPrefix(char* tag, std::size_t length, bool stays) {
+/// @param known what the tokenizer knows of the name: a tag that stays as it is then needs no copy. The memory for one
+/// is needed all the same. NULL: nothing.
+int XmlFamilyDecoder::MapPrefix(char* tag, std::size_t length, const XmlElementName* known) {
     m_pMappedTag = nullptr;
     const bool isEnd = *tag == '/';
     if (!m_mappedText.Reserve(length + 2)) {
         ixLog(m_info.source, isEnd ? m_info.texts.changeEndTagNoMemory : m_info.texts.changeTagNoMemory);
         return 0;
     }
-    if (stays) {
-        m_pMappedTag = tag;
-        return 1;
-    }
     const char* const name = isEnd ? tag + 1 : tag;
     const char* const end = tag + length;
-    const char* const colon = FindColon(name, end);
+    const char* const colon = known == nullptr           ? FindColon(name, end)
+                              : known->prefixLength != 0 ? name + known->prefixLength - 1
+                                                         : end;
+    const auto ownLength = static_cast<std::size_t>(colon - name);
     const XmlNamespaceTable::Entry* const entry =
-        colon != end ? m_namespaces.FindDocumentPrefix(name, static_cast<std::size_t>(colon - name)) : nullptr;
-    if (entry == nullptr || *entry->canonicalPrefix == '\0') {
-        std::memcpy(m_mappedText.Text(), tag, length + 1);
-        m_pMappedTag = m_mappedText.Text();
+        colon != end ? m_namespaces.FindDocumentPrefix(name, ownLength) : nullptr;
+    const char* const prefix = entry != nullptr ? entry->canonicalPrefix : "";
+    const std::size_t prefixLength = std::strlen(prefix);
+    if (prefixLength == 0 || (prefixLength == ownLength && std::memcmp(prefix, name, ownLength) == 0)) {
+        m_pMappedTag = known != nullptr ? tag : m_mappedText.Text();
+        if (known == nullptr) std::memcpy(m_pMappedTag, tag, length + 1);
         return 1;
     }
-    const std::size_t prefixLength = std::strlen(entry->canonicalPrefix);
     const auto localSize = static_cast<std::size_t>(end - colon) + 1;
     if (!m_mappedText.Reserve(prefixLength + localSize + 2)) {
         ixLog(m_info.source, isEnd ? m_info.texts.mappedEndTagNoMemory : m_info.texts.mappedTagNoMemory);
@@ -74,7 +75,7 @@ int XmlFamilyDecoder::MapPrefix(char* tag, std::size_t length, bool stays) {
     }
     char* to = m_mappedText.Text();
     if (isEnd) *to++ = '/';
-    std::memcpy(to, entry->canonicalPrefix, prefixLength);
+    std::memcpy(to, prefix, prefixLength);
     std::memcpy(to + prefixLength, colon, localSize);
     m_pMappedTag = m_mappedText.Text();
     return 1;
@@ -82,13 +83,13 @@ int XmlFamilyDecoder::MapPrefix(char* tag, std::size_t length, bool stays) {
 
 int XmlFamilyDecoder::XMLRemoveNameSpaceTag(const char* tag) {
     m_pPassName = nullptr;
-    if (tag != nullptr) return RemovePrefix(const_cast<char*>(tag), std::strlen(tag), false);
+    if (tag != nullptr) return RemovePrefix(const_cast<char*>(tag), std::strlen(tag), nullptr);
     ixLog(m_info.source, m_info.texts.removeTagNoTag);
     return 0;
 }
 
-/// @param stays as above.
-int XmlFamilyDecoder::RemovePrefix(char* tag, std::size_t length, bool stays) {
+/// @param known as above.
+int XmlFamilyDecoder::RemovePrefix(char* tag, std::size_t length, const XmlElementName* known) {
     m_pPassName = nullptr;
     std::size_t size = length + 2;
     // Required: some decoders count the size in 16 bits, so that of a name of 65534 characters and more only the
@@ -98,15 +99,16 @@ int XmlFamilyDecoder::RemovePrefix(char* tag, std::size_t length, bool stays) {
         ixLog(m_info.source, m_info.texts.removeTagNoMemory);
         return 0;
     }
-    if (stays) {
-        m_pPassName = tag;
+    const bool isEnd = *tag == '/';
+    if (known != nullptr && (known->prefixLength == 0 || !isEnd)) {
+        m_pPassName = tag + known->prefixLength;
         return 1;
     }
     const char* const end = tag + (length < size ? length : size - (size != 0 ? 1 : 0));
     char* to = m_passText.Text();
     m_pPassName = to;
     const char* name = tag;
-    if (*name == '/' && name != end) *to++ = *name++;
+    if (isEnd && name != end) *to++ = *name++;
     const char* const colon = FindColon(name, end);
     if (colon != end) name = colon + 1;
     const auto localLength = static_cast<std::size_t>(end - name);
@@ -116,14 +118,14 @@ int XmlFamilyDecoder::RemovePrefix(char* tag, std::size_t length, bool stays) {
 }
 
 /// The name as the tables of the schema have it; NULL without memory.
-/// @param stays see `MapPrefix`.
-char* XmlFamilyDecoder::ComparedName(char* element, std::size_t length, bool stays) {
+/// @param known see `MapPrefix`.
+char* XmlFamilyDecoder::ComparedName(char* element, std::size_t length, const XmlElementName* known) {
     switch (m_info.names) {
         case XmlNamePolicy::Mapped:
-            MapPrefix(element, length, stays);
+            MapPrefix(element, length, known);
             return m_pMappedTag;
         case XmlNamePolicy::Stripped:
-            RemovePrefix(element, length, stays);
+            RemovePrefix(element, length, known);
             return m_pPassName;
         default:
             return element;
@@ -131,11 +133,10 @@ char* XmlFamilyDecoder::ComparedName(char* element, std::size_t length, bool sta
 }
 
 /// The number of a name as it is compared.
-XmlName XmlFamilyDecoder::ComparedNumber(const char* name, const XmlElementName* known) const {
-    const bool isMapped = m_info.names == XmlNamePolicy::Mapped;
-    if (known != nullptr && (!isMapped || known->prefixLength == 0)) {
-        return m_info.names == XmlNamePolicy::Stripped ? known->local : known->whole;
-    }
+/// @param known what the tokenizer knows of it as `element`; NULL: nothing.
+XmlName XmlFamilyDecoder::ComparedNumber(const char* name, const char* element, const XmlElementName* known) const {
+    if (known != nullptr && m_info.names == XmlNamePolicy::Stripped) return known->local;
+    if (known != nullptr && name == element) return known->whole;
     if (*name == '/') ++name;
     return {name, std::strlen(name)};
 }
@@ -155,10 +156,9 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
     const std::size_t length = LengthOf(element);
     const XmlElementName* known = m_pTokenizer != nullptr ? m_pTokenizer->ElementOf(element) : nullptr;
     if (length > kLongestPlain) known = nullptr;
-    const bool stays = known != nullptr && known->prefixLength == 0;
     // Where names are compared with their prefix, the local name is at hand as well.
-    const bool ready = m_info.names != XmlNamePolicy::Mapped || RemovePrefix(element, length, stays) != 0;
-    char* const name = ready ? ComparedName(element, length, stays) : nullptr;
+    const bool ready = m_info.names != XmlNamePolicy::Mapped || RemovePrefix(element, length, known) != 0;
+    char* const name = ready ? ComparedName(element, length, known) : nullptr;
     if (name == nullptr) {
         m_pPassName = nullptr;
         m_pMappedTag = nullptr;
@@ -166,7 +166,7 @@ int XmlFamilyDecoder::ProcessElement(char* element, char* text) {
         return -1;
     }
     const bool isEnd = *name == '/';
-    const XmlTag tag(name, isEnd, ComparedNumber(name, known));
+    const XmlTag tag(name, isEnd, ComparedNumber(name, element, known));
     if (isEnd) return EndElement(tag, text);
     KeepStarted(element, length);
     return StartElement(tag);
@@ -197,7 +197,7 @@ int XmlFamilyDecoder::ProcessAttribute(char* element, char* attribute, char* val
     if (*attribute == '\0') return 0;
     const XmlContainerRow* row = m_started.row;
     if (!IsStarted(element, attribute)) {
-        char* const name = ComparedName(element, std::strlen(element), false);
+        char* const name = ComparedName(element, std::strlen(element), nullptr);
         if (name == nullptr) {
             ixLog(m_info.source, m_info.texts.noAttributeName);
             return -1;

@@ -74,8 +74,10 @@ bool XmlNamespaceTable::SetDocumentPrefix(Entry& entry, const char* prefix) {
 const XmlNamespaceTable::Entry* XmlNamespaceTable::FindDocumentPrefix(const char* prefix, std::size_t length) const {
     for (const Entry* entry = m_pFirst; entry != nullptr; entry = entry->next) {
         if (entry->documentPrefix == nullptr) continue;
-        if (std::strncmp(entry->documentPrefix, prefix, length) == 0 && entry->documentPrefix[length] == '\0')
-            return entry;
+        // Prefixes are short: not worth a call.
+        std::size_t i = 0;
+        while (i < length && entry->documentPrefix[i] == prefix[i]) ++i;
+        if (i == length && entry->documentPrefix[i] == '\0') return entry;
     }
     return nullptr;
 }
