@@ -6,6 +6,8 @@
 /// - Namespace: uri:3gpp-gba. It is not expected; it is written as the default namespace.
 /// - Prefixes: removed. Of an element name of 65534 characters or more only the beginning is looked at.
 /// - Read and written. Other elements are logged and lost; attributes are lost.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_BOOTSTRAPPING_INFO_H
 #define IX_XML_BOOTSTRAPPING_INFO_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_bootstrappinginfo : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_BOOTSTRAPPING_INFO, class BootstrappingInfoDataBinder>;
 
     ix_bootstrappinginfo() : XmlDescribedObject(kClass) {}
     ~ix_bootstrappinginfo() override { ixRelease(*this, kClass); }

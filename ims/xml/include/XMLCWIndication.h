@@ -9,6 +9,8 @@
 /// - Prefixes: removed.
 /// - Read and written. The three texts are always written, one that was not set without content. Lost: other attributes
 ///   and elements, and all but the last `alternative-service`.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_CW_INDICATION_H
 #define IX_XML_CW_INDICATION_H
 
@@ -38,6 +40,7 @@ class IX_XML_EXPORT ix_alternative_service : public XmlDescribedElement {
 class IX_XML_EXPORT ix_ims_3gpp : public ix_imsBodyType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_CW_INDICATION, class CWIndicationDataBinder>;
 
     ix_ims_3gpp() : ix_imsBodyType(kClass) {}
     ~ix_ims_3gpp() override { ixRelease(*this, kClass); }

@@ -8,6 +8,8 @@
 /// - Prefixes: removed.
 /// - Read and written. Lost: `version`, which is written when it was set but never read; other attributes and elements;
 ///   and an `alternative-service` behind the first one.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_CALL_WAITING_INDICATION_H
 #define IX_XML_CALL_WAITING_INDICATION_H
 
@@ -47,6 +49,7 @@ class IX_XML_EXPORT ix_ns_call_waiting_indication_alternative_service : public X
 class IX_XML_EXPORT ix_3gpp_ims : public ix_imsBodyType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_CALL_WAITING_INDICATION, class CallWaitingIndicationDataBinder>;
 
     ix_3gpp_ims() : ix_imsBodyType(kClass) {}
     ~ix_3gpp_ims() override { ixRelease(*this, kClass); }

@@ -103,6 +103,10 @@ class IX_XML_EXPORT ix_AttributeValuePair : public XMLAttribute {
     char* mValue = nullptr;  ///< Owned; NULL: not set.
 };
 
+/// A pair with copies of both texts, NULL for NULL, registered under `source` and `line`; NULL without memory.
+IX_XML_EXPORT ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source,
+                                                  int line = __builtin_LINE());
+
 /// `attribute` as a pair, or NULL when it is none.
 IX_XML_EXPORT ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute);
 

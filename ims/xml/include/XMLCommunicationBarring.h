@@ -10,6 +10,8 @@
 /// `cp:`, both with the prefixes of a namespace binder as well. Written with `ss:` and `cp:`, or those of the binder.
 /// - Read and written. Lost on writing: the content of `transformations` and `forward-to`, the condition
 /// `presence-status`, and elements that this library does not know.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_COMMUNICATION_BARRING_H
 #define IX_XML_COMMUNICATION_BARRING_H
 
@@ -36,6 +38,7 @@ class IX_XML_EXPORT ix_allow_action_type : public XmlDescribedElement {
 class IX_XML_EXPORT ix_incoming_communication_barring : public ix_ns_xcap_ruleServiceType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_COMMUNICATION_BARRING, class CommunicationBarringDataBinder>;
 
     ix_incoming_communication_barring() : ix_ns_xcap_ruleServiceType(kClass) {}
 };
@@ -44,6 +47,7 @@ class IX_XML_EXPORT ix_incoming_communication_barring : public ix_ns_xcap_ruleSe
 class IX_XML_EXPORT ix_outgoing_communication_barring : public ix_ns_xcap_ruleServiceType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_COMMUNICATION_BARRING, class CommunicationBarringDataBinder>;
 
     ix_outgoing_communication_barring() : ix_ns_xcap_ruleServiceType(kClass) {}
 };

@@ -10,6 +10,8 @@
 /// `cp:`, both with the prefixes of a namespace binder as well. Written with `ss:` and `cp:`, or those of the binder.
 /// - Read and written. Lost on writing: the content of `transformations`, the condition `presence-status`, and elements
 /// that this library does not know. Lost on reading: a timer that follows the ruleset.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_COMMUNICATION_DIVERSION_H
 #define IX_XML_COMMUNICATION_DIVERSION_H
 
@@ -35,6 +37,7 @@ class IX_XML_EXPORT ix_NoReplyTimer : public XmlDescribedElement {
 class IX_XML_EXPORT ix_communication_diversion : public ix_ns_xcap_ruleServiceType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_COMMUNICATION_DIVERSION, class CommunicationDiversionDataBinder>;
 
     ix_communication_diversion() : ix_ns_xcap_ruleServiceType(kClass) {}
     ~ix_communication_diversion() override { ixDelete(mNoReplyTimer); }

@@ -6,6 +6,8 @@
 /// - Prefixes: mapped. The element is recognised without a prefix and as `ss:`, and with the prefix of a namespace
 /// binder.
 /// - Read and written.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_COMMUNICATION_WAITING_H
 #define IX_XML_COMMUNICATION_WAITING_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_communication_waiting : public ix_ns_xcap_simservType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_COMMUNICATION_WAITING, class CommunicationWaitingDataBinder>;
 
     /// Unlike the other services, a new one is inactive.
     ix_communication_waiting() : ix_ns_xcap_simservType(kClass) { mActive = 0; }

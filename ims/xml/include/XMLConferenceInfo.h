@@ -7,6 +7,8 @@
 /// - Read and written, with the attributes that the schema does not know. Elements that it does not know are lost, and
 ///   so are the attributes of text elements, repeated elements that may occur once (but for the last), counts and
 ///   versions of 0, words of an enumeration that it does not have, and the white space around keywords and languages.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_CONFERENCE_INFO_H
 #define IX_XML_CONFERENCE_INFO_H
 
@@ -408,6 +410,7 @@ class IX_XML_EXPORT ix_sidebars_by_val_type : public ix_conference_statefulType 
 class IX_XML_EXPORT ix_conference_type : public ix_conference_statefulType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_CONFERENCE_INFO, class ConferenceInfoDataBinder>;
 
     ix_conference_type() : ix_conference_statefulType(kClass) {}
     ~ix_conference_type() override { ixRelease(*this, kClass); }

@@ -190,6 +190,13 @@ class IX_XML_EXPORT XMLFactory {
     static const XmlSchemaInfo* SchemaInfo(int id);
 };
 
+/// What documents with a root of some class are: the member `Document` of that class.
+template <eXMLSchemaID schema, class BinderFactory>
+struct XmlDocumentOf {
+    static constexpr eXMLSchemaID kSchema = schema;
+    using Factory = BinderFactory;  ///< What `XMLContext::createBinderFactory` creates.
+};
+
 /// Frees trees and contexts for `std::unique_ptr`.
 struct XmlDeleter {
     void operator()(XMLElement* element) const { XMLFactory::DeleteElement(element); }

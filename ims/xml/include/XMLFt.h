@@ -6,6 +6,8 @@
 /// - Namespace: none is expected or written.
 /// - Prefixes: removed.
 /// - Read and written. Other elements (`file-name`, `content-type`) and other attributes are lost.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_FT_H
 #define IX_XML_FT_H
 
@@ -55,6 +57,7 @@ class IX_XML_EXPORT ix_ns_ft_file_info : public XmlDescribedElement {
 class IX_XML_EXPORT ix_file : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_FILE, class FileDataBinder>;
 
     ix_file() : XmlDescribedObject(kClass) {}
     ~ix_file() override { ixRelease(*this, kClass); }

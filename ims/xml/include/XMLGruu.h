@@ -5,6 +5,8 @@
 /// - Namespace: urn:ietf:params:xml:ns:gruuinfo. It is neither expected nor written.
 /// - Prefixes: removed.
 /// - Read and written. Other attributes, namespace declarations among them, are refused with a log line and lost.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_GRUU_H
 #define IX_XML_GRUU_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_gruuType : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_GRUU, class GruuDataBinder>;
 
     ~ix_gruuType() override { ixRelease(*this, kClass); }
 

@@ -10,6 +10,8 @@
 ///   under a name that is not read back. Attributes of the root and of `status`, and of the texts and values inside
 ///   them, are written back on these two, which makes a namespace declared on a text a second declaration of the root;
 ///   those of notifications are lost. Elements of other schemas are lost, those of the root with a log line.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_IMDN_H
 #define IX_XML_IMDN_H
 
@@ -164,6 +166,7 @@ class IX_XML_EXPORT ix_processing_notification : public ix_notificationType {
 class IX_XML_EXPORT ix_imdn : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_IMDN, class IMDNDataBinder>;
 
     ix_imdn() : XmlDescribedObject(kClass) {}
     ~ix_imdn() override { ixRelease(*this, kClass); }

@@ -6,6 +6,8 @@
 /// - Prefixes: removed.
 /// - Read and written, the elements in the order above. Attributes, namespace declarations among them, and other
 ///   elements are lost with a log line; an attribute with the name of one of the four elements is lost without.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_IS_COMPOSING_H
 #define IX_XML_IS_COMPOSING_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_isComposing : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_IS_COMPOSING, class IsComposingDataBinder>;
 
     ix_isComposing() : XmlDescribedObject(kClass) {}
     ~ix_isComposing() override { ixRelease(*this, kClass); }

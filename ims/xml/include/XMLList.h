@@ -30,6 +30,16 @@ class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
     /// Unlinks the first node that holds `key`. A NULL key is never found. @return 1, or 0.
     unsigned int Remove(void* key);
 
+    /// Puts `key` in front of the first node that holds `before`. @return 1, or 0 without memory and when there is no
+    /// such node, the list unchanged.
+    unsigned int InsertBefore(void* key, const void* before);
+
+    /// Puts `with` in place of the first `key`. @return 1, or 0 when there is none.
+    unsigned int Replace(const void* key, void* with);
+
+    /// True when a node holds `key`. A NULL key is never found.
+    bool Has(const void* key) const;
+
     /// The key at a zero-based index, or NULL. Walks from the head: to visit all entries, use `XmlEntries`.
     void* GetKeyAtIndex(unsigned short index) const;
 
@@ -54,6 +64,8 @@ class IX_XML_EXPORT IxSingleElementList : public XmlHeapObject {
     unsigned short m_iListCount = 0;  ///< The number of entries, modulo 65536; to be read only.
 
   private:
+    IxSingleElementNode* Find(const void* key, IxSingleElementNode*& before) const;
+
     IxSingleElementNode* m_pHead = nullptr;
     IxSingleElementNode* m_pLast = nullptr;
     bool m_bTaken = false;

@@ -7,6 +7,8 @@
 /// - Prefixes: removed, but `picture_fast_update` is written back with the prefix it came with.
 /// - Read and written. Attributes and other elements (`stream_id`, `general_error`) are lost; an unknown element behind
 ///   `picture_fast_update`, inside `to_encoder`, cancels it.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_MEDIA_CONTROL_H
 #define IX_XML_MEDIA_CONTROL_H
 
@@ -46,6 +48,7 @@ class IX_XML_EXPORT ix_vc_primitive : public XmlDescribedElement {
 class IX_XML_EXPORT ix_media_control : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_MEDIA_CONTROL, class MediaControlDataBinder>;
 
     ix_media_control() : XmlDescribedObject(kClass) {}
     ~ix_media_control() override { ixRelease(*this, kClass); }

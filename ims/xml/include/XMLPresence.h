@@ -13,6 +13,8 @@
 /// Because names are compared without prefix, elements of other namespaces that have the local name of one of ours are
 /// taken for it where they meet an object that takes it: a `note` of a person or device becomes one of the presentity,
 /// a `basic` below a `status` its value.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_PRESENCE_H
 #define IX_XML_PRESENCE_H
 
@@ -113,6 +115,7 @@ class IX_XML_EXPORT ix_tuple : public XmlDescribedElement {
 class IX_XML_EXPORT ix_presence : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_PRESENCE, class PresenceDataBinder>;
 
     ix_presence() : XmlDescribedObject(kClass) {}
     ~ix_presence() override { ixRelease(*this, kClass); }

@@ -6,6 +6,8 @@
 /// - Namespace: none is expected or written.
 /// - Prefixes: removed.
 /// - Read and written. Other attributes and elements are lost.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_RCS_TERMS_INFO_H
 #define IX_XML_RCS_TERMS_INFO_H
 
@@ -32,6 +34,7 @@ class IX_XML_EXPORT ix_ns_rcs_terms_info_term : public XmlDescribedElement {
 class IX_XML_EXPORT ix_rcs_terms_info : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_RCS_TERMS_INFO, class RcsTermsInfoDataBinder>;
 
     ix_rcs_terms_info() : XmlDescribedObject(kClass) {}
     ~ix_rcs_terms_info() override { ixRelease(*this, kClass); }

@@ -8,6 +8,8 @@
 /// - Prefixes: removed; any prefix will do. Written: none, and "gr" for the GRUUs.
 /// - Read and written. Other attributes are refused with a log line and lost. Of the unknown elements, those that are
 ///   known in another place are kept in a list and not written, the others are logged and lost.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_REGINFO_H
 #define IX_XML_REGINFO_H
 
@@ -170,6 +172,7 @@ class IX_XML_EXPORT ix_registration : public XmlDescribedElement {
 class IX_XML_EXPORT ix_reginfo : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_REGINFO, class ReginfoDataBinder>;
 
     ix_reginfo() : XmlDescribedObject(kClass) {}
     ~ix_reginfo() override { ixRelease(*this, kClass); }

@@ -8,6 +8,8 @@
 /// - Read and written. The attributes of `resource-lists` and of `display-name` and unknown elements are lost. Of
 ///   lists more than 99 levels deep in a document the attributes are lost, and their content is filed in outer lists
 ///   (XmlCodeGenStack).
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_RESOURCE_LIST_H
 #define IX_XML_RESOURCE_LIST_H
 
@@ -122,6 +124,7 @@ class IX_XML_EXPORT ix_listType : public ix_listMemberType {
 class IX_XML_EXPORT ix_resource_lists : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_RESOURCE_LISTS, class ResourceListsDataBinder>;
 
     ix_resource_lists() : XmlDescribedObject(kClass) {}
     ~ix_resource_lists() override { ixRelease(*this, kClass); }

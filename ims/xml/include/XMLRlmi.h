@@ -8,6 +8,8 @@
 /// - Read and written. The `cid` and the other attributes of the list are read and never written: a list with a `cid`
 ///   is written with a second declaration of the namespace in its place, which makes the text no well-formed XML. The
 ///   attributes of names and unknown elements are lost.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_RLMI_H
 #define IX_XML_RLMI_H
 
@@ -98,6 +100,7 @@ class IX_XML_EXPORT ix_resource : public XmlDescribedElement {
 class IX_XML_EXPORT ix_list : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_LIST, class ListDataBinder>;
 
     ix_list() : XmlDescribedObject(kClass) {}
     ~ix_list() override { ixRelease(*this, kClass); }

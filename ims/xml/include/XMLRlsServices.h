@@ -9,6 +9,8 @@
 ///   with exactly this prefix, all others, `display-name` among them, without one.
 /// - Read and written. A service's own list is read and never written; the attributes of all elements but `service` and
 ///   those of its list are lost, and so are unknown elements.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_RLS_SERVICES_H
 #define IX_XML_RLS_SERVICES_H
 
@@ -80,6 +82,7 @@ class IX_XML_EXPORT ix_ns_rls_services_serviceType : public XmlDescribedElement 
 class IX_XML_EXPORT ix_rls_services : public XmlDescribedObject {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_RLS_SERVICES, class RlsServicesDataBinder>;
 
     ix_rls_services() : XmlDescribedObject(kClass) {}
     ~ix_rls_services() override { ixRelease(*this, kClass); }

@@ -6,6 +6,8 @@
 /// begins with "xmlns".
 /// - Prefixes: not looked at.
 /// - Read only. The result serves as namespace binder (`XMLContext::SetNamespaceBinder`).
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_SCHEMA_NAME_SPACE_RETRIEVAL_H
 #define IX_XML_SCHEMA_NAME_SPACE_RETRIEVAL_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_schema_namespace_retrieval : public XmlNamespaceBinder {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL, class SchemaNamespaceRetrievalDataBinder>;
 
     ix_schema_namespace_retrieval() : XmlNamespaceBinder(kClass) {}
     ~ix_schema_namespace_retrieval() override { ixRelease(*this, kClass); }

@@ -17,15 +17,23 @@
 /// part of it as service (the first rule, media type ... in it), which is never written.
 /// - A name that stands anywhere else, in an attribute value or a comment, takes what surrounds it with it.
 /// - Required: a name that neither an end tag nor "/>" follows keeps `UnMarshall` busy without end.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_SIMSERVS_H
 #define IX_XML_SIMSERVS_H
 
+#include "XMLCommunicationBarring.h"
+#include "XMLCommunicationDiversion.h"
+#include "XMLCommunicationWaiting.h"
+#include "XMLOriginatingIdentityPresentation.h"
+#include "XMLTerminatingIdentityPresentation.h"
 #include "XmlFamily.h"
 
 /// The element `simservs`.
 class IX_XML_EXPORT ix_Simservs : public XmlDescribedElement {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_SIMSERVS, class SimservsDataBinder>;
 
     ix_Simservs() : XmlDescribedElement(kClass) {}
     ~ix_Simservs() override { ixRelease(*this, kClass); }

@@ -6,6 +6,8 @@
 /// - Namespace: http://uri.etsi.org/ngn/params/xml/simservs/xcap.
 /// - Prefixes: removed, whatever they are; written with `ss:`, or the prefix of a namespace binder.
 /// - Read and written. Other attributes of the document, those of child elements among them, are kept and written back.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_TERMINATING_IDENTITY_PRESENTATION_H
 #define IX_XML_TERMINATING_IDENTITY_PRESENTATION_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_terminating_identity_presentation : public ix_ns_xcap_simservType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_TIP, class TIPDataBinder>;
 
     ix_terminating_identity_presentation() : ix_ns_xcap_simservType(kClass) {}
 };

@@ -6,6 +6,8 @@
 ///   what is in them, how it is decoded, and what is lost.
 /// - Namespace: none. Names are compared as they stand in the document, prefix included.
 /// - Read only.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_VOLTE_CONFIG_INFO_H
 #define IX_XML_VOLTE_CONFIG_INFO_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_volte_config_info : public ix_characteristicDocType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_VOLTE_CONFIG_INFO, class VolteConfigInfoDataBinder>;
 
     ix_volte_config_info() : ix_characteristicDocType(kClass) {}
 };

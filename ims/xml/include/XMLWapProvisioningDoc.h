@@ -6,6 +6,8 @@
 ///   what is in them, how it is decoded, and what is lost.
 /// - Namespace: none. Names are compared as they stand in the document, prefix included.
 /// - Read only.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_WAP_PROVISIONING_DOC_H
 #define IX_XML_WAP_PROVISIONING_DOC_H
 
@@ -15,6 +17,7 @@
 class IX_XML_EXPORT ix_wap_provisioning_doc : public ix_characteristicDocType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_WAP_PROVISIONING_DOC, class WapProvisioningDocDataBinder>;
 
     ix_wap_provisioning_doc() : ix_characteristicDocType(kClass) {}
 };

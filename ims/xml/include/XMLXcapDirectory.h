@@ -7,6 +7,8 @@
 /// - Prefixes: removed.
 /// - Read and written, without XML declaration. An unknown attribute is kept on an `entry` and lost elsewhere; unknown
 ///   elements are lost.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_XCAP_DIRECTORY_H
 #define IX_XML_XCAP_DIRECTORY_H
 
@@ -72,6 +74,7 @@ class IX_XML_EXPORT ix_folder : public XmlDescribedElement {
 class IX_XML_EXPORT ix_xcap_directory : public XmlDescribedElement {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_XCAP_DIRECTORY, class XcapDirectoryDataBinder>;
 
     ix_xcap_directory() : XmlDescribedElement(kClass) {}
     ~ix_xcap_directory() override { ixRelease(*this, kClass); }

@@ -7,6 +7,8 @@
 /// - Prefixes: removed. An element `error-element` is seen through: what is in it counts as if it were not there.
 /// - Read and written, with XML declaration. A phrase of the root is read and not written. The contents of `extension`,
 ///   and all other attributes and elements, are lost. Of several conditions the last one is kept.
+///
+/// A program needs this header and XmlDocument.h.
 #ifndef IX_XML_XCAP_ERROR_H
 #define IX_XML_XCAP_ERROR_H
 
@@ -32,6 +34,7 @@ class IX_XML_EXPORT ix_phraseType : public XmlDescribedElement {
 class IX_XML_EXPORT ix_xcap_error : public ix_phraseType {
   public:
     static const XmlClass kClass;
+    using Document = XmlDocumentOf<IX_XML_SCHEMA_XCAP_ERROR, class XcapErrorDataBinder>;
 
     ix_xcap_error() : ix_phraseType(kClass) {}
     ~ix_xcap_error() override { ixRelease(*this, kClass); }

@@ -155,10 +155,6 @@ class IX_XML_EXPORT ix_empty_element_type : public XmlDescribedElement {
     explicit ix_empty_element_type(const XmlClass& description) : XmlDescribedElement(description), mPresent(1) {}
 };
 
-/// A pair with copies of both texts, NULL for NULL, registered under `source` and `line`; NULL without memory.
-IX_XML_EXPORT ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source,
-                                                  int line = __builtin_LINE());
-
 /// An element without content that is present under the name `name` (copied), registered under `source` and `line`;
 /// NULL without memory.
 IX_XML_EXPORT ix_empty_element_type* ixCreateEmptyElement(const char* name, const char* source,

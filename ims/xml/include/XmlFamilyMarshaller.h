@@ -142,9 +142,11 @@ class IX_XML_EXPORT XmlFamilyMarshaller : public XMLMarshaller {
     /// then logs. What is NULL or of another class than the writer's is handed to it as NULL. @return 1, or 0.
     template <auto operation>
     int AddChildren(const IxSingleElementList* list, const XmlLogText& failed = {}) {
-        return AddChildList(list, XmlWriterOf<operation>::Write, failed);
+        return AddChildList(list, ixWriter<operation>(failed));
     }
-    int AddChildList(const IxSingleElementList* list, XmlWriter write, const XmlLogText& failed);
+    int AddChildList(const IxSingleElementList* list, const XmlWriterRow& writer);
+    /// Logs that an object stands where nothing is written of its class.
+    void LogForeign(const XMLElement& element) const;
     /// @}
 
     /// Makes the document prefix of a canonical prefix, if it has one, that of the elements that follow. Without memory

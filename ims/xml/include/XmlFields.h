@@ -61,6 +61,10 @@ class IX_XML_EXPORT XmlFields {
     /// `list`, so that a tree can be deleted without a call for every level.
     static void HandOverChildLists(XMLElement* element, IxSingleElementList& list);
 
+    /// A copy of `element` with all that is below it: fields, lists, rests. Safe for trees of any depth. It belongs to
+    /// the caller. @return NULL without memory, and when an object below is of no class of the library.
+    static XMLElement* Copy(const XMLElement& element);
+
     /// True when both trees have the same classes, the same fields and the same rests. NULL equals NULL only.
     static bool Equal(const XMLElement* left, const XMLElement* right);
 };

@@ -76,16 +76,23 @@ inline bool AppendReference(std::string& text, std::string_view name) {
 
 }  // namespace xmlmarkup
 
+/// `text` without the white space around it.
+inline std::string_view XmlTrimmed(std::string_view text) {
+    constexpr char kSpace[] = " \t\r\n";
+    const std::size_t begin = text.find_first_not_of(kSpace);
+    if (begin == std::string_view::npos) return {};
+    return text.substr(begin, text.find_last_not_of(kSpace) - begin + 1);
+}
+
 /// A text of an element as people read it: the predefined entities and the character references (as UTF-8) resolved.
-/// What is neither stays as it is. NULL: an empty text.
-inline std::string XmlUnescaped(const char* text) {
+/// What is neither stays as it is.
+inline std::string XmlUnescaped(std::string_view rest) {
     struct Entity {
         std::string_view name;
         char letter;
     };
     constexpr Entity kEntities[] = {{"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}, {"apos", '\''}};
     constexpr std::size_t kLongestReference = 16;
-    const std::string_view rest = text != nullptr ? text : "";
     std::string plain;
     plain.reserve(rest.size());
     for (std::size_t at = 0; at < rest.size(); ++at) {
@@ -105,5 +112,14 @@ inline std::string XmlUnescaped(const char* text) {
     }
     return plain;
 }
+
+/// The same. NULL: an empty text.
+inline std::string XmlUnescaped(const char* text) {
+    return XmlUnescaped(std::string_view(text != nullptr ? text : ""));
+}
+
+/// The same without the white space around it, which documents have where they are indented. What references stand for
+/// stays. The standard profile has resolved the references already: `XmlTrimmed` does there.
+inline std::string XmlPlainText(const char* text) { return XmlUnescaped(XmlTrimmed(text != nullptr ? text : "")); }
 
 #endif

@@ -67,6 +67,11 @@ class IX_XML_EXPORT XmlRest : public XmlHeapObject {
     XmlRestItem* Last() const { return m_pLast; }
     /// For the reader: names the entry of a list that what stands inside of `field` behind `before` belongs to.
     void SetEntry(XmlRestItem* before, const XmlField& field, const void* entry);
+    /// What stands behind or inside of the entry `from` of a list goes over to `to`; NULL: to none, and stays where it
+    /// is between the others.
+    void MoveEntry(const XmlField& field, const void* from, const void* to);
+    /// For copies: an application has added something if it has in `other`.
+    void SetChangedAs(const XmlRest& other) { m_isChanged = other.m_isChanged; }
     /// For comparisons: the same entries in the same order at each field. Prefixes do not count.
     static bool Equal(const XmlRest* left, const XmlRest* right);
 

@@ -20,6 +20,14 @@ int ix_AttributeValuePair::setNameValue(const char* name) { return ixSetText(mNa
 
 int ix_AttributeValuePair::setValueValue(const char* value) { return ixSetText(mValue, value); }
 
+ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line) {
+    auto* const pair = ixNew<ix_AttributeValuePair>(source, line);
+    if (pair == nullptr) return nullptr;
+    if (pair->setNameValue(name) != 0 && pair->setValueValue(value) != 0) return pair;
+    ixDelete(pair);
+    return nullptr;
+}
+
 ix_AttributeValuePair* ixAsPair(XMLAttribute* attribute) {
     const char* const own = attribute != nullptr ? attribute->ClassName() : nullptr;
     if (own == nullptr || std::strcmp(own, ix_AttributeValuePair::kClassName) != 0) return nullptr;

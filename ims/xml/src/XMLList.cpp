@@ -50,8 +50,8 @@ unsigned int IxSingleElementList::Remove(void* key) {
         return 0;
     }
     IxSingleElementNode* before = nullptr;
-    for (IxSingleElementNode* node = m_pHead; node != nullptr; before = node, node = node->next) {
-        if (node->key == nullptr || node->key != key) continue;
+    IxSingleElementNode* const node = Find(key, before);
+    if (node != nullptr) {
         (before == nullptr ? m_pHead : before->next) = node->next;
         if (node == m_pLast) m_pLast = before;
         __free(node);
@@ -60,6 +60,51 @@ unsigned int IxSingleElementList::Remove(void* key) {
     }
     ixLog(kSource, {4, "<XML Module> IxSingleElementList::Remove: Entry not found in the list", 178});
     return 0;
+}
+
+/// The first node that holds `key`; NULL: there is none. @param before out: the one in front of it; NULL: it is the
+/// first.
+IxSingleElementNode* IxSingleElementList::Find(const void* key, IxSingleElementNode*& before) const {
+    before = nullptr;
+    for (IxSingleElementNode* node = m_pHead; node != nullptr; before = node, node = node->next) {
+        if (node->key != nullptr && node->key == key) return node;
+    }
+    return nullptr;
+}
+
+unsigned int IxSingleElementList::InsertBefore(void* key, const void* before) {
+    IxSingleElementNode* ahead = nullptr;
+    IxSingleElementNode* const behind = Find(before, ahead);
+    if (behind == nullptr) {
+        ixLog(kSource, {4, "<XML Module> IxSingleElementList::InsertBefore: Entry not found in the list"});
+        return 0;
+    }
+    auto* const node = static_cast<IxSingleElementNode*>(__malloc(sizeof(IxSingleElementNode)));
+    if (node == nullptr) {
+        ixLog(kSource, {4, "<XML Module>: IxSingleElementList::InsertBefore: node is NULL"});
+        return 0;
+    }
+    node->key = key;
+    node->next = behind;
+    (ahead == nullptr ? m_pHead : ahead->next) = node;
+    ++m_iListCount;
+    return 1;
+}
+
+unsigned int IxSingleElementList::Replace(const void* key, void* with) {
+    IxSingleElementNode* before = nullptr;
+    IxSingleElementNode* const node = Find(key, before);
+    if (node == nullptr) {
+        ixLog(kSource, {4, "<XML Module> IxSingleElementList::Replace: Entry not found in the list"});
+        return 0;
+    }
+    node->key = with;
+    return 1;
+}
+
+bool IxSingleElementList::Has(const void* key) const {
+    IxSingleElementNode* before = nullptr;
+    return Find(key, before) != nullptr;
 }
 
 void* IxSingleElementList::GetKeyAtIndex(unsigned short index) const {

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "XMLCommunicationBarring.h"
+
 namespace {
 
 /// Size of the buffer in which the tag of a flag is put together; longer names are cut.
@@ -12,6 +14,19 @@ int CountOf(const IxSingleElementList* list) { return list != nullptr ? list->Ge
 const char* TextOf(const IxSingleElementNode& node) {
     const auto* const string = ixAs<ix_string>(static_cast<XMLElement*>(node.key));
     return string != nullptr ? string->mValue : nullptr;
+}
+
+/// True for what a document with rules is made of, which may stand where it is not written.
+bool IsOfRules(const XMLElement& element) {
+    if (ixIs<ix_ns_xcap_forward_to_type>(&element) || ixIs<ix_allow_action_type>(&element)) return true;
+    const XmlSchemaInfo& schema = *XMLFactory::SchemaInfo(IX_XML_SCHEMA_COMMUNICATION_BARRING);
+    for (const XmlClass* const* known = schema.classes; *known != nullptr; ++known) {
+        if (ixIsClass(&element, **known)) return true;
+    }
+    for (const XmlNamedClass* part = schema.parts; part->description != nullptr; ++part) {
+        if (ixIsClass(&element, *part->description)) return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -109,7 +124,7 @@ void XmlRuleMarshaller::AddManyList(const IxSingleElementList* list) {
     int index = 0;
     while (node != nullptr) {
         auto* const many = ixAs<ix_ns_common_policy_manyType>(static_cast<XMLElement*>(node->key));
-        AddManyElementToXml(many);
+        if (AddManyElementToXml(many) == 0 && node->key != nullptr) LogForeign(*static_cast<XMLElement*>(node->key));
         const bool hasExceptions = many != nullptr && many->mExceptList != nullptr;
         const int next = hasExceptions ? CountOf(many->mExceptList) + 1 : index + 1;
         if (next <= index) {
@@ -134,7 +149,8 @@ int XmlRuleMarshaller::AddManyElementToXml(ix_ns_common_policy_manyType* element
         tag.LeaveOpen();
     }
     for (auto* const except : XmlEntries<XMLElement>(element->mExceptList)) {
-        AddExceptElementToXml(ixAs<ix_ns_common_policy_exceptType>(except));
+        const int result = AddExceptElementToXml(ixAs<ix_ns_common_policy_exceptType>(except));
+        if (result == 0 && except != nullptr) LogForeign(*except);
     }
     EndElement(IX_STR_MANY);
     return 1;
@@ -232,4 +248,6 @@ void XmlRuleMarshaller::AddFlagOrMedia(XMLElement* element) {
     if (flag != nullptr) AddEmptyElementtoXml(flag);
     const auto* const media = ixAs<ix_ns_xcap_media_type>(element);
     if (media != nullptr) AddServiceText(IX_STR_MEDIA, media->mMedia);
+    const bool isForeign = element != nullptr && flag == nullptr && media == nullptr && !IsOfRules(*element);
+    if (isForeign) LogForeign(*element);
 }

@@ -69,14 +69,6 @@ constexpr XmlClass ix_string::kClass = ixClass<ix_string>("ix_string", "string_c
 constexpr XmlClass ix_empty_element_type::kClass = ixClass<ix_empty_element_type>(
     "ix_empty_element_type", "empty_element", kSource, kEmptyElementFields, ixIgnoring());
 
-ix_AttributeValuePair* ixCreatePair(const char* name, const char* value, const char* source, int line) {
-    auto* const pair = ixNew<ix_AttributeValuePair>(source, line);
-    if (pair == nullptr) return nullptr;
-    if (pair->setNameValue(name) != 0 && pair->setValueValue(value) != 0) return pair;
-    ixDelete(pair);
-    return nullptr;
-}
-
 ix_empty_element_type* ixCreateEmptyElement(const char* name, const char* source, int line) {
     auto* const element = ixNew<ix_empty_element_type>(source, line);
     if (element == nullptr) return nullptr;

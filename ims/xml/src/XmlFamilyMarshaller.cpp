@@ -90,13 +90,23 @@ void XmlFamilyMarshaller::AddDecimalElement(e_XmlStrRef name, std::int64_t value
     AddTextElement(name, __itoaL(value, digits, sizeof digits, 10));
 }
 
-int XmlFamilyMarshaller::AddChildList(const IxSingleElementList* list, XmlWriter write, const XmlLogText& failed) {
+int XmlFamilyMarshaller::AddChildList(const IxSingleElementList* list, const XmlWriterRow& writer) {
     int index = 0;
-    for (auto* const child : XmlEntries<XMLElement>(list)) {
-        if (write(*this, child) == 0) return Fail(failed, index);
-        ++index;
+    for (const IxSingleElementNode* node = ixNodesOf(list); node != nullptr; node = node->next, ++index) {
+        auto* const child = static_cast<XMLElement*>(node->key);
+        // It will be deleted twice.
+        const bool isTwice = child != nullptr && node->next != nullptr && node->next->key == child;
+        if (isTwice) Log({4, "<XML Module>: XmlFamilyMarshaller: entry %d is in its list twice"}, index);
+        if (writer.write(*this, child) != 0) continue;
+        if (child != nullptr && !ixIsClass(child, *writer.description)) LogForeign(*child);
+        return Fail(writer.failed, index);
     }
     return 1;
+}
+
+void XmlFamilyMarshaller::LogForeign(const XMLElement& element) const {
+    const char* const name = element.ClassName();
+    Log({4, "<XML Module>: XmlFamilyMarshaller: no place for an object of the class %s"}, name != nullptr ? name : "");
 }
 
 const char* XmlFamilyMarshaller::AddNameSpaceChange(e_XmlStrRef canonicalPrefix) const {

@@ -84,6 +84,205 @@ bool FieldsEqual(const XMLElement& left, const XMLElement& right, const XmlField
     }
 }
 
+bool IsList(const XmlField& row) {
+    return row.kind == XmlFieldKind::ChildList || row.kind == XmlFieldKind::TextList ||
+           row.kind == XmlFieldKind::AttributeList;
+}
+
+/// Copies a tree object by object, so that its depth is not the depth of the calls.
+class Copier {
+  public:
+    Copier() = default;
+    ~Copier() {
+        while (m_pNext != nullptr) Drop();
+    }
+    Copier(const Copier&) = delete;
+    Copier& operator=(const Copier&) = delete;
+
+    XMLElement* Copy(const XMLElement& root) {
+        XMLElement* const copy = Begin(root);
+        bool isCopied = copy != nullptr;
+        while (isCopied && m_pNext != nullptr) {
+            const XMLElement& from = *m_pNext->from;
+            XMLElement& to = *m_pNext->to;
+            Drop();
+            isCopied = CopyFields(from, to) && (from.Rest() == nullptr || CopyRest(from, to));
+        }
+        if (isCopied) return copy;
+        ixDelete(copy);
+        return nullptr;
+    }
+
+  private:
+    /// An object whose copy has no content yet.
+    struct Begun {
+        const XMLElement* from;
+        XMLElement* to;
+        Begun* next;
+    };
+
+    void Drop() {
+        Begun* const next = m_pNext->next;
+        __free(m_pNext);
+        m_pNext = next;
+    }
+
+    XMLElement* Begin(const XMLElement& from);
+    bool CopyFields(const XMLElement& from, XMLElement& to);
+    bool CopyField(const XMLElement& from, XMLElement& to, const XmlField& row);
+    bool CopyList(const XMLElement& from, XMLElement& to, const XmlField& row);
+    bool CopyEntry(XmlFieldKind kind, const void* entry, IxSingleElementList& list);
+    static bool CopyRest(const XMLElement& from, XMLElement& to);
+    static void MapEntries(const XMLElement& from, XMLElement& to, const XmlField& row);
+
+    Begun* m_pNext = nullptr;
+};
+
+/// A new object of the class of `from`, which gets its content later.
+XMLElement* Copier::Begin(const XMLElement& from) {
+    const XmlClass* const description = from.Class();
+    if (description == nullptr || description->create == nullptr) return nullptr;
+    void* const block = __malloc(sizeof(Begun));
+    XMLElement* const to = block != nullptr ? description->create(description->source, __LINE__) : nullptr;
+    // A class that an application has derived has members that no row knows.
+    if (to == nullptr || !TextsEqual(to->ClassName(), from.ClassName())) {
+        __free(block);
+        ixDelete(to);
+        return nullptr;
+    }
+    m_pNext = new (block) Begun{&from, to, m_pNext};
+    return to;
+}
+
+bool Copier::CopyFields(const XMLElement& from, XMLElement& to) {
+    for (const XmlFieldTable* table = ixRowsOf(from); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            if (!CopyField(from, to, table->fields[i])) return false;
+        }
+    }
+    return true;
+}
+
+bool Copier::CopyField(const XMLElement& from, XMLElement& to, const XmlField& row) {
+    switch (row.kind) {
+        case XmlFieldKind::Text:
+            return ixSetText(to.*row.member.text, from.*row.member.text) != 0;
+        case XmlFieldKind::Flag:
+        case XmlFieldKind::Number:
+        case XmlFieldKind::Enumeration:
+            to.*row.member.number = from.*row.member.number;
+            return true;
+        case XmlFieldKind::Unsigned:
+            to.*row.member.unsignedNumber = from.*row.member.unsignedNumber;
+            return true;
+        case XmlFieldKind::Number64:
+            to.*row.member.number64 = from.*row.member.number64;
+            return true;
+        case XmlFieldKind::Child:
+        case XmlFieldKind::Presence: {
+            const XMLElement* const child = row.member.child(from);
+            XMLElement* const copy = child != nullptr ? Begin(*child) : nullptr;
+            if (copy != nullptr) row.store(to, copy);
+            return copy != nullptr || child == nullptr;
+        }
+        case XmlFieldKind::None:
+            return true;
+        default:
+            return CopyList(from, to, row);
+    }
+}
+
+bool Copier::CopyList(const XMLElement& from, XMLElement& to, const XmlField& row) {
+    const IxSingleElementList* const entries = from.*row.member.list;
+    // A list without entries is something else than none: some writers tell them apart.
+    if (entries == nullptr) return true;
+    auto* const list = ixNew<IxSingleElementList>(XmlFields::SourceOf(from, row), row.line);
+    if (list == nullptr) return false;
+    to.*row.member.list = list;
+    for (const IxSingleElementNode* node = ixNodesOf(entries); node != nullptr; node = node->next) {
+        if (!CopyEntry(row.kind, node->key, *list)) return false;
+    }
+    return true;
+}
+
+bool Copier::CopyEntry(XmlFieldKind kind, const void* entry, IxSingleElementList& list) {
+    if (entry == nullptr) return list.Add(nullptr) != 0;
+    if (kind == XmlFieldKind::TextList) {
+        char* const copy = __strdup(static_cast<const char*>(entry));
+        if (copy != nullptr && list.Add(copy) != 0) return true;
+        __free(copy);
+    } else if (kind == XmlFieldKind::AttributeList) {
+        const auto& pair = *static_cast<const ix_AttributeValuePair*>(entry);
+        ix_AttributeValuePair* const copy = ixCreatePair(pair.mName, pair.mValue, kSource);
+        if (copy != nullptr && list.Add(copy) != 0) return true;
+        ixDelete(copy);
+    } else {
+        XMLElement* const copy = Begin(*static_cast<const XMLElement*>(entry));
+        if (copy != nullptr && list.Add(copy) != 0) return true;
+        ixDelete(copy);
+    }
+    return false;
+}
+
+bool Copier::CopyRest(const XMLElement& from, XMLElement& to) {
+    const XmlRest& rest = *from.Rest();
+    XmlRest* const copy = to.MakeRest();
+    if (copy == nullptr) return false;
+    copy->SetChangedAs(rest);
+    for (const XmlRestItem* item = rest.First(); item != nullptr; item = item->next) {
+        const std::size_t length = item->text != nullptr ? std::strlen(item->text) : 0;
+        XmlRestItem* const added = copy->Append(*item, std::strlen(item->name), length);
+        if (added == nullptr) return false;
+        // Behind all children.
+        if (item->field == nullptr && item->entry != nullptr) added->entry = copy;
+    }
+    for (const XmlFieldTable* table = ixRowsOf(from); table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            if (IsList(table->fields[i])) MapEntries(from, to, table->fields[i]);
+        }
+    }
+    return true;
+}
+
+/// A place in a list, and the same in its copy.
+struct Places {
+    const IxSingleElementNode* node;
+    const IxSingleElementNode* copy;
+
+    /// Goes on to where `entry` is. @return false when that is not from here on.
+    bool Find(const void* entry) {
+        for (; node != nullptr; node = node->next, copy = copy->next) {
+            if (node->key == entry) return true;
+        }
+        return false;
+    }
+};
+
+/// Has what the rest keeps at the entries of a list refer to those of the copy.
+void Copier::MapEntries(const XMLElement& from, XMLElement& to, const XmlField& row) {
+    const Places first = {ixNodesOf(from.*row.member.list), ixNodesOf(to.*row.member.list)};
+    Places at = first;
+    const void* entry = nullptr;
+    const void* entryCopy = nullptr;
+    auto* copy = const_cast<XmlRestItem*>(to.Rest()->First());
+    for (const XmlRestItem* item = from.Rest()->First(); item != nullptr; item = item->next, copy = copy->next) {
+        if (item->field != &row || item->entry == nullptr) continue;
+        if (item->entry != entry) {
+            entry = item->entry;
+            // Rest and list have the same order, but for what an application has moved. One that has gone has no entry
+            // in the copy either; see XmlRest::MoveEntry.
+            bool isThere = entry != item && at.Find(entry);
+            if (!isThere && entry != item) {
+                at = first;
+                isThere = at.Find(entry);
+            }
+            entryCopy = isThere ? at.copy->key : copy;
+            if (at.node == nullptr) at = first;
+        }
+        copy->entry = entryCopy;
+    }
+}
+
 }  // namespace
 
 void ix_xml_common_methods::DeleteElementList(IxSingleElementList* list) { DeleteList(list, DeleteElement); }
@@ -160,9 +359,7 @@ const XmlField* XmlFields::RowOf(const XMLElement& element, const IxSingleElemen
     for (const XmlFieldTable* table = ixRowsOf(element); table != nullptr; table = table->base) {
         for (std::size_t i = 0; i < table->count; ++i) {
             const XmlField& row = table->fields[i];
-            const bool isList = row.kind == XmlFieldKind::ChildList || row.kind == XmlFieldKind::TextList ||
-                                row.kind == XmlFieldKind::AttributeList;
-            if (isList && &(element.*row.member.list) == &list) return &row;
+            if (IsList(row) && &(element.*row.member.list) == &list) return &row;
         }
     }
     return nullptr;
@@ -250,6 +447,8 @@ void XmlFields::HandOverChildLists(XMLElement* element, IxSingleElementList& lis
         }
     }
 }
+
+XMLElement* XmlFields::Copy(const XMLElement& element) { return Copier().Copy(element); }
 
 bool XmlFields::Equal(const XMLElement* left, const XMLElement* right) {
     if (left == nullptr || right == nullptr) return left == right;

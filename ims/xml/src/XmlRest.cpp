@@ -104,6 +104,16 @@ void XmlRest::SetEntry(XmlRestItem* before, const XmlField& field, const void* e
     }
 }
 
+void XmlRest::MoveEntry(const XmlField& field, const void* from, const void* to) {
+    for (XmlRestItem* item = m_pFirst; item != nullptr; item = item->next) {
+        if (item->field != &field || item->entry != from) continue;
+        // The place of an entry that has gone may become that of a new one, which has nothing to do with it; that of
+        // the item is taken.
+        if (to == nullptr) to = item;
+        item->entry = to;
+    }
+}
+
 bool XmlRest::Equal(const XmlRest* left, const XmlRest* right) {
     const XmlRestItem* const one = left != nullptr ? left->First() : nullptr;
     const XmlRestItem* const other = right != nullptr ? right->First() : nullptr;

@@ -160,9 +160,10 @@ class StandardContext : public XMLContext {
 
 }  // namespace
 
+bool ixHasStandardProfile(const XmlSchemaInfo& schema) { return schema.id != IX_XML_SCHEMA_CALL_WAITING_INDICATION; }
+
 XMLContext* ixNewStandardContext(const XmlSchemaInfo& schema) {
-    // Its root element has a name that no XML document can have.
-    if (schema.id == IX_XML_SCHEMA_CALL_WAITING_INDICATION) return nullptr;
+    if (!ixHasStandardProfile(schema)) return nullptr;
     auto* const context = new (std::nothrow) StandardContext(schema);
     ixTrack(kSchemaModule, kSource, __LINE__, context, sizeof *context);
     return context;

@@ -5,6 +5,9 @@
 
 #include "XMLFactory.h"
 
+/// False for the schema whose root element has a name that no XML document can have.
+bool ixHasStandardProfile(const XmlSchemaInfo& schema);
+
 /// A new context of a schema; NULL without memory, and for a schema that has no standard profile.
 XMLContext* ixNewStandardContext(const XmlSchemaInfo& schema);
 

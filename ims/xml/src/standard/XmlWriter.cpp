@@ -579,6 +579,10 @@ bool XmlWriter::NextEntry(const XMLElement& element, Entries& entries, const Aro
         if (!LeaveRun(entries, inside)) return false;
     }
     if (node->key == nullptr) return true;
+    // It will be deleted twice.
+    if (node->next != nullptr && node->next->key == node->key) {
+        return Fail("has an entry twice in the list", SliceOf(element.ClassName()), row.Name());
+    }
     const bool isAbout = entries.run != nullptr && entries.run->entry == node->key;
     const bool isWritten =
         row.role == XmlRole::Texts
@@ -617,7 +621,11 @@ bool XmlWriter::List(const XMLElement& element, const XmlField& row, const XmlFi
 
 bool XmlWriter::Child(const XMLElement& parent, const XmlField& row, const XMLElement& child, const Around& inside) {
     Name name;
-    if (IsFlag(child) && static_cast<const ix_empty_element_type&>(child).mPresent == 0) return true;
+    if (IsFlag(child) && static_cast<const ix_empty_element_type&>(child).mPresent == 0) {
+        ixLog(kSource, {3, "<XML Module>: XmlWriter: a flag of %s is not present, and not written"},
+              parent.ClassName());
+        return true;
+    }
     if (child.Class() == nullptr || !NameOf(row, child, name)) {
         return Fail("has no place for an object of the class", SliceOf(parent.ClassName()), child.ClassName());
     }
