@@ -91,6 +91,106 @@ TEST_F(DplTest, TheLedgerTellsWhatIsAliveAndWhatWasRemovedWrongly) {
     EXPECT_EQ(ixDplHostLedger().unknownRemovals, 0U);
 }
 
+TEST_F(DplTest, AWrongRemovalIsToldWithTheObjectThatWasThere) {
+    std::vector<std::string> told;
+    ixDplHostSetMisuseHandler(
+        [](const ixDplHostMisuse& misuse, void* context) {
+            char* text = nullptr;
+            std::size_t size = 0;
+            std::FILE* const file = open_memstream(&text, &size);
+            ixDplHostPrintMisuse(file, misuse);
+            std::fclose(file);
+            std::string line(text, size);
+            std::free(text);
+            // An address differs from run to run.
+            const std::size_t address = line.find("0x");
+            line.replace(address, line.find_first_of(" ,\n", address) - address, "P");
+            static_cast<std::vector<std::string>*>(context)->push_back(line);
+        },
+        &told);
+    int objects[2];
+    trmemlog_add(14, "one", 1, &objects[0], 4);
+    trmemlog_add(14, "two", 2, &objects[1], 8);
+    trmemlog_remove(14, &objects[0]);
+    trmemlog_remove(14, &objects[0]);
+    trmemlog_remove(1, &objects[1]);
+    trmemlog_remove(14, &told);
+    // The address has had another object since.
+    trmemlog_add(1, "three", 3, &objects[0], 16);
+    trmemlog_remove(1, &objects[0]);
+    trmemlog_remove(14, &objects[0]);
+    EXPECT_EQ(told, (std::vector<std::string>{
+                        "deleted twice: P under module 14, object 1 of module 14 one:1 4 bytes, deleted first when 2 "
+                        "was the newest\n",
+                        "deleted under another module: P under module 1, object 2 of module 14 two:2 8 bytes\n",
+                        "deleted, but not registered: P under module 14\n",
+                        "deleted twice: P under module 14, object 3 of module 1 three:3 16 bytes, deleted first when 3 "
+                        "was the newest\n"}));
+    int visited = 0;
+    ixDplHostVisitMisuses([](const ixDplHostMisuse&, void* context) { ++*static_cast<int*>(context); }, &visited);
+    EXPECT_EQ(visited, 4);
+
+    // The calls of the first removal.
+    told.clear();
+    ixDplHostTraceRemovals(true);
+    trmemlog_add(14, "one", 1, &objects[0], 4);
+    trmemlog_remove(14, &objects[0]);
+    trmemlog_remove(14, &objects[0]);
+    ixDplHostTraceRemovals(false);
+    ASSERT_EQ(told.size(), 1U);
+#if __has_include(<execinfo.h>)
+    EXPECT_NE(told[0].find("\n  by "), std::string::npos) << told[0];
+#endif
+    ixDplHostSetMisuseHandler(nullptr, nullptr);
+    ixDplHostEnableLedger(true);
+    visited = 0;
+    ixDplHostVisitMisuses([](const ixDplHostMisuse&, void* context) { ++*static_cast<int*>(context); }, &visited);
+    EXPECT_EQ(visited, 0);
+}
+
+// The second time the C library ends the process, so what is wrong has to be said before.
+TEST(DplDeathTest, ABlockThatIsFreedTwiceIsToldAtOnce) {
+    const auto twice = [] {
+        ixDplHostEnableLedger(true);
+        ixDplHostSetMisuseHandler([](const ixDplHostMisuse& misuse, void*) { ixDplHostPrintMisuse(stderr, misuse); },
+                                  nullptr);
+        void* const block = __malloc(40);
+        trmemlog_add(14, "maker", 7, block, 40);
+        trmemlog_remove(14, block);
+        __free(block);
+        __free(block);
+        std::abort();
+    };
+    EXPECT_DEATH(twice(), "freed twice: 0x[0-9a-f]+, object 1 of module 14 maker:7 40 bytes");
+}
+
+TEST_F(DplTest, TheKindOfALineIsToldByItsText) {
+    const std::pair<ixDplHostLogKind, const char*> table[] = {
+        {kIxDplHostFault, "<XML Module>: AddEntryElementToXml Uri mandatory attribute"},
+        {kIxDplHostFault, "XmlDecoder:: m_strDup: Malloc unable to allocate memory"},
+        {kIxDplHostFault, "<XML Module>: XML Decode Failure in poip"},
+        {kIxDplHostFault, "stack overflow\n"},
+        {kIxDplHostRejected, "<XML Module>XMLPresenceDecoder :: ProcessAnyElement is not supported when person"},
+        // Names of elements and texts of documents can be any words.
+        {kIxDplHostRejected, "Cannot accommodate the element failed with value (null)"},
+        {kIxDplHostProgress, "<XML Module>: ReginfoMarshaller XML <?xml version=\"1.0\"?><note>delivery failed</note>"},
+        {kIxDplHostProgress, "<XML Module>: Xcap_ErrorMarshall :: Marshall"},
+        {kIxDplHostProgress, "XmlDecoder:: DecodeAttributes 0"},
+    };
+    for (const auto& [kind, text] : table) {
+        EXPECT_EQ(ixDplHostKindOf({2, 6070, "file", 1, text}), kind) << text;
+        for (const ixDplHostLogKind least : {kIxDplHostProgress, kIxDplHostRejected, kIxDplHostFault}) {
+            int lines = 0;
+            ixDplHostLogFilter filter = {[](const ixDplHostLogLine&, void* context) { ++*static_cast<int*>(context); },
+                                         &lines, least};
+            ixDplHostSetLogSink(ixDplHostFilterLog, &filter, kIxDplHostAllLevels);
+            ixLogModuleEventSimple(2, 6070, "file", 1, "%s", Word(text), 0, 0);
+            EXPECT_EQ(lines, kind >= least ? 1 : 0) << text;
+        }
+    }
+    ixDplHostSetLogSink(nullptr, nullptr, 0);
+}
+
 TEST_F(DplTest, TheNthAllocationFailsAndThoseThatFollowIt) {
     void* blocks[5];
     ixDplHostFailAllocation(2, 2);

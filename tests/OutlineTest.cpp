@@ -39,6 +39,12 @@ TEST(OutlineTest, EachShapeHasItsForm) {
         {R"("rest":[{"kind":"attribute","name":"v:a","text":"1"},{"kind":"element","at":"entry","text":"<x/>"},
             {"kind":"namespace","in":"uri","namespace":"urn:u"}])",
          "  rest\n    attribute v:a = \"1\"\n    element = \"<x/>\" at entry\n    namespace = \"urn:u\" in uri\n"},
+        // Attributes and texts come before children, and what no field holds comes last.
+        {R"("list":[{"class":"ix_list","name":"a","entry":[{"class":"ix_entry","uri":"u"}],"name2":"b"}],
+            "child":{"class":"ix_child","a":"1"},"title":{"class":"ix_string","text":"t"},"keywords":["k"],
+            "rest":[{"kind":"text","text":"r"}],"attributes":[{"name":"lang","value":"en"}],"size":7)",
+         "  title = \"t\"\n  keywords = \"k\"\n  attributes\n    lang = \"en\"\n  size = 7\n"
+         "  list \"a\"\n    name2 = \"b\"\n    entry \"u\"\n  child  a = \"1\"\n  rest\n    text = \"r\"\n"},
         // What a terminal would obey.
         {R"("list":[],"title":"\u001b[2J\u007f\u009b\u202e\u2028\u2066\u20ac\u00e9\u2065\"")",
          "  title = \"\\u001b[2J\\u007f\\u009b\\u202e\\u2028\\u2066\u20ac\u00e9\u2065\\\"\"\n"},

@@ -1,95 +1,13 @@
 // The command imsxml, run as a user runs it.
 #ifdef IMSXML_TOOL
 
-#include <fcntl.h>
-#include <gtest/gtest.h>
+#include "ToolTest.h"
+
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <sstream>
-#include <string>
 
-#include "XmlTest.h"
-
-namespace {
-
-struct Result {
-    int status;
-    std::string output;
-    std::string errors;
-};
-
-const char kWaiting[] =
-    R"(<ss:communication-waiting xmlns:ss="http://uri.etsi.org/ngn/params/xml/simservs/xcap" active="true"/>)";
-const char kOtherPrefix[] =
-    R"(<x:communication-waiting xmlns:x="http://uri.etsi.org/ngn/params/xml/simservs/xcap" active="false"/>)";
-const char kGruu[] = R"(<gr:pub-gruu xmlns:gr="urn:ietf:params:xml:ns:gruuinfo" uri="sip:a@b;gr=1&amp;2"/>)";
-const char kGruuLine[] = R"({"schema":"gruu","file":"gruu","root":{"class":"ix_pub_gruu","uri":"sip:a@b;gr=1&2"}})"
-                         "\n";
-
-/// Runs the tool in a folder of its own, so that messages show plain file names.
-class ToolTest : public testing::Test {
-  protected:
-    ToolTest() : m_folder(testing::TempDir() + "imsxml-tool-" + std::to_string(getpid())) {
-        std::filesystem::create_directories(m_folder);
-        Write("waiting", kWaiting);
-        Write("other", kOtherPrefix);
-        Write("gruu", kGruu);
-    }
-    ~ToolTest() override { std::filesystem::remove_all(m_folder); }
-
-    void Write(const std::string& name, const std::string& text) {
-        std::ofstream(m_folder + '/' + name, std::ios::binary) << text;
-    }
-
-    Result Run(const std::string& arguments) {
-        // Documents that fail leave their tree to nobody.
-        const std::string command =
-            "cd '" + m_folder + "' && ASAN_OPTIONS=detect_leaks=0 '" IMSXML_TOOL "' " + arguments;
-        const int status =
-            std::system(("( " + command + " ) >'" + m_folder + "/out' 2>'" + m_folder + "/err'").c_str());
-        return {WEXITSTATUS(status), ReadFile(m_folder + "/out"), ReadFile(m_folder + "/err")};
-    }
-
-    static constexpr const char* kNoTerminal = "no terminal";
-
-    /// What the tool prints to a terminal.
-    std::string OnTerminal(const std::string& arguments) {
-        const int screen = posix_openpt(O_RDWR | O_NOCTTY);
-        if (screen < 0 || grantpt(screen) != 0 || unlockpt(screen) != 0) return kNoTerminal;
-        const std::string name = ptsname(screen);
-        // Held open, so that nothing is lost when the tool has ended.
-        const int terminal = open(name.c_str(), O_RDWR | O_NOCTTY);
-        Run(arguments + " >" + name);
-        char text[4096];
-        const ssize_t length = read(screen, text, sizeof text);
-        close(terminal);
-        close(screen);
-        std::string printed(text, length > 0 ? static_cast<std::size_t>(length) : 0);
-        printed.erase(std::remove(printed.begin(), printed.end(), '\r'), printed.end());
-        return printed;
-    }
-
-    /// The message for a document, without the file name.
-    std::string MessageFor(const std::string& text, const std::string& arguments = "decode --schema gruu") {
-        Write("bad", text);
-        const Result result = Run(arguments + " bad");
-        EXPECT_EQ(result.status, 1) << text;
-        EXPECT_EQ(result.output, "") << text;
-        EXPECT_EQ(result.errors.substr(0, 4), "bad:") << text;
-        EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << text;
-        return result.errors.substr(4, result.errors.size() - 5);
-    }
-
-    std::string m_folder;
-};
-
-}  // namespace
+using namespace tool;
 
 TEST_F(ToolTest, DecodePrintsJsonOverLines) {
     const Result result = Run("decode waiting");
@@ -210,7 +128,8 @@ TEST_F(ToolTest, ConvertWarnsOfACutText) {
     const Result result = Run("convert long");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output.size(), 32767U);
-    EXPECT_EQ(result.errors, "long: warning: the text was cut at 32767 characters\n");
+    EXPECT_EQ(result.errors,
+              "long: warning: the text was cut at 32767 characters, and is not well-formed at 2:1: unclosed token\n");
 }
 
 TEST_F(ToolTest, ConvertTellsWhyADocumentCannotBeWritten) {
@@ -221,7 +140,7 @@ TEST_F(ToolTest, ConvertTellsWhyADocumentCannotBeWritten) {
     EXPECT_EQ(result.errors,
               "empty: schema gruu cannot write the document: AddPubGruuElementToXml: Uri is a mandatory attribute\n");
     Write("volte", "<volte-config-info/>");
-    const Result readOnly = Run("convert volte gruu");
+    const Result readOnly = Run("convert volte waiting");
     EXPECT_EQ(readOnly.status, 3);
     EXPECT_EQ(readOnly.errors, "volte: documents of schema volte-config-info are only read\n");
     EXPECT_EQ(Run("convert --schema namespaces gruu").errors, "gruu: documents of schema namespaces are only read\n");
@@ -313,6 +232,39 @@ TEST_F(ToolTest, SchemasPrintsEverySchema) {
     }
     EXPECT_EQ(count, 26);
     EXPECT_FALSE(std::getline(lines, line));
+}
+
+// Headers and names are what a program writes, so they have to be there.
+TEST_F(ToolTest, SchemasNamesWhatAProgramNeeds) {
+    const Result result = Run("schemas --long");
+    EXPECT_EQ(result.status, 0);
+    const std::string registry = ReadFile(PROJECT_DIR "/ims/xml/include/XMLFactory.h");
+    std::istringstream lines(result.output);
+    std::string header, schema, number;
+    int counts[3] = {};
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::string what, name;
+        words >> what >> name;
+        if (line.substr(0, 2) != "  ") {
+            schema = what;
+            number = name.substr(0, name.find(')')).erase(0, 1);
+        } else if (what == "header") {
+            header = ReadFile(PROJECT_DIR "/ims/xml/include/" + name);
+        } else if (what == "enumerator") {
+            ++counts[0];
+            EXPECT_NE(registry.find(' ' + name + " = " + number), std::string::npos) << schema;
+        } else if (what == "class") {
+            ++counts[1];
+            EXPECT_NE(header.find("class IX_XML_EXPORT " + name + " :"), std::string::npos) << schema << ' ' << name;
+        } else if (what == "factory") {
+            ++counts[2];
+            EXPECT_NE(header.find("class IX_XML_EXPORT " + name + " :"), std::string::npos) << schema << ' ' << name;
+        }
+    }
+    EXPECT_EQ(counts[0], 26);
+    EXPECT_EQ(counts[1], 28) << "two schemas have two roots";
+    EXPECT_EQ(counts[2], 26);
 }
 
 TEST_F(ToolTest, TheStandardInputCanBeGivenTwice) {
@@ -407,6 +359,8 @@ TEST_F(ToolTest, HelpAndVersion) {
                                                          {"convert --help", "without a line feed"},
                                                          {"validate --help", "FILE: valid"},
                                                          {"namespaces --help", "one line per declaration"},
+                                                         {"lost --help", "Nothing lost"},
+                                                         {"diff --help", "no difference"},
                                                          {"schemas --help", "one line per schema"}};
     for (const auto& [arguments, phrase] : table) {
         const Result result = Run(arguments);
@@ -422,11 +376,16 @@ TEST_F(ToolTest, LogPrintsTheLibrarysLines) {
     EXPECT_EQ(result.status, 0);
     EXPECT_NE(result.errors.find("\n3 6053 ims/xml/src/XmlDecoder:450 <XML Decoder>:Decoder Success\n"),
               std::string::npos);
+    EXPECT_EQ(Run("decode --log=faults gruu").errors, "");
+    Write("empty", "<pub-gruu/>");
+    const std::string fault = "3 6070 ims/xml/src/XMLGruu:";
+    EXPECT_EQ(Run("convert --log=faults empty").errors.substr(0, fault.size()), fault);
+    EXPECT_EQ(Run("decode --log=some gruu").status, 2);
 }
 
 TEST_F(ToolTest, LeaksPrintsWhatIsAlive) {
-    EXPECT_EQ(Run("convert --leaks gruu").errors,
-              "gruu: 0 objects and 0 heap blocks alive, 0 double and 0 unknown removals\n");
+    EXPECT_EQ(Run("convert --leaks waiting").errors,
+              "waiting: 0 objects and 0 heap blocks alive, 0 double and 0 unknown removals\n");
     Write("bad", "<pub-gruu uri=\"a\">");
     const Result result = Run("decode --leaks bad");
     EXPECT_EQ(result.status, 1);
@@ -478,6 +437,13 @@ TEST_F(ToolTest, PrefixesThatTheSchemaDoesNotKnow) {
         start + "not understood by schema communication-waiting: it does not know the prefix \"x\"";
     EXPECT_EQ(MessageFor(kOtherPrefix, "decode"), unknown + "; --binder gives it the document's own declarations");
     EXPECT_EQ(Run("decode --binder other").status, 0);
+    // It is advised only when it helps: most services of a document are read without it.
+    const std::string services = "<x:simservs xmlns:x='http://uri.etsi.org/ngn/params/xml/simservs/xcap'>";
+    const std::string root =
+        "1:1: root element <x:simservs> is not understood by schema simservs: it does not know the prefix \"x\"";
+    EXPECT_EQ(MessageFor(services + "<x:communication-waiting/></x:simservs>", "decode"), root);
+    EXPECT_EQ(MessageFor(services + "<x:originating-identity-presentation/></x:simservs>", "decode"),
+              root + "; --binder makes some of its services readable, --profile standard all of them");
     // A binder has no more than what is declared.
     const char undeclared[] = "<x:communication-waiting/>";
     EXPECT_EQ(MessageFor(undeclared, "decode"), unknown + ", which the element does not declare");
@@ -555,7 +521,8 @@ TEST_F(ToolTest, RootsWithoutASchema) {
 }
 
 TEST_F(ToolTest, LostOutputIsAnError) {
-    for (const char* const command : {"decode gruu", "convert gruu", "schemas", "--help", "decode --help"}) {
+    for (const char* const command :
+         {"decode gruu", "convert waiting", "diff gruu other", "schemas", "--help", "decode --help"}) {
         const Result result = Run(std::string(command) + " >/dev/full");
         EXPECT_EQ(result.status, 2) << command;
         EXPECT_EQ(result.errors, "imsxml: standard output: No space left on device\n") << command;
@@ -580,7 +547,9 @@ TEST_F(ToolTest, WarnsOfATextThatIsNotWellFormed) {
     const Result result = Run("convert rule");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, "<cp:rule id=\"a\">\n<cp:conditions>\n<cp:validity></cp:rule>");
-    EXPECT_EQ(result.errors.substr(0, 52), "rule: warning: the written text is not well-formed: ");
+    EXPECT_EQ(result.errors,
+              "rule: warning: the written text is not well-formed at 3:16: mismatched tag; Validity element - "
+              "m_fromListCount: 1, m_untilListCount: 0\n");
 }
 
 #endif

@@ -51,6 +51,7 @@ same 'beginning of a schema' "$(grep ^re <<<"$schemas")" "$(complete_words conve
 same 'formats' $'json\ntree' "$(complete_words decode --format '')"
 same 'formats behind =' $'json\ntree' "$(complete_words decode --format =)"
 same 'beginning of a format behind =' tree "$(complete_words decode --format = t)"
+same 'lines behind =' faults "$(complete_words decode --log = f)"
 same 'colours' $'always\nauto' "$(complete_words decode --color a)"
 same 'seconds' '' "$(complete_words decode --timeout '')"
 work=$(mktemp -d)

@@ -25,6 +25,30 @@
 
 /// Writes one line to the device's log.
 ///
+/// The level is no severity: a document that is read and written without a fault fills levels 1 to 3. Sources are those
+/// of ims/xml/src.
+///
+/// | To see | Level | Code | Source | Text |
+/// |---|---|---|---|---|
+/// | that memory ran out | 2, 3, 4 | 6053, 6070 | all | "failed", "allocate", "Buffer is NULL" |
+/// | what a document to be written lacks | 1, 3, 4 | 6070 | XML... of the schema | "mandatory", "required" |
+/// | which step of the writing failed | 2, 4 | 6070 | XML... of the schema | "Failed", "fail @" |
+/// | which element is being written | 2 | 6070 | XML... of the schema | "Add...ElementToXml" |
+/// | whole documents, as read or written | 2 | 6070 | XML... of the schema | "XML <", "pstring" |
+/// | that a text was complete and balanced | 3 | 6053 | XmlDecoder | "Decoder Success" |
+/// | that it was not, within simservs | 2 | 6070 | XMLSimservs | "XML Decode Failure" |
+/// | attributes that cannot be cut | 2 | 6053 | XmlDecoder | "Attribute list invalid" |
+/// | that elements are nested too deep | 2 | 6070 | XMLStack | "stack overflow" |
+/// | what of a document has no place | 2, 3 | 6070 | all | "accommodate", "not supported", "not allowed" |
+/// | files that cannot be opened | 2 | 6070 | XMLFile | "Error", "Unable", "failed" |
+/// | why the tokenizer ends the process | 4 | 6052 | XmlDecoder | "less than" |
+/// | the pace of the tokenizer, tag by tag | 2 | 6053 | XmlDecoder | "DecodeAttributes", "n_count" |
+/// | lists that grow | 3 | 6070 | XMLList | "m_iListCount" |
+///
+/// The arguments are subscribers' data: whole documents, and names and values out of them, with addresses, identities
+/// and keys. A log that is kept, or that leaves the device, must not have level 2; what the host's filter calls a fault
+/// (`ixDplHostKindOf`) has nothing of a document but names of elements and attributes.
+///
 /// @param level 1 rare traces, 2 results and resource problems, 3 progress and rejected input, 4 failed duplications
 /// and allocations, missing mandatory fields.
 /// @param code event number: 6070 schema families, containers and generator; 6053 tokenizer and namespace operations;

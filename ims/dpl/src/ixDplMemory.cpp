@@ -1,10 +1,18 @@
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <map>
 #include <mutex>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
+#include <vector>
+
+#if __has_include(<execinfo.h>)
+#include <execinfo.h>
+#define IX_DPL_HAS_TRACES 1
+#endif
 
 #include "ixDplBlockCache.h"
 #include "ixDplHost.h"
@@ -19,14 +27,54 @@ std::atomic<unsigned long> allocations{0};
 std::atomic<unsigned long> firstFailure{0};
 std::atomic<unsigned long> failures{0};
 
+using Trace = std::vector<void*>;
+
+/// The calls that led to the caller. Nothing where the C library does not tell.
+[[gnu::noinline]] Trace TakeTrace() {
+#ifdef IX_DPL_HAS_TRACES
+    void* calls[20];
+    constexpr int kOwn = 2;  // This function and the one that takes it.
+    const int depth = backtrace(calls, static_cast<int>(std::size(calls)));
+    return depth > kOwn ? Trace(calls + kOwn, calls + depth) : Trace();
+#else
+    return {};
+#endif
+}
+
+/// An object that was unregistered.
+struct Removal {
+    ixDplHostBlock object;
+    unsigned long number;
+    unsigned long newest;  ///< Number of the newest object then; 0: the object is alive.
+    Trace trace;
+};
+
+struct Misuse {
+    ixDplHostMisuseKind kind;
+    int module;
+    const void* pointer;
+    bool isKnown;
+    Removal last;  ///< Of the object that was there last, if it is known.
+
+    ixDplHostMisuse View() const {
+        return {kind,        module,      pointer,           isKnown ? &last.object : nullptr,
+                last.number, last.newest, last.trace.data(), last.trace.size()};
+    }
+};
+
 /// The ledger. The number of an entry gives the order of registration.
 struct Ledger {
     std::mutex mutex;
-    unsigned long next = 0;
+    unsigned long newest = 0;
+    bool traces = false;
+    void (*handler)(const ixDplHostMisuse& misuse, void* context) = nullptr;
+    void* handlerContext = nullptr;
     std::map<unsigned long, ixDplHostBlock> live;
     std::unordered_map<const void*, unsigned long> numbers;
-    std::unordered_set<const void*> removed;
+    std::unordered_map<const void*, Removal> removed;
     std::unordered_set<void*> heap;
+    std::unordered_set<const void*> freed;
+    std::vector<Misuse> misuses;
     std::size_t doubleRemovals = 0;
     std::size_t unknownRemovals = 0;
 
@@ -35,8 +83,24 @@ struct Ledger {
         numbers.clear();
         removed.clear();
         heap.clear();
+        freed.clear();
+        misuses.clear();
+        newest = 0;
         doubleRemovals = 0;
         unknownRemovals = 0;
+    }
+
+    /// @param last what is known of the object; NULL: nothing.
+    void Report(ixDplHostMisuseKind kind, int module, const void* pointer, const Removal* last) {
+        const Misuse misuse = {kind, module, pointer, last != nullptr, last != nullptr ? *last : Removal{}};
+        if (misuses.size() < kIxDplHostMostMisuses) misuses.push_back(misuse);
+        if (handler != nullptr) handler(misuse.View(), handlerContext);
+    }
+
+    /// The last object at an address that was unregistered; NULL: none.
+    const Removal* RemovalOf(const void* pointer) const {
+        const auto found = removed.find(pointer);
+        return found != removed.end() ? &found->second : nullptr;
     }
 };
 
@@ -64,6 +128,7 @@ bool CountAndFail() {
         Ledger& ledger = TheLedger();
         const std::lock_guard<std::mutex> lock(ledger.mutex);
         ledger.heap.insert(block);
+        ledger.freed.erase(block);
     }
     return block;
 }
@@ -73,13 +138,18 @@ bool CountAndFail() {
 [[gnu::noinline]] void RemoveFromHeap(void* pointer) {
     Ledger& ledger = TheLedger();
     const std::lock_guard<std::mutex> lock(ledger.mutex);
-    ledger.heap.erase(pointer);
+    if (ledger.heap.erase(pointer) != 0) {
+        ledger.freed.insert(pointer);
+    } else if (ledger.freed.count(pointer) != 0) {
+        // Others are older than the ledger.
+        ledger.Report(kIxDplHostDoubleFree, 0, pointer, ledger.RemovalOf(pointer));
+    }
 }
 
 [[gnu::noinline]] void Register(const ixDplHostBlock& block) {
     Ledger& ledger = TheLedger();
     const std::lock_guard<std::mutex> lock(ledger.mutex);
-    const unsigned long number = ledger.next++;
+    const unsigned long number = ++ledger.newest;
     const auto known = ledger.numbers.find(block.pointer);
     if (known != ledger.numbers.end()) ledger.live.erase(known->second);
     ledger.numbers[block.pointer] = number;
@@ -92,14 +162,34 @@ bool CountAndFail() {
     const std::lock_guard<std::mutex> lock(ledger.mutex);
     const auto known = ledger.numbers.find(pointer);
     if (known == ledger.numbers.end()) {
-        ++(ledger.removed.count(pointer) != 0 ? ledger.doubleRemovals : ledger.unknownRemovals);
+        const Removal* const last = ledger.RemovalOf(pointer);
+        ++(last != nullptr ? ledger.doubleRemovals : ledger.unknownRemovals);
+        ledger.Report(last != nullptr ? kIxDplHostDoubleRemoval : kIxDplHostUnknownRemoval, module, pointer, last);
         return;
     }
     const auto block = ledger.live.find(known->second);
-    if (block->second.module != module) ++ledger.unknownRemovals;
+    Removal removal = {block->second, known->second, 0, {}};
+    if (block->second.module != module) {
+        ++ledger.unknownRemovals;
+        ledger.Report(kIxDplHostOtherModule, module, pointer, &removal);
+    }
+    removal.newest = ledger.newest;
+    if (ledger.traces) removal.trace = TakeTrace();
     ledger.live.erase(block);
     ledger.numbers.erase(known);
-    ledger.removed.insert(pointer);
+    ledger.removed.insert_or_assign(pointer, std::move(removal));
+}
+
+void PrintTrace(std::FILE* file, const ixDplHostMisuse& misuse) {
+#ifdef IX_DPL_HAS_TRACES
+    if (misuse.depth == 0) return;
+    char** const names = backtrace_symbols(misuse.trace, static_cast<int>(misuse.depth));
+    for (std::size_t i = 0; names != nullptr && i < misuse.depth; ++i) std::fprintf(file, "  by %s\n", names[i]);
+    std::free(names);
+#else
+    (void)file;
+    (void)misuse;
+#endif
 }
 
 }  // namespace
@@ -155,6 +245,39 @@ void ixDplHostVisitLedger(void (*visit)(const ixDplHostBlock& block, void* conte
     for (const auto& entry : ledger.live) visit(entry.second, context);
 }
 
+void ixDplHostSetMisuseHandler(void (*handler)(const ixDplHostMisuse& misuse, void* context), void* context) {
+    Ledger& ledger = TheLedger();
+    const std::lock_guard<std::mutex> lock(ledger.mutex);
+    ledger.handler = handler;
+    ledger.handlerContext = context;
+}
+
+void ixDplHostVisitMisuses(void (*visit)(const ixDplHostMisuse& misuse, void* context), void* context) {
+    Ledger& ledger = TheLedger();
+    const std::lock_guard<std::mutex> lock(ledger.mutex);
+    for (const Misuse& misuse : ledger.misuses) visit(misuse.View(), context);
+}
+
+void ixDplHostTraceRemovals(bool on) {
+    Ledger& ledger = TheLedger();
+    const std::lock_guard<std::mutex> lock(ledger.mutex);
+    ledger.traces = on;
+}
+
+void ixDplHostPrintMisuse(std::FILE* file, const ixDplHostMisuse& misuse) {
+    constexpr const char* kTexts[] = {"deleted twice", "deleted, but not registered", "deleted under another module",
+                                      "freed twice"};
+    std::fprintf(file, "%s: %p", kTexts[misuse.kind], misuse.pointer);
+    if (misuse.kind != kIxDplHostDoubleFree) std::fprintf(file, " under module %d", misuse.module);
+    if (misuse.object != nullptr) {
+        std::fprintf(file, ", object %lu of module %d %s:%d %zu bytes", misuse.number, misuse.object->module,
+                     misuse.object->source, misuse.object->line, misuse.object->size);
+    }
+    if (misuse.newest != 0) std::fprintf(file, ", deleted first when %lu was the newest", misuse.newest);
+    std::fputc('\n', file);
+    PrintTrace(file, misuse);
+}
+
 void ixDplHostDumpLedger(std::FILE* file) {
     ixDplHostVisitLedger(
         [](const ixDplHostBlock& block, void* context) {
@@ -162,6 +285,9 @@ void ixDplHostDumpLedger(std::FILE* file) {
                          block.source, block.line, block.size, block.pointer);
         },
         file);
+    ixDplHostVisitMisuses([](const ixDplHostMisuse& misuse,
+                             void* context) { ixDplHostPrintMisuse(static_cast<std::FILE*>(context), misuse); },
+                          file);
     const ixDplHostLedgerTotals totals = ixDplHostLedger();
     std::fprintf(file, "%zu objects and %zu heap blocks alive, %zu double and %zu unknown removals\n",
                  totals.liveObjects, totals.liveHeapBlocks, totals.doubleRemovals, totals.unknownRemovals);
@@ -171,6 +297,7 @@ void ixDplHostReleaseHeap() {
     Ledger& ledger = TheLedger();
     const std::lock_guard<std::mutex> lock(ledger.mutex);
     for (void* block : ledger.heap) std::free(block);
+    ledger.freed.insert(ledger.heap.begin(), ledger.heap.end());
     ledger.heap.clear();
     ledger.live.clear();
     ledger.numbers.clear();

@@ -6,8 +6,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
+#include <utility>
 
 #include "Diagnosis.h"
+#include "Infoset.h"
 #include "Json.h"
 #include "Library.h"
 #include "Outline.h"
@@ -39,9 +42,9 @@ XmlOwnedContext NewContext(const XmlSchemaInfo& schema, eXMLProfile profile = IX
     return context;
 }
 
-XmlOwned<> UnMarshall(XMLContext& context, const Document& document, bool log) {
+XmlOwned<> UnMarshall(XMLContext& context, const Document& document, LogLines log) {
     constexpr unsigned kResults = 1U << 2U;
-    const LogWatch watch(log, log ? kIxDplHostAllLevels : kResults);
+    const LogWatch watch(log, kResults);
     XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
     XmlOwned<> root(unMarshaller != nullptr ? unMarshaller->UnMarshall(document.text.c_str()) : nullptr);
     if (root != nullptr && watch.IsTooDeep()) {
@@ -57,7 +60,7 @@ std::string PlaceOf(const XmlProblem& problem) {
 }
 
 /// The same in the standard profile, which says what is wrong.
-XmlOwned<> UnMarshallStandard(XMLContext& context, const Document& document, bool log) {
+XmlOwned<> UnMarshallStandard(XMLContext& context, const Document& document, LogLines log) {
     const LogWatch watch(log);
     XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
     if (unMarshaller == nullptr) throw DocumentError{kNotDecoded, "no memory"};
@@ -68,7 +71,7 @@ XmlOwned<> UnMarshallStandard(XMLContext& context, const Document& document, boo
 }
 
 /// The declarations of a document; not decoded: NULL.
-XmlOwned<> DecodeNamespaces(const Document& document, bool log) {
+XmlOwned<> DecodeNamespaces(const Document& document, LogLines log) {
     const XmlOwnedContext context = NewContext(*XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL));
     return UnMarshall(*context, document, log);
 }
@@ -77,6 +80,21 @@ const XmlSchemaInfo& FindSchema(const Document& document) {
     Scanner scanner(document.text);
     if (!scanner.FindRoot()) throw Diagnose(document);
     return SchemaOf(scanner);
+}
+
+void AddBinder(Decoded& decoded, const Document& document, LogLines log) {
+    decoded.binder = DecodeNamespaces(document, log);
+    if (decoded.binder == nullptr) throw Diagnose(document);
+    decoded.context->SetNamespaceBinder(static_cast<XMLObject*>(decoded.binder.get()));
+}
+
+/// True when more than an empty root is read of a document with its own declarations.
+bool BinderHelps(const XmlSchemaInfo& schema, const Document& document) {
+    Decoded decoded;
+    decoded.context = NewContext(schema);
+    AddBinder(decoded, document, kNoLines);
+    decoded.root = UnMarshall(*decoded.context, document, kNoLines);
+    return decoded.root != nullptr && ToJson(*decoded.root).size() > 1;
 }
 
 Decoded Decode(const Document& document, const Options& options) {
@@ -89,18 +107,38 @@ Decoded Decode(const Document& document, const Options& options) {
     }
     result.schema = options.schema != nullptr ? options.schema : &FindSchema(document);
     result.context = NewContext(*result.schema);
-    if (options.binder && result.schema->takesBinder) {
-        result.binder = DecodeNamespaces(document, options.log);
-        if (result.binder == nullptr) throw Diagnose(document);
-        result.context->SetNamespaceBinder(static_cast<XMLObject*>(result.binder.get()));
-    }
+    if (options.binder && result.schema->takesBinder) AddBinder(result, document, options.log);
     result.root = UnMarshall(*result.context, document, options.log);
-    if (result.root == nullptr) throw Diagnose(document, *result.schema, result.binder != nullptr);
+    if (result.root == nullptr) {
+        throw Diagnose(document, *result.schema,
+                       [&] { return !options.binder && BinderHelps(*result.schema, document); });
+    }
     return result;
 }
 
-std::string MarshallText(const Decoded& decoded, const Document& document, const Options& options) {
-    const bool isDevice = options.profile == IX_XML_PROFILE_DEVICE;
+/// What the library wrote for a document.
+struct Written {
+    std::string text;
+    std::optional<InfoElement> infoset;  ///< None: the text is no XML.
+    std::string fault;                   ///< What is wrong with the text; "": nothing.
+};
+
+/// @param reason what the library says of it; "": nothing.
+Written Check(std::string text, bool isCut, const std::string& reason) {
+    Written written{std::move(text), {}, isCut ? "the text was cut at 32767 characters" : ""};
+    try {
+        written.infoset = ReadInfoset(written.text);
+    } catch (const DocumentError& error) {
+        // Elements stay open where something mandatory is missing in them.
+        const Document document{{}, written.text};
+        written.fault += (isCut ? ", and" : "the written text") + std::string(" is not well-formed at ") +
+                         document.PlaceOf(error.offset) + ": " + error.message +
+                         (isCut || reason.empty() ? "" : "; " + reason);
+    }
+    return written;
+}
+
+Written MarshallText(const Decoded& decoded, const Options& options) {
     const std::string name = decoded.schema->name;
     XMLMarshaller* const marshaller = decoded.context->createMarshaller();
     if (marshaller == nullptr) throw DocumentError{kNotMarshalled, "documents of schema " + name + " are only read"};
@@ -117,14 +155,18 @@ std::string MarshallText(const Decoded& decoded, const Document& document, const
         if (reason.empty()) reason = "the library does not say why";
         throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document: " + reason};
     }
-    std::string written = text;
-    if (marshaller->IsTruncated() != 0) {
-        Warn(document, "the text was cut at 32767 characters");
-    } else if (isDevice && !Scanner(written).FindEnd()) {
-        // Elements stay open where something mandatory is missing in them.
-        Warn(document, "the written text is not well-formed" + (reason.empty() ? "" : ": " + reason));
+    return Check(text, marshaller->IsTruncated() != 0, reason);
+}
+
+/// A line for each loss; none for a text that is no XML, which is its fault.
+std::vector<std::string> LossesOf(const Document& document, Written& written) {
+    if (!written.infoset) return {};
+    try {
+        return Differences(ReadInfoset(document.text), std::move(*written.infoset));
+    } catch (DocumentError& error) {
+        error.message = "no XML to compare with: " + error.message;
+        throw;
     }
-    return written;
 }
 
 bool HasColour(Colour colour) {
@@ -164,7 +206,28 @@ std::string DecodeDocument(const Document& document, const Options& options, con
 std::string ConvertDocument(const Document& document, const Options& options, const Progress& progress) {
     const Decoded decoded = Decode(document, options);
     progress.Enter(Stage::Writing);
-    return MarshallText(decoded, document, options);
+    Written written = MarshallText(decoded, options);
+    if (!written.fault.empty()) Warn(document, written.fault);
+    if (!options.strict) return written.text;
+    try {
+        const std::vector<std::string> losses = LossesOf(document, written);
+        for (const std::string& loss : losses) std::fprintf(stderr, "%s: %s\n", document.name.c_str(), loss.c_str());
+        if (!losses.empty() || !written.fault.empty()) throw DocumentError{kNotMarshalled, ""};
+    } catch (DocumentError& error) {
+        error.output = written.text;
+        throw;
+    }
+    return written.text;
+}
+
+std::string ListLosses(const Document& document, const Options& options, const Progress& progress) {
+    const Decoded decoded = Decode(document, options);
+    progress.Enter(Stage::Writing);
+    Written written = MarshallText(decoded, options);
+    std::string text;
+    for (const std::string& loss : LossesOf(document, written)) text += document.name + ": " + loss + '\n';
+    if (text.empty() && written.fault.empty()) return text;
+    throw DocumentError{kNotMarshalled, written.fault, kNoOffset, "", text};
 }
 
 std::string ListNamespaces(const Document& document, const Options& options, const Progress& /*progress*/) {

@@ -15,6 +15,10 @@ using Command = std::string (*)(const Document& document, const Options& options
 
 std::string DecodeDocument(const Document& document, const Options& options, const Progress& progress);
 std::string ConvertDocument(const Document& document, const Options& options, const Progress& progress);
+
+/// What the written text says otherwise than the document, a line each.
+std::string ListLosses(const Document& document, const Options& options, const Progress& progress);
+
 std::string ListNamespaces(const Document& document, const Options& options, const Progress& progress);
 
 /// A line for each point in which a document is not what its standard says. Throws when there is one.

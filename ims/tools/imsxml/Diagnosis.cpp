@@ -102,7 +102,8 @@ std::string OtherRoot(const RootElement& root, const XmlSchemaInfo& schema) {
 }
 
 /// Why a schema makes nothing of a root element that it has.
-std::string RefusedRoot(const RootElement& root, const XmlSchemaInfo& schema, bool hasBinder) {
+std::string RefusedRoot(const RootElement& root, const XmlSchemaInfo& schema,
+                        const std::function<bool()>& binderHelps) {
     std::string namespaceFault = NamespaceFault(root, schema);
     if (!namespaceFault.empty()) return namespaceFault;
     std::string fault = std::string("is not understood by schema ") + schema.name;
@@ -110,7 +111,11 @@ std::string RefusedRoot(const RootElement& root, const XmlSchemaInfo& schema, bo
     fault += ": it does not know the prefix " + QuotedText(root.Prefix());
     if (!schema.takesBinder) return fault;
     if (!root.Namespace()) return fault + ", which the element does not declare";
-    return fault + (hasBinder ? "" : "; --binder gives it the document's own declarations");
+    if (!binderHelps()) return fault;
+    // The binder is for the root and what is read with it; most services are read alone.
+    return fault + (schema.id == IX_XML_SCHEMA_SIMSERVS
+                        ? "; --binder makes some of its services readable, --profile standard all of them"
+                        : "; --binder gives it the document's own declarations");
 }
 
 }  // namespace
@@ -121,11 +126,12 @@ DocumentError Diagnose(const Document& document) {
     return FaultOf(document, scanner);
 }
 
-DocumentError Diagnose(const Document& document, const XmlSchemaInfo& schema, bool hasBinder) {
+DocumentError Diagnose(const Document& document, const XmlSchemaInfo& schema,
+                       const std::function<bool()>& binderHelps) {
     Scanner scanner(document.text);
     if (!scanner.FindEnd()) return FaultOf(document, scanner);
     const RootElement& root = *scanner.Root();
     const std::string fault =
-        TakesRoot(schema, root.Local()) ? RefusedRoot(root, schema, hasBinder) : OtherRoot(root, schema);
+        TakesRoot(schema, root.Local()) ? RefusedRoot(root, schema, binderHelps) : OtherRoot(root, schema);
     return {kNotDecoded, "root element " + TagText(root.name) + ' ' + fault, root.offset};
 }

@@ -3,6 +3,8 @@
 #ifndef IMSXML_TOOL_DIAGNOSIS_H
 #define IMSXML_TOOL_DIAGNOSIS_H
 
+#include <functional>
+
 #include "Document.h"
 #include "XMLFactory.h"
 
@@ -10,6 +12,7 @@
 DocumentError Diagnose(const Document& document);
 
 /// The same; when the tokenizer has nothing against the document, why the schema makes nothing of its root element.
-DocumentError Diagnose(const Document& document, const XmlSchemaInfo& schema, bool hasBinder);
+/// @param binderHelps asked before a binder is advised.
+DocumentError Diagnose(const Document& document, const XmlSchemaInfo& schema, const std::function<bool()>& binderHelps);
 
 #endif

@@ -14,9 +14,10 @@ constexpr std::size_t kNoOffset = std::string::npos;
 /// Ends the work on one document.
 struct DocumentError {
     ExitStatus status;
-    std::string message;
+    std::string message;             ///< "": all is said.
     std::size_t offset = kNoOffset;  ///< Of the byte that is at fault, when it is known.
     std::string place{};             ///< "LINE:COLUMN", where that is known in place of the offset.
+    std::string output{};            ///< What goes to the standard output all the same.
 };
 
 struct Document {

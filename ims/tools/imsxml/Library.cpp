@@ -28,25 +28,29 @@ std::string OnOneLine(std::string_view text) {
 
 }  // namespace
 
-LogWatch::LogWatch(bool print, unsigned levels) : m_print(print) {
+LogWatch::LogWatch(LogLines print, unsigned levels) : m_print(print) {
     ixDplHostSetLogSink(
-        [](const ixDplHostLogLine& line, void* context) { static_cast<LogWatch*>(context)->Take(line); }, this, levels);
+        [](const ixDplHostLogLine& line, void* context) { static_cast<LogWatch*>(context)->Take(line); }, this,
+        print != kNoLines ? kIxDplHostAllLevels : levels);
 }
 
 LogWatch::~LogWatch() { ixDplHostSetLogSink(nullptr, nullptr, 0); }
 
 void LogWatch::Take(const ixDplHostLogLine& line) {
     if (std::strcmp(line.text, "stack overflow\n") == 0) m_tooDeep = true;
+    const bool isFault = ixDplHostKindOf(line) == kIxDplHostFault;
+    if (!isFault && m_print != kAllLines) return;
     const std::string text = OnOneLine(line.text);
-    if (m_print) std::fprintf(stderr, "%d %d %s:%d %s\n", line.level, line.code, line.source, line.line, text.c_str());
+    if (m_print != kNoLines)
+        std::fprintf(stderr, "%d %d %s:%d %s\n", line.level, line.code, line.source, line.line, text.c_str());
+    if (!isFault) return;
     // Which module speaks is known here.
     std::string message = text.substr(Begins(text, kModule) ? std::strlen(kModule) : 0);
     message.erase(message.find_last_not_of(' ') + 1);
-    if (Has(text, "ailed")) {
+    if (Has(text, "ailed") || Has(text, "issue in")) {
         // The last step is the whole document, which is no news.
         if (!Ends(text, "XML Failed!")) m_failedStep = message;
-    } else if (Has(text, "mandatory") || Has(text, "required") || (line.level >= 3 && !Ends(text, "Marshall"))) {
-        // Progress has the level of refusals, too, but only the entry of a marshaller is logged where one fails.
+    } else {
         m_cause = message;
     }
 }

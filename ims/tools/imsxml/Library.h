@@ -8,12 +8,14 @@
 #include "XMLFactory.h"
 #include "ixDplHost.h"
 
+/// Which of the library's log lines go to the standard error.
+enum LogLines { kNoLines, kFaultLines, kAllLines };
+
 /// Follows the library's log lines for as long as it lives.
 class LogWatch {
   public:
-    /// @param print whether each line goes to the standard error.
-    /// @param levels bit n stands for level n.
-    explicit LogWatch(bool print, unsigned levels = kIxDplHostAllLevels);
+    /// @param levels bit n stands for level n; those of lines to print are followed anyway.
+    explicit LogWatch(LogLines print, unsigned levels = kIxDplHostAllLevels);
     ~LogWatch();
     LogWatch(const LogWatch&) = delete;
     LogWatch& operator=(const LogWatch&) = delete;
@@ -26,7 +28,7 @@ class LogWatch {
   private:
     void Take(const ixDplHostLogLine& line);
 
-    bool m_print;
+    LogLines m_print;
     bool m_tooDeep = false;
     std::string m_cause;
     std::string m_failedStep;

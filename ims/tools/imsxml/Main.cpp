@@ -8,28 +8,32 @@
 #include <string>
 #include <vector>
 
+#include "Diff.h"
 #include "Runner.h"
 #include "Schema.h"
+#include "SchemaNames.h"
 #include "Text.h"
 
 namespace {
 
 constexpr char kAbout[] = R"help(Reads and writes the XML documents of the IP Multimedia Subsystem.
 
-Every command but schemas takes any number of files; "-" is the standard input. Each file is tried, also after one that failed.)help";
+Every command but diff, which takes two, and schemas takes any number of files; "-" is the standard input. Each file is tried, also after one that failed.)help";
 
 constexpr char kFooter[] = R"help(
 Exit status, the highest of all files:
   0  done
   1  a document could not be decoded; the message says where and why
   2  wrong usage, a file that cannot be read, or output that cannot be written
-  3  decoded, but the document cannot be written
+  3  decoded, but the document cannot be written, or not without loss (lost, convert --strict)
   4  the time limit of --timeout ran out
 
 Examples:
   imsxml decode --format tree gruu.xml
   imsxml decode *.xml | jq .root.class
   imsxml convert --profile standard waiting.xml
+  imsxml lost presence.xml
+  imsxml diff sent.xml answered.xml
   imsxml validate waiting.xml
   imsxml namespaces presence.xml
 
@@ -53,13 +57,38 @@ Examples:
 
 constexpr char kConvertFooter[] = R"help(
 Decodes each document and prints the text that the library writes for it, without a line feed behind it. A text of more
-than 32767 characters is cut, with a warning.
+than 32767 characters is cut, and values are not escaped, in the device profile; a text that is cut or not well-formed
+comes with a warning. --strict also tells what of the document is lost, as "imsxml lost" does, on the standard error.
 
-Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 3 cannot be written, 4 time limit.
+Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 3 cannot be written, or --strict has something to
+tell, 4 time limit.
 
 Examples:
   imsxml convert gruu.xml
+  imsxml convert --strict waiting.xml >/dev/null && echo unchanged
   imsxml convert --binder waiting.xml > written.xml)help";
+
+constexpr char kLostFooter[] = R"help(
+Prints a line for each value and each element that the written text of a document has lost, changed or added: the path,
+the value and what became of it. Nothing lost: nothing is printed. Documents are compared as by "imsxml diff".
+
+Exit status: 0 nothing is lost, 1 not decoded, or no XML that can be compared, 2 wrong usage or unreadable file,
+3 something is lost, or the document cannot be written, 4 time limit.
+
+Examples:
+  imsxml lost presence.xml
+  imsxml lost --profile standard *.xml)help";
+
+constexpr char kDiffFooter[] = R"help(
+Prints a line for each value and each element that the second document has not, has otherwise or has besides. Elements
+and attributes go by namespace and local name. The order of elements with different names does not count, nor do
+prefixes, comments, white space around texts, leading zeros, and 1 or 0 for true or false. The prefixes "ss", "cp" and
+"ocp" need no declaration, as in parts of supplementary services.
+
+Exit status: 0 no difference, 1 different, 2 wrong usage, a file that cannot be read, or no XML.
+
+Example:
+  imsxml diff sent.xml answered.xml)help";
 
 constexpr char kValidateFooter[] = R"help(
 Prints "FILE: valid", or a line with line and column for each point in which the document is not what its standard says,
@@ -82,9 +111,11 @@ Example:
 
 constexpr char kSchemasFooter[] = R"help(
 Prints one line per schema: its number, the name that --schema takes, whether documents are only read, its namespace
-("-": none), and its root elements ("*": any).
+("-": none), and its root elements ("*": any). --long tells that and what a program needs: the header to include, the
+number's name, the class of each root element and the factory that makes it.
 
-Example:
+Examples:
+  imsxml schemas --long
   imsxml schemas | grep simservs)help";
 
 /// @return what is wrong with a number of seconds; "": nothing.
@@ -132,9 +163,13 @@ class CommandLine {
     std::string m_profile = "device";
     std::string m_format = "json";
     std::string m_colour = "auto";
+    std::string m_log;
+    bool m_long = false;
     CLI::App m_app{kAbout, "imsxml"};
     CLI::App* m_decode;
     CLI::App* m_convert;
+    CLI::App* m_lost;
+    CLI::App* m_diff;
     CLI::App* m_validate;
     CLI::App* m_schemas;
 };
@@ -155,11 +190,20 @@ CommandLine::CommandLine() {
         ->capture_default_str();
     m_convert = AddFileCommand("convert", "Decode documents and write them again", kConvertFooter);
     AddDecoding(m_convert);
+    m_convert->add_flag("--strict", m_options.strict, "Status 3 for a text that is not all that the document says");
+    m_lost = AddFileCommand("lost", "Say what is lost when documents are decoded and written again", kLostFooter);
+    AddDecoding(m_lost);
+    m_diff = m_app.add_subcommand("diff", "Say what two documents say differently");
+    m_diff->footer(kDiffFooter);
+    m_diff->add_option("FILE", m_options.files, "The two documents; \"-\" is the standard input")
+        ->required()
+        ->expected(2);
     m_validate = AddFileCommand("validate", "Say where documents are not what their standard says", kValidateFooter);
     AddSchema(m_validate);
     AddProfile(AddFileCommand("namespaces", "Print the namespace declarations of documents", kNamespacesFooter));
     m_schemas = m_app.add_subcommand("schemas", "Print the schemas that documents can have");
     m_schemas->footer(kSchemasFooter);
+    m_schemas->add_flag("--long", m_long, "A block of lines a schema, with header, enumerator, root class and factory");
 }
 
 CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const char* footer) {
@@ -168,7 +212,10 @@ CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const
     command->add_option("FILE", m_options.files, "Documents; \"-\" is the standard input")
         ->required()
         ->check([](const std::string& file) { return std::string(file.empty() ? "a name is empty" : ""); });
-    command->add_flag("--log", m_options.log, "Print the library's log lines to the standard error");
+    command
+        ->add_flag("--log{all}", m_log,
+                   "Print the library's log lines to the standard error; --log=faults: only faults")
+        ->check(CLI::IsMember({"all", "faults"}));
     command->add_flag("--leaks", m_options.leaks, "Print to the standard error what memory is alive after each file");
     command->add_option("--timeout", m_options.timeout, "Seconds that a file may take; 0: no limit")
         ->check(CheckSeconds)
@@ -206,12 +253,15 @@ int CommandLine::Run(int argc, char** argv) {
         std::fprintf(stderr, "imsxml: %s\n", error.message.c_str());
         return error.status;
     }
-    if (m_schemas->parsed()) return Print(ListSchemas());
+    if (m_schemas->parsed()) return Print(m_long ? DescribeSchemas() : ListSchemas());
+    if (m_diff->parsed()) return RunDiff(m_options.files);
     if (m_profile == "standard") m_options.profile = IX_XML_PROFILE_STANDARD;
     m_options.tree = m_format == "tree";
+    if (!m_log.empty()) m_options.log = m_log == "all" ? kAllLines : kFaultLines;
     if (m_colour != "auto") m_options.colour = m_colour == "always" ? Colour::Always : Colour::Never;
     if (m_decode->parsed()) return RunOnFiles(DecodeDocument, m_options);
     if (m_validate->parsed()) return RunOnFiles(ValidateDocument, m_options);
+    if (m_lost->parsed()) return RunOnFiles(ListLosses, m_options);
     return RunOnFiles(m_convert->parsed() ? ConvertDocument : ListNamespaces, m_options);
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "Library.h"
 #include "XMLFactory.h"
 
 /// When the outline has colours.
@@ -22,7 +23,8 @@ struct Options {
     bool tree = false;  ///< The outline for people in place of JSON.
     Colour colour = Colour::Auto;
     bool binder = false;
-    bool log = false;
+    bool strict = false;  ///< A text that says less or something else than its document is a failure.
+    LogLines log = kNoLines;
     bool leaks = false;
     double timeout = 10;  ///< Seconds per file; 0: no limit.
 

@@ -15,9 +15,6 @@ constexpr char kHeading[] = "1";
 constexpr char kName[] = "36";
 constexpr char kAside[] = "2";
 
-/// Fields that tell an element from others of its name, where they come first.
-constexpr std::string_view kIdentities[] = {"type", "id", "name", "uri", "entity", "aor"};
-
 /// Name of the lists whose entries have no name of their own.
 constexpr char kAny[] = "any";
 
@@ -49,6 +46,15 @@ bool IsImplied(std::string_view className, std::string_view name) {
                                [](char left, char right) { return left == (right == '-' ? '_' : right); });
 }
 
+/// True for the attributes of an element, and for what is told like them: texts, also of children that are no more.
+bool IsAttribute(const std::string& name, const Json& value) {
+    if (!value.is_array()) return !value.is_object() || IsText(value);
+    // Attribute pairs are the only objects without a class, but for what no field holds.
+    return name != kRest && std::all_of(value.begin(), value.end(), [](const Json& entry) {
+               return !entry.is_object() || !entry.contains("class") || IsText(entry);
+           });
+}
+
 /// The columns that a text takes, its colours left out.
 std::size_t Columns(std::string_view text) {
     std::size_t columns = 0;
@@ -74,7 +80,8 @@ void Outline::AddTree(const Json& root) {
 }
 
 /// @param field the first field that is not part of the head.
-void Outline::AddObject(const std::string& head, const Json& object, Json::const_iterator field, std::size_t depth) {
+void Outline::AddObject(const std::string& head, const Json& object, const Json::const_iterator& field,
+                        std::size_t depth) {
     std::string line = head;
     bool fits = true;
     for (auto next = field; next != object.end() && fits; ++next) {
@@ -86,7 +93,12 @@ void Outline::AddObject(const std::string& head, const Json& object, Json::const
         return;
     }
     AddLine(head, depth);
-    for (; field != object.end(); ++field) AddField(field.key(), *field, depth + 1);
+    // Among many children an attribute behind them is overlooked.
+    for (const bool isAttribute : {true, false}) {
+        for (auto next = field; next != object.end(); ++next) {
+            if (IsAttribute(next.key(), *next) == isAttribute) AddField(next.key(), *next, depth + 1);
+        }
+    }
 }
 
 void Outline::AddElement(const std::string& name, const Json& element, std::size_t depth) {

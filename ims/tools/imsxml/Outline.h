@@ -13,7 +13,7 @@
 ///   a name and a value.
 /// - Any other element begins with its XML name, its class where the name does not tell it, and the field that
 ///   distinguishes it from its siblings. Its fields follow on the same line when all of them are plain and fit,
-///   otherwise below it.
+///   otherwise below it: attributes and texts first, then children.
 class Outline {
   public:
     explicit Outline(bool colour) : m_colour(colour) {}
@@ -28,7 +28,7 @@ class Outline {
     bool HasReplaced() const { return m_replaced; }
 
   private:
-    void AddObject(const std::string& head, const Json& object, Json::const_iterator field, std::size_t depth);
+    void AddObject(const std::string& head, const Json& object, const Json::const_iterator& field, std::size_t depth);
     void AddElement(const std::string& name, const Json& element, std::size_t depth);
     void AddField(const std::string& name, const Json& value, std::size_t depth);
     void AddList(const std::string& name, const Json& list, std::size_t depth);

@@ -28,12 +28,14 @@ constexpr int kOutputLost = kTimeLimit + 1;
 
 void PrintError(const std::string& line) { std::fprintf(stderr, "%s\n", line.c_str()); }
 
-void PrintLedger(const std::string& name) {
+/// Prints what `write` writes to a file, each line behind the name of the document.
+template <class Write>
+void PrintLines(const std::string& name, Write write) {
     char* text = nullptr;
     std::size_t size = 0;
     std::FILE* const file = open_memstream(&text, &size);
     if (file == nullptr) return;
-    ixDplHostDumpLedger(file);
+    write(file);
     std::fclose(file);
     for (const char* line = text; *line != '\0';) {
         const auto length = static_cast<int>(std::strcspn(line, "\n"));
@@ -43,25 +45,38 @@ void PrintLedger(const std::string& name) {
     std::free(text);
 }
 
+/// What is deleted wrongly is told at once: the process may not live to its end.
+void OpenLedger(const std::string& name) {
+    ixDplHostEnableLedger(true);
+    ixDplHostTraceRemovals(true);
+    ixDplHostSetMisuseHandler(
+        [](const ixDplHostMisuse& misuse, void* context) {
+            PrintLines(*static_cast<const std::string*>(context),
+                       [&misuse](std::FILE* file) { ixDplHostPrintMisuse(file, misuse); });
+        },
+        const_cast<std::string*>(&name));
+}
+
 /// @param input the text of the standard input, when that is the document.
 int RunCommand(Command command, const Options& options, const std::string& name, const std::string* input,
                const Progress& progress, std::string& output) {
     Document document{name, {}};
     int status = kDone;
-    if (options.leaks) ixDplHostEnableLedger(true);
+    if (options.leaks) OpenLedger(name);
     try {
         document.text = input != nullptr ? *input : ReadText(name);
         RequireText(document.text);
         progress.Enter(Stage::Decoding);
         output = command(document, options, progress);
     } catch (const DocumentError& error) {
-        PrintError(document.Describe(error));
+        if (!error.message.empty()) PrintError(document.Describe(error));
+        output = error.output;
         status = error.status;
     } catch (const std::exception& error) {
         PrintError(name + ": " + error.what());
         status = kNotDecoded;
     }
-    if (options.leaks) PrintLedger(name);
+    if (options.leaks) PrintLines(name, ixDplHostDumpLedger);
     return status;
 }
 

@@ -9,6 +9,9 @@
 /// White space as XML has it.
 constexpr char kSpaces[] = " \t\r\n";
 
+/// What tells an element from its siblings of the same name.
+constexpr std::string_view kIdentities[] = {"id", "uri", "entity", "aor", "name", "type"};
+
 inline bool Begins(std::string_view text, std::string_view beginning) {
     return text.substr(0, beginning.size()) == beginning;
 }

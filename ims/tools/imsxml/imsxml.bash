@@ -5,10 +5,13 @@ _imsxml() {
     # "=" is a word of its own: --format=tree arrives as three.
     if [ "$word" = = ]; then
         word=''
+        option+='='
     elif [ "$option" = = ]; then
-        option=${COMP_WORDS[COMP_CWORD - 2]}
+        option=${COMP_WORDS[COMP_CWORD - 2]}=
     fi
-    case $option in
+    # What stands behind --log alone is a file.
+    [ "$option" != --log= ] || { mapfile -t COMPREPLY < <(compgen -W 'all faults' -- "$word"); return; }
+    case ${option%=} in
         --schema)
             mapfile -t COMPREPLY < <(compgen -W "$("$1" schemas 2>/dev/null | awk 'NR > 1 { print $2 }')" -- "$word")
             return
@@ -27,11 +30,13 @@ _imsxml() {
         esac
     done
     case $command in
-        '') words='decode convert validate namespaces schemas --help --version' ;;
+        '') words='decode convert lost diff validate namespaces schemas --help --version' ;;
         decode) words='--schema --binder --format --color --log --leaks --profile --timeout --help' ;;
-        convert) words='--schema --binder --log --leaks --profile --timeout --help' ;;
+        convert) words='--schema --binder --strict --log --leaks --profile --timeout --help' ;;
+        lost) words='--schema --binder --log --leaks --profile --timeout --help' ;;
         validate) words='--schema --log --leaks --timeout --help' ;;
         namespaces) words='--log --leaks --profile --timeout --help' ;;
+        schemas) words='--long --help' ;;
         *) words='--help' ;;
     esac
     if [ -z "$command" ] || [ "${word:0:1}" = - ] || [ "$command" = schemas ]; then
