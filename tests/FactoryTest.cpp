@@ -1,5 +1,7 @@
 // The registry of schemas, and what every schema offers beside reading and writing.
 #include <set>
+#include <sstream>
+#include <string>
 
 #include "Classes.h"
 #include "Scenario.h"
@@ -64,6 +66,33 @@ TEST_F(FactoryTest, BuildsItsExamplesWholeOrNotAtAll) {
             FreeElement(text);
             EXPECT_EQ(ixDplHostLedger().liveHeapBlocks, 0U);
         }
+    }
+}
+
+TEST(ContentTypeTest, ParametersCaseAndBlanksDoNotCount) {
+    const std::pair<const char*, int> table[] = {
+        {"application/reginfo+xml", IX_XML_SCHEMA_REGINFO},
+        {" \tApplication/PIDF+XML ;charset=utf-8", IX_XML_SCHEMA_PRESENCE},
+        {"message/imdn+xml\r\n", IX_XML_SCHEMA_IMDN},
+        {"application/oma-directory+xml", IX_XML_SCHEMA_XCAP_DIRECTORY},
+        {"application/vnd.oma.xcap-directory+xml", IX_XML_SCHEMA_XCAP_DIRECTORY},
+        {"application/xcap-el+xml", -1},
+        {"application/reginfo+xm", -1},
+        {"application/reginfo+xml2", -1},
+        {"application/reginfo+xml application/pidf+xml", -1},
+        {"application/reginfo", -1},
+        {";charset=utf-8", -1},
+        {"", -1},
+        {nullptr, -1},
+    };
+    for (const auto& [type, schema] : table) {
+        EXPECT_EQ(XMLFactory::SchemaForContentType(type), schema) << (type != nullptr ? type : "NULL");
+    }
+    // No type is that of two schemas.
+    for (int id = 0; id < kXmlSchemaCount; ++id) {
+        const XmlSchemaInfo* const schema = XMLFactory::SchemaInfo(id);
+        std::istringstream types(schema != nullptr ? schema->contentTypes : "");
+        for (std::string type; types >> type;) EXPECT_EQ(XMLFactory::SchemaForContentType(type.c_str()), id) << type;
     }
 }
 

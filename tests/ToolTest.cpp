@@ -208,6 +208,56 @@ TEST_F(ToolTest, TheStandardProfileKeepsEverythingAndSaysWhatIsWrong) {
               "indication: schema call-waiting-indication has no standard profile\n");
 }
 
+TEST_F(ToolTest, EncodeUndoesDecode) {
+    Write("text",
+          "<gr:temp-gruu xmlns:gr=\"urn:ietf:params:xml:ns:gruuinfo\"\n uri=\"sip:c\" first-cseq=\"07\"><!--c-->"
+          "<x:y xmlns:x=\"urn:x\"/></gr:temp-gruu>");
+    for (const std::string profile : {"", " --profile standard"}) {
+        const std::string documents = profile + " gruu text waiting gruu";
+        const Result written = Run("convert" + documents);
+        EXPECT_EQ(written.status, 0) << written.errors;
+        EXPECT_EQ(Run("decode" + documents + " >json").status, 0);
+        EXPECT_EQ(Run("encode" + profile + " json").output, written.output);
+        EXPECT_EQ(Run("decode" + profile + " gruu | '" IMSXML_TOOL "' encode" + profile + " -").output,
+                  Run("convert" + profile + " gruu").output);
+    }
+}
+
+TEST_F(ToolTest, EncodeTriesEachDocument) {
+    const std::string good = R"({"schema":"gruu","root":{"class":"ix_pub_gruu","uri":"a"}})";
+    const std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<pub-gruu  uri=\"a\"/>";
+    const std::string unwritten = R"({"schema":"gruu","root":{"class":"ix_pub_gruu"}})";
+    const std::string wrong = R"({"schema":"gruu","root":{"class":"ix_pub_gruu","uri":1}})";
+    Write("array", "[" + good + ",\n" + unwritten + ",\n" + wrong + ",\n" + good + "]");
+    Write("lines", good + "\n" + good + "\n{]");
+    const Result array = Run("encode array");
+    EXPECT_EQ(array.status, 3);
+    EXPECT_EQ(array.output, text + text);
+    EXPECT_EQ(array.errors,
+              "array: schema gruu cannot write the document: AddPubGruuElementToXml: Uri is a mandatory attribute\n"
+              "array:3:48: [2].root.uri: a text is expected here and not a number\n");
+    const Result lines = Run("encode lines array");
+    EXPECT_EQ(lines.status, 3);
+    EXPECT_EQ(lines.output, text + text + text + text);
+    EXPECT_EQ(lines.errors.find("lines:3:2: no JSON: syntax error while parsing object key"), 0U) << lines.errors;
+    Write("blank", " \n");
+    EXPECT_EQ(Run("encode blank").errors, "blank: there is no JSON\n");
+    Write("empty", "[]");
+    EXPECT_EQ(Run("encode empty").status, 0);
+}
+
+TEST_F(ToolTest, ContentTypeChoosesTheSchema) {
+    Write("list", "<list xmlns=\"urn:ietf:params:xml:ns:rlmi\" uri=\"sip:a\" version=\"1\" fullState=\"true\"/>");
+    const std::string typed = " --content-type 'Application/RLMI+xml;charset=\"utf-8\"' list";
+    for (const std::string command : {"decode", "convert", "validate"}) {
+        const Result result = Run(command + typed);
+        EXPECT_EQ(result.status, 0) << result.errors;
+        EXPECT_EQ(result.output, Run(command + " list").output);
+    }
+    EXPECT_NE(Run("decode --content-type application/reginfo+xml list").errors.find("of schema reginfo"),
+              std::string::npos);
+}
+
 TEST_F(ToolTest, SchemasPrintsEverySchema) {
     const Result result = Run("schemas");
     EXPECT_EQ(result.status, 0);
@@ -221,13 +271,15 @@ TEST_F(ToolTest, SchemasPrintsEverySchema) {
         ++count;
         std::getline(lines, line);
         std::istringstream words(line);
-        std::string number, name, access, uri, roots;
-        words >> number >> name >> access >> uri >> std::ws;
+        std::string number, name, access, uri, types, roots;
+        words >> number >> name >> access >> uri >> types >> std::ws;
         std::getline(words, roots);
         EXPECT_EQ(number, std::to_string(id));
         EXPECT_EQ(name, schema->name);
         EXPECT_EQ(access, schema->writes ? "read/write" : "read");
         EXPECT_EQ(uri, *schema->namespaceUri != '\0' ? schema->namespaceUri : "-");
+        std::replace(types.begin(), types.end(), ',', ' ');
+        EXPECT_EQ(types, *schema->contentTypes != '\0' ? schema->contentTypes : "-");
         EXPECT_EQ(roots, schema->rootElements);
     }
     EXPECT_EQ(count, 26);
@@ -339,7 +391,7 @@ TEST_F(ToolTest, TheTimeLimitEndsTheWalksWithoutEnd) {
 }
 
 TEST_F(ToolTest, WrongUsage) {
-    for (const char* arguments : {"", "decode", "encode gruu", "decode --format yaml gruu", "decode --color maybe gruu",
+    for (const char* arguments : {"", "decode", "undo gruu", "decode --format yaml gruu", "decode --color maybe gruu",
                                   "decode --timeout x gruu", "decode --schema gru gruu", "decode gruu ''"}) {
         const Result result = Run(arguments);
         EXPECT_EQ(result.status, 2) << arguments;
@@ -348,7 +400,11 @@ TEST_F(ToolTest, WrongUsage) {
         EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << arguments;
     }
     EXPECT_EQ(Run("decode --schema gru gruu").errors, "imsxml: no schema has the name \"gru\"; the nearest: gruu\n");
-    EXPECT_EQ(Run("encode gruu").errors, "imsxml: \"encode\" is no command; see imsxml --help\n");
+    EXPECT_EQ(Run("undo gruu").errors, "imsxml: \"undo\" is no command; see imsxml --help\n");
+    EXPECT_EQ(Run("schemas --json gru").errors, Run("decode --schema gru gruu").errors);
+    EXPECT_EQ(Run("validate --content-type text/plain gruu").errors,
+              "imsxml: no schema has the content type \"text/plain\"\n");
+    EXPECT_EQ(Run("decode --schema gruu --content-type message/imdn+xml gruu").status, 2);
     EXPECT_EQ(Run("convert --format tree gruu").errors,
               "imsxml: The following argument was not expected: --format; see imsxml convert --help\n");
 }
@@ -357,6 +413,7 @@ TEST_F(ToolTest, HelpAndVersion) {
     const std::pair<const char*, const char*> table[] = {{"--help", "Exit status"},
                                                          {"decode --help", "one object per file"},
                                                          {"convert --help", "without a line feed"},
+                                                         {"encode --help", "as decode prints it"},
                                                          {"validate --help", "FILE: valid"},
                                                          {"namespaces --help", "one line per declaration"},
                                                          {"lost --help", "Nothing lost"},

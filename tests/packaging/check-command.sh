@@ -16,7 +16,7 @@ same() {
 }
 
 commands() { "$tool" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z]*\) .*/\1/p' | LC_ALL=C sort; }
-options() { "$tool" "$@" --help | sed -n '/^Options:/,/^$/s/^ *\(-h,\)\?\(--[a-z]*\).*/\2/p' | LC_ALL=C sort; }
+options() { "$tool" "$@" --help | sed -n '/^Options:/,/^$/s/^ *\(-h,\)\?\(--[a-z-]*\).*/\2/p' | LC_ALL=C sort; }
 found() { grep -oE -e "$1" | LC_ALL=C sort -u; }
 
 mandoc -T lint -W warning "$manual" || status=1
@@ -24,10 +24,10 @@ page=$(mandoc -T ascii -O width=1000 "$manual" | sed 's/.\x08//g')
 synopsis=$(sed -n '/^SYNOPSIS/,/^DESCRIPTION/p' <<<"$page")
 same 'commands of the synopsis' "$(commands)" "$(sed -n 's/^ *imsxml \([a-z]\+\).*/\1/p' <<<"$synopsis" | LC_ALL=C sort)"
 for command in $(commands); do
-    listed=$( (grep -E "^ *imsxml $command( |$)" <<<"$synopsis"; echo --help) | found '--[a-z]+')
+    listed=$( (grep -E "^ *imsxml $command( |$)" <<<"$synopsis"; echo --help) | found '--[a-z-]+')
     same "options of $command in the synopsis" "$(options "$command")" "$listed"
 done
-described=$(grep -E '^ +(-h, )?--[a-z]+( [a-z]+)?( |$)' <<<"$page" | found '--[a-z]+')
+described=$(grep -E '^ +(-h, )?--[a-z-]+( [a-z]+)?( |$)' <<<"$page" | found '--[a-z-]+')
 same 'options described' "$( (options; for command in $(commands); do options "$command"; done) | sort -u)" "$described"
 
 # complete WORD... prints what is offered for the last word.
@@ -48,6 +48,8 @@ done
 schemas=$("$tool" schemas | awk 'NR > 1 { print $2 }' | LC_ALL=C sort)
 same 'schemas' "$schemas" "$(complete_words decode --schema '')"
 same 'beginning of a schema' "$(grep ^re <<<"$schemas")" "$(complete_words convert --binder --schema re)"
+same 'schemas behind --json' "$schemas" "$(complete_words schemas --json '')"
+same 'content types' $'application/rlmi+xml\napplication/rls-services+xml' "$(complete_words validate --content-type application/rl)"
 same 'formats' $'json\ntree' "$(complete_words decode --format '')"
 same 'formats behind =' $'json\ntree' "$(complete_words decode --format =)"
 same 'beginning of a format behind =' tree "$(complete_words decode --format = t)"

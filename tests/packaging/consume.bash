@@ -34,7 +34,9 @@ consume() {
     grep -q "^imsxml_DIR:PATH=$prefix/" "$work/$name/CMakeCache.txt" || { echo "$name: found another imsxml" >&2; exit 1; }
     expect "$name, CMake, shared" "${environment[@]}" "$work/$name/consumer_shared"
     expect "$name, CMake, static" "$work/$name/consumer_static"
-    if ldd "$work/$name/consumer_static" | grep -E 'libimsxml|libixdpl'; then
+    expect "$name, CMake, JSON, shared" "${environment[@]}" "$work/$name/consumer_json"
+    expect "$name, CMake, JSON, static" "$work/$name/consumer_json_static"
+    if ldd "$work/$name/consumer_static" "$work/$name/consumer_json_static" | grep -E 'libimsxml|libixdpl'; then
         echo "$name: the static variant loads shared libraries" >&2
         exit 1
     fi
@@ -44,4 +46,8 @@ consume() {
     read -r -a warnings <<<"-std=c++17 -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror $flags"
     quietly "$compiler" "${warnings[@]}" "$consumer/main.cpp" -o "$work/$name/with-pkg-config" "${options[@]}"
     expect "$name, pkg-config" "${environment[@]}" "$work/$name/with-pkg-config"
+
+    read -r -a options <<<"$("${environment[@]}" pkg-config --cflags --libs imsxmljson)"
+    quietly cc -std=c89 -pedantic -Wall -Wextra -Werror "$consumer/json.c" -o "$work/$name/json-with-pkg-config" "${options[@]}"
+    expect "$name, JSON, pkg-config" "${environment[@]}" "$work/$name/json-with-pkg-config"
 }

@@ -7,7 +7,7 @@ source_dir=$(cd "$(dirname "$0")/../.." && pwd)
 # Read by consume.bash.
 # shellcheck disable=SC2034
 compiler=g++ consumer=$source_dir/tests/consumer
-packages=(libimsxml0 libimsxml-dev imsxml)
+packages=(libimsxml0 libimsxml-dev libimsxmljson0 libimsxmljson-dev imsxml)
 
 fail() { echo "$*" >&2; exit 1; }
 is_installed() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'ok installed'; }
@@ -62,12 +62,16 @@ contents() {
 lib=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 contents libimsxml0 "$lib/libimsxml\.so\.0" "$lib/libimsxml\.so\.$version" "$lib/libixdpl\.so\.0" "$lib/libixdpl\.so\.$version"
 contents libimsxml-dev '/usr/include/imsxml/\w+\.(h|inc)' "$lib/libimsxml\.so" "$lib/libixdpl\.so" "$lib/libimsxml\.a" \
-    "$lib/libixdpl\.a" "$lib/cmake/imsxml/imsxml\w+(-\w+)?\.cmake" "$lib/pkgconfig/imsxml\.pc"
+    "$lib/libixdpl\.a" "$lib/cmake/imsxml/imsxml(Config|ConfigVersion|Targets)(-\w+)?\.cmake" "$lib/pkgconfig/imsxml\.pc"
+contents libimsxmljson0 "$lib/libimsxmljson\.so\.0" "$lib/libimsxmljson\.so\.$version"
+contents libimsxmljson-dev /usr/include/imsxmljson/imsxml.h "$lib/libimsxmljson\.so" "$lib/libimsxmljson\.a" \
+    "$lib/cmake/imsxml/imsxmljsonTargets(-\w+)?\.cmake" "$lib/pkgconfig/imsxmljson\.pc"
 contents imsxml /usr/bin/imsxml /usr/share/bash-completion/completions/imsxml /usr/share/man/man1/imsxml.1.gz
 headers=$(dpkg-deb --contents "${files[1]}" | grep -c '\.h$')
 [ "$headers" -eq "$(find "$source_dir"/ims/{dpl,xml}/include -name '*.h' | wc -l)" ] || fail "$headers headers are not all"
 depends() { dpkg-deb --field "$work/packages/$1_${version}_$architecture.deb" Depends; }
 grep -qF "libimsxml0 (= $version)" <<<"$(depends libimsxml-dev)" || fail "libimsxml-dev goes with any library"
+grep -qF "libimsxmljson0 (= $version)" <<<"$(depends libimsxmljson-dev)" || fail "libimsxmljson-dev goes with any library"
 grep -qF "libimsxml0 (>= $version)" <<<"$(depends imsxml)" || fail "imsxml goes without the library"
 echo "contents: good"
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 
-#include "../../ims/tools/imsxml/Json.h"
 #include "BootstrappingInfo.h"
 #include "CWIndication.h"
 #include "CallWaitingIndication.h"
@@ -15,6 +14,7 @@
 #include "Gruu.h"
 #include "Imdn.h"
 #include "IsComposing.h"
+#include "Json.h"
 #include "MediaControl.h"
 #include "OriginatingIdentityPresentation.h"
 #include "Presence.h"
@@ -23,6 +23,7 @@
 #include "ResourceLists.h"
 #include "Rlmi.h"
 #include "RlsServices.h"
+#include "Schema.h"
 #include "SchemaNameSpaceRetrieval.h"
 #include "Simservs.h"
 #include "TerminatingIdentityPresentation.h"
@@ -46,19 +47,6 @@ class NamedElement : public XMLElement {
 
     char* mValue = nullptr;
 };
-
-/// Adds a class, and those that its rows lead to.
-void Collect(const XmlClass* description, std::vector<const XmlClass*>& classes) {
-    if (description == nullptr || std::find(classes.begin(), classes.end(), description) != classes.end()) return;
-    if (description->create != nullptr) classes.push_back(description);
-    for (const XmlFieldTable* table = &description->table; table != nullptr; table = table->base) {
-        for (std::size_t i = 0; i < table->count; ++i) {
-            const XmlField& row = table->fields[i];
-            Collect(row.description, classes);
-            for (std::size_t at = 0; at < row.entryCount; ++at) Collect(row.entries[at].description, classes);
-        }
-    }
-}
 
 template <class Decoder>
 std::unique_ptr<XmlDecoderSchema> Make() {
@@ -170,15 +158,7 @@ std::string SchemaName(const testing::TestParamInfo<eXMLSchemaID>& schema) {
     return name;
 }
 
-std::vector<const XmlClass*> ClassesOf(eXMLSchemaID id) {
-    std::vector<const XmlClass*> classes;
-    for (const XmlClass* const* known = XMLFactory::SchemaInfo(id)->classes; *known != nullptr; ++known) {
-        Collect(*known, classes);
-    }
-    for (const XmlClass* const generic : {&ix_string::kClass, &ix_empty_element_type::kClass})
-        Collect(generic, classes);
-    return classes;
-}
+std::vector<const XmlClass*> ClassesOf(eXMLSchemaID id) { return ClassesOf(*XMLFactory::SchemaInfo(id)); }
 
 std::unique_ptr<XmlDecoderSchema> NewDecoder(eXMLSchemaID id) { return kDecoders.at(id)(); }
 
@@ -197,7 +177,10 @@ XMLElement* TreeFromJson(eXMLSchemaID id, const Json& tree) {
     return element;
 }
 
-Json JsonOf(const XMLElement* root) { return root != nullptr ? ToJson(*root) : Json(); }
+Json JsonOf(const XMLElement* root) {
+    bool replaced = false;
+    return root != nullptr ? ToJson(*root, replaced) : Json();
+}
 
 std::map<std::string, const XmlField*> FieldsOf(const XMLElement& element) {
     std::map<std::string, const XmlField*> fields;

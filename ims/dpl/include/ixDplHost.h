@@ -141,6 +141,9 @@ IX_DPL_EXPORT void ixDplHostFailAllocation(unsigned long first, unsigned long co
 /// Allocations since `ixDplHostFailAllocation`, failed ones included.
 IX_DPL_EXPORT unsigned long ixDplHostAllocations();
 
+/// How many allocations of the calling thread have failed since it began, for a caller whose callees do not tell.
+IX_DPL_EXPORT unsigned long ixDplHostFailedAllocations();
+
 /// Stops counting and failing.
 IX_DPL_EXPORT void ixDplHostStopCounting();
 /// @}

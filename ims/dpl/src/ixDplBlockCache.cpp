@@ -4,7 +4,7 @@
 
 #ifdef IX_DPL_KEEPS_NONE
 
-void* BlockCache::TakeNew(std::size_t size) { return std::malloc(size != 0 ? size : 1); }
+void* BlockCache::TakeNew(std::size_t size) { return Counted(std::malloc(size != 0 ? size : 1)); }
 
 void BlockCache::GiveOther(void* pointer) { std::free(pointer); }
 
@@ -132,7 +132,7 @@ void* BlockCache::TakeNew(std::size_t size) {
     if (size == 0) size = 1;
     const std::size_t kind = (size + kStep - 1) / kStep;
     const bool isSmall = kind < kKinds && (s_pMine != nullptr || Open());
-    return isSmall && s_pMine->m_kinds[kind].Refill() ? Take(size) : std::malloc(size);
+    return isSmall && s_pMine->m_kinds[kind].Refill() ? Take(size) : Counted(std::malloc(size));
 }
 
 void BlockCache::GiveOther(void* pointer) {

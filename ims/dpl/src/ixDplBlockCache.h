@@ -66,10 +66,19 @@ class BlockCache {
         GiveOther(pointer);
     }
 
+    /// Counts an allocation without a result. @return `block`.
+    static void* Counted(void* block) {
+        if (block == nullptr) ++s_failed;
+        return block;
+    }
+    /// How many allocations of this thread have failed.
+    static unsigned long Failed() { return s_failed; }
+
   private:
     static void* TakeNew(std::size_t size);
     static void GiveOther(void* pointer);
 
+    static inline thread_local unsigned long s_failed = 0;
 #ifndef IX_DPL_KEEPS_NONE
     struct Block {
         Block* next;

@@ -121,9 +121,9 @@ bool CountAndFail() {
 
 [[gnu::noinline]] void* Allocate(std::size_t size, bool zeroed) {
     const unsigned now = mode.load(std::memory_order_relaxed);
-    if ((now & kCounting) != 0 && CountAndFail()) return nullptr;
+    const bool fails = (now & kCounting) != 0 && CountAndFail();
     if (size == 0) size = 1;
-    void* const block = zeroed ? std::calloc(1, size) : std::malloc(size);
+    void* const block = BlockCache::Counted(fails ? nullptr : zeroed ? std::calloc(1, size) : std::malloc(size));
     if ((now & kLedger) != 0 && block != nullptr) {
         Ledger& ledger = TheLedger();
         const std::lock_guard<std::mutex> lock(ledger.mutex);
@@ -311,5 +311,7 @@ void ixDplHostFailAllocation(unsigned long first, unsigned long count) {
 }
 
 unsigned long ixDplHostAllocations() { return allocations.load(std::memory_order_relaxed); }
+
+unsigned long ixDplHostFailedAllocations() { return BlockCache::Failed(); }
 
 void ixDplHostStopCounting() { mode.fetch_and(~static_cast<unsigned>(kCounting), std::memory_order_relaxed); }

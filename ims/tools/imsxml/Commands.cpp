@@ -9,12 +9,14 @@
 #include <optional>
 #include <utility>
 
+#include "Codec.h"
 #include "Diagnosis.h"
 #include "Infoset.h"
 #include "Json.h"
+#include "JsonTree.h"
+#include "JsonValue.h"
 #include "Library.h"
 #include "Outline.h"
-#include "Scanner.h"
 #include "Schema.h"
 #include "Text.h"
 #include "XMLSchemaNameSpaceRetrieval.h"
@@ -33,20 +35,10 @@ struct Decoded {
     XmlOwned<> root;
 };
 
-XmlOwnedContext NewContext(const XmlSchemaInfo& schema, eXMLProfile profile = IX_XML_PROFILE_DEVICE) {
-    XmlOwnedContext context(XMLFactory::newInstance(schema.id, profile));
-    if (context == nullptr && profile == IX_XML_PROFILE_STANDARD) {
-        throw DocumentError{kNotDecoded, std::string("schema ") + schema.name + " has no standard profile"};
-    }
-    if (context == nullptr) throw DocumentError{kNotDecoded, "no memory for the context"};
-    return context;
-}
-
 XmlOwned<> UnMarshall(XMLContext& context, const Document& document, LogLines log) {
     constexpr unsigned kResults = 1U << 2U;
     const LogWatch watch(log, kResults);
-    XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
-    XmlOwned<> root(unMarshaller != nullptr ? unMarshaller->UnMarshall(document.text.c_str()) : nullptr);
+    XmlOwned<> root = ReadDevice(context, document);
     if (root != nullptr && watch.IsTooDeep()) {
         Warn(document,
              "nested too deep: 100 elements are under construction at a time; what lies deeper is filed in another "
@@ -55,31 +47,17 @@ XmlOwned<> UnMarshall(XMLContext& context, const Document& document, LogLines lo
     return root;
 }
 
-std::string PlaceOf(const XmlProblem& problem) {
-    return problem.line != 0 ? std::to_string(problem.line) + ':' + std::to_string(problem.column) : "";
-}
-
 /// The same in the standard profile, which says what is wrong.
 XmlOwned<> UnMarshallStandard(XMLContext& context, const Document& document, LogLines log) {
     const LogWatch watch(log);
-    XMLUnMarshaller* const unMarshaller = context.createUnMarshaller();
-    if (unMarshaller == nullptr) throw DocumentError{kNotDecoded, "no memory"};
-    XmlOwned<> root(unMarshaller->UnMarshall(document.text.data(), document.text.size()));
-    if (root != nullptr) return root;
-    const XmlProblem problem = *unMarshaller->Problem();
-    throw DocumentError{kNotDecoded, problem.text, kNoOffset, PlaceOf(problem)};
+    return ReadStandard(context, document);
 }
 
 /// The declarations of a document; not decoded: NULL.
 XmlOwned<> DecodeNamespaces(const Document& document, LogLines log) {
-    const XmlOwnedContext context = NewContext(*XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL));
+    const XmlOwnedContext context =
+        NewContext(*XMLFactory::SchemaInfo(IX_XML_SCHEMA_SCHEMA_NAMESPACE_RETRIEVAL), IX_XML_PROFILE_DEVICE);
     return UnMarshall(*context, document, log);
-}
-
-const XmlSchemaInfo& FindSchema(const Document& document) {
-    Scanner scanner(document.text);
-    if (!scanner.FindRoot()) throw Diagnose(document);
-    return SchemaOf(scanner);
 }
 
 void AddBinder(Decoded& decoded, const Document& document, LogLines log) {
@@ -91,22 +69,21 @@ void AddBinder(Decoded& decoded, const Document& document, LogLines log) {
 /// True when more than an empty root is read of a document with its own declarations.
 bool BinderHelps(const XmlSchemaInfo& schema, const Document& document) {
     Decoded decoded;
-    decoded.context = NewContext(schema);
+    decoded.context = NewContext(schema, IX_XML_PROFILE_DEVICE);
     AddBinder(decoded, document, kNoLines);
     decoded.root = UnMarshall(*decoded.context, document, kNoLines);
-    return decoded.root != nullptr && ToJson(*decoded.root).size() > 1;
+    bool replaced = false;
+    return decoded.root != nullptr && ToJson(*decoded.root, replaced).size() > 1;
 }
 
 Decoded Decode(const Document& document, const Options& options) {
     Decoded result;
+    result.schema = options.schema != nullptr ? options.schema : &SchemaOfDocument(document, options.profile);
+    result.context = NewContext(*result.schema, options.profile);
     if (options.profile == IX_XML_PROFILE_STANDARD) {
-        result.schema = options.schema != nullptr ? options.schema : &StandardSchemaOf(document.text);
-        result.context = NewContext(*result.schema, options.profile);
         result.root = UnMarshallStandard(*result.context, document, options.log);
         return result;
     }
-    result.schema = options.schema != nullptr ? options.schema : &FindSchema(document);
-    result.context = NewContext(*result.schema);
     if (options.binder && result.schema->takesBinder) AddBinder(result, document, options.log);
     result.root = UnMarshall(*result.context, document, options.log);
     if (result.root == nullptr) {
@@ -139,23 +116,16 @@ Written Check(std::string text, bool isCut, const std::string& reason) {
 }
 
 Written MarshallText(const Decoded& decoded, const Options& options) {
-    const std::string name = decoded.schema->name;
-    XMLMarshaller* const marshaller = decoded.context->createMarshaller();
-    if (marshaller == nullptr) throw DocumentError{kNotMarshalled, "documents of schema " + name + " are only read"};
+    XMLMarshaller& marshaller = MarshallerOf(*decoded.context, *decoded.schema);
     const char* text = nullptr;
     std::string reason;
     {
         const LogWatch watch(options.log);
-        text = marshaller->Marshall(decoded.root.get());
+        text = marshaller.Marshall(decoded.root.get());
         reason = watch.Reason();
     }
-    const XmlProblem* const problem = marshaller->Problem();
-    if (text == nullptr) {
-        if (problem != nullptr) reason = problem->text;
-        if (reason.empty()) reason = "the library does not say why";
-        throw DocumentError{kNotMarshalled, "schema " + name + " cannot write the document: " + reason};
-    }
-    return Check(text, marshaller->IsTruncated() != 0, reason);
+    if (text == nullptr) throw NotMarshalled(marshaller, *decoded.schema, reason);
+    return Check(text, marshaller.IsTruncated() != 0, reason);
 }
 
 /// A line for each loss; none for a text that is no XML, which is its fault.
@@ -169,6 +139,76 @@ std::vector<std::string> LossesOf(const Document& document, Written& written) {
     }
 }
 
+/// The text of each document of a file, and what is wrong with the others.
+class Encoder {
+  public:
+    Encoder(const Document& document, const Options& options) : m_document(document), m_options(options) {}
+
+    /// Throws the last error, if there was one, behind the others.
+    std::string Text();
+
+  private:
+    void EncodeAll();
+    void Encode(const JsonValue& value, const JsonPlace* place);
+
+    const Document& m_document;
+    const Options& m_options;
+    std::string m_text;
+    std::vector<DocumentError> m_errors;
+};
+
+void Encoder::Encode(const JsonValue& value, const JsonPlace* place) {
+    try {
+        JsonDocument tree = ToTree(value, place, m_options.schema, m_options.profile);
+        const Decoded decoded = {tree.schema, nullptr, NewContext(*tree.schema, m_options.profile),
+                                 std::move(tree.root)};
+        const Written written = MarshallText(decoded, m_options);
+        if (!written.fault.empty()) Warn(m_document, written.fault);
+        m_text += written.text;
+    } catch (const DocumentError& error) {
+        m_errors.push_back(error);
+    }
+}
+
+void Encoder::EncodeAll() {
+    JsonValue value;
+    std::size_t at = 0;
+    for (bool isFirst = true; ReadJson(m_document.text, at, value); isFirst = false) {
+        if (value.kind != JsonValue::Kind::Array || !isFirst) {
+            Encode(value, nullptr);
+            continue;
+        }
+        for (std::size_t i = 0; i < value.values.size(); ++i) {
+            const JsonPlace place = {nullptr, nullptr, i};
+            Encode(value.values[i], &place);
+        }
+    }
+    if (at == 0 || m_document.text.find_first_not_of(kSpaces) == std::string::npos) {
+        throw DocumentError{kNotDecoded, "there is no JSON"};
+    }
+}
+
+/// Tells all errors but the last one, which goes the way of all errors.
+[[noreturn]] void ThrowLast(const Document& document, const std::vector<DocumentError>& errors) {
+    for (std::size_t i = 0; i + 1 < errors.size(); ++i) {
+        std::fprintf(stderr, "%s\n", document.Describe(errors[i]).c_str());
+    }
+    throw DocumentError(errors.back());
+}
+
+std::string Encoder::Text() {
+    try {
+        EncodeAll();
+    } catch (const DocumentError& error) {
+        m_errors.push_back(error);
+    }
+    if (m_errors.empty()) return m_text;
+    DocumentError& last = m_errors.back();
+    last.output = m_text;
+    for (const DocumentError& error : m_errors) last.status = std::max(last.status, error.status);
+    ThrowLast(m_document, m_errors);
+}
+
 bool HasColour(Colour colour) {
     if (colour != Colour::Auto) return colour == Colour::Always;
     const char* const none = std::getenv("NO_COLOR");
@@ -176,6 +216,12 @@ bool HasColour(Colour colour) {
     if (none != nullptr && *none != '\0') return false;
     if (terminal != nullptr && std::strcmp(terminal, "dumb") == 0) return false;
     return isatty(STDOUT_FILENO) == 1;
+}
+
+/// Words with commas between them, so that they are one; none: "-".
+std::string WithCommas(std::string words) {
+    std::replace(words.begin(), words.end(), ' ', ',');
+    return words.empty() ? "-" : words;
 }
 
 std::string PrefixOf(const ix_AttributeValuePair& declaration) {
@@ -186,18 +232,23 @@ std::string PrefixOf(const ix_AttributeValuePair& declaration) {
 
 std::string DecodeDocument(const Document& document, const Options& options, const Progress& /*progress*/) {
     const Decoded decoded = Decode(document, options);
-    const Json root = ToJson(*decoded.root);
     bool replaced = false;
     std::string text;
     if (options.tree) {
         Outline outline(HasColour(options.colour));
         if (options.HasManyFiles()) outline.AddTitle(document.name, decoded.schema->name);
-        outline.AddTree(root);
+        outline.AddTree(ToJson(*decoded.root, replaced));
         text = outline.Text();
-        replaced = outline.HasReplaced();
     } else {
-        const Json whole = {{"schema", decoded.schema->name}, {"file", document.name}, {"root", root}};
-        text = ToText(whole, options.HasManyFiles() ? -1 : 2, replaced) + '\n';
+        JsonText json(options.HasManyFiles() ? -1 : 2);
+        json.Begin('{');
+        json.Member("schema", decoded.schema->name);
+        json.Member("file", document.name.c_str());
+        json.Key("root");
+        WriteTree(json, *decoded.root);
+        json.End('}');
+        text = json.Text() + '\n';
+        replaced = json.HasReplaced();
     }
     if (replaced) Warn(document, "bytes that are not UTF-8 were replaced");
     return text;
@@ -227,7 +278,12 @@ std::string ListLosses(const Document& document, const Options& options, const P
     std::string text;
     for (const std::string& loss : LossesOf(document, written)) text += document.name + ": " + loss + '\n';
     if (text.empty() && written.fault.empty()) return text;
-    throw DocumentError{kNotMarshalled, written.fault, kNoOffset, "", text};
+    throw DocumentError{kNotMarshalled, written.fault, kNoOffset, {}, text};
+}
+
+std::string EncodeDocument(const Document& document, const Options& options, const Progress& progress) {
+    progress.Enter(Stage::Writing);
+    return Encoder(document, options).Text();
 }
 
 std::string ListNamespaces(const Document& document, const Options& options, const Progress& /*progress*/) {
@@ -257,22 +313,20 @@ std::string ValidateDocument(const Document& document, const Options& options, c
         [](const XmlProblem& problem, void* context) {
             const std::string text = WithoutControls(problem.text);
             static_cast<std::vector<DocumentError>*>(context)->push_back(
-                {kNotDecoded, text, kNoOffset, PlaceOf(problem)});
+                {kNotDecoded, text, kNoOffset, {problem.line, problem.column}});
         },
         &found);
     if (count == 0) return document.name + ": valid\n";
-    // The last one goes the way of all errors.
-    for (std::size_t i = 0; i + 1 < found.size(); ++i) {
-        std::fprintf(stderr, "%s\n", document.Describe(found[i]).c_str());
-    }
-    throw DocumentError(found.back());
+    ThrowLast(document, found);
 }
 
 std::string ListSchemas() {
-    std::vector<std::vector<std::string>> rows = {{"NUMBER", "NAME", "ACCESS", "NAMESPACE", "ROOT ELEMENTS"}};
-    for (const XmlSchemaInfo* schema : AllSchemas()) {
+    std::vector<std::vector<std::string>> rows = {
+        {"NUMBER", "NAME", "ACCESS", "NAMESPACE", "CONTENT TYPES", "ROOT ELEMENTS"}};
+    for (const XmlSchemaInfo* schema : SchemaInfos()) {
         rows.push_back({std::to_string(schema->id), schema->name, schema->writes ? "read/write" : "read",
-                        *schema->namespaceUri != '\0' ? schema->namespaceUri : "-", schema->rootElements});
+                        *schema->namespaceUri != '\0' ? schema->namespaceUri : "-", WithCommas(schema->contentTypes),
+                        schema->rootElements});
     }
     std::vector<std::size_t> widths(rows[0].size());
     for (const auto& row : rows) {

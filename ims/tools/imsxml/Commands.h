@@ -16,6 +16,8 @@ using Command = std::string (*)(const Document& document, const Options& options
 std::string DecodeDocument(const Document& document, const Options& options, const Progress& progress);
 std::string ConvertDocument(const Document& document, const Options& options, const Progress& progress);
 
+/// The text of each document in JSON, one behind the other.
+std::string EncodeDocument(const Document& document, const Options& options, const Progress& progress);
 /// What the written text says otherwise than the document, a line each.
 std::string ListLosses(const Document& document, const Options& options, const Progress& progress);
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "Infoset.h"
+#include "Input.h"
 #include "Runner.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Diff.h"
+#include "JsonSchema.h"
 #include "Runner.h"
 #include "Schema.h"
 #include "SchemaNames.h"
@@ -32,6 +33,7 @@ Examples:
   imsxml decode --format tree gruu.xml
   imsxml decode *.xml | jq .root.class
   imsxml convert --profile standard waiting.xml
+  imsxml decode waiting.xml | imsxml encode -
   imsxml lost presence.xml
   imsxml diff sent.xml answered.xml
   imsxml validate waiting.xml
@@ -67,6 +69,17 @@ Examples:
   imsxml convert gruu.xml
   imsxml convert --strict waiting.xml >/dev/null && echo unchanged
   imsxml convert --binder waiting.xml > written.xml)help";
+
+constexpr char kEncodeFooter[] = R"help(
+Makes the tree that JSON says, as decode prints it, and prints the text that the library writes for it, as convert does.
+A file can have several documents, one behind the other or in an array. Nothing is passed over: a key, a word or a class
+that the schema does not have at its place is an error.
+
+Exit status: 0 done, 1 no such JSON, 2 wrong usage or unreadable file, 3 cannot be written, 4 time limit.
+
+Examples:
+  imsxml decode gruu.xml | jq '.root.uri = "sip:a@b;gr=2"' | imsxml encode -
+  imsxml encode --profile standard waiting.json)help";
 
 constexpr char kLostFooter[] = R"help(
 Prints a line for each value and each element that the written text of a document has lost, changed or added: the path,
@@ -110,13 +123,15 @@ Example:
   imsxml namespaces simservs.xml)help";
 
 constexpr char kSchemasFooter[] = R"help(
-Prints one line per schema: its number, the name that --schema takes, whether documents are only read, its namespace
-("-": none), and its root elements ("*": any). --long tells that and what a program needs: the header to include, the
-number's name, the class of each root element and the factory that makes it.
+Prints one line per schema: its number, the name that --schema takes, whether documents are only read, its namespace and
+its content types ("-": none), and its root elements ("*": any). --long tells that and what a program needs: the header
+to include, the number's name, the class of each root element and the factory that makes it. --json prints the JSON
+Schema (draft 2020-12) of what decode prints for documents of one schema.
 
 Examples:
   imsxml schemas --long
-  imsxml schemas | grep simservs)help";
+  imsxml schemas | grep simservs
+  imsxml schemas --json reginfo > reginfo.schema.json)help";
 
 /// @return what is wrong with a number of seconds; "": nothing.
 std::string CheckSeconds(const std::string& text) {
@@ -156,10 +171,13 @@ class CommandLine {
     CLI::App* AddFileCommand(const char* name, const char* about, const char* footer);
     void AddProfile(CLI::App* command);
     void AddSchema(CLI::App* command);
+    void AddContentType(CLI::App* command);
     void AddDecoding(CLI::App* command);
 
     Options m_options;
     std::optional<std::string> m_schema;
+    std::optional<std::string> m_contentType;
+    std::optional<std::string> m_jsonSchema;
     std::string m_profile = "device";
     std::string m_format = "json";
     std::string m_colour = "auto";
@@ -168,6 +186,7 @@ class CommandLine {
     CLI::App m_app{kAbout, "imsxml"};
     CLI::App* m_decode;
     CLI::App* m_convert;
+    CLI::App* m_encode;
     CLI::App* m_lost;
     CLI::App* m_diff;
     CLI::App* m_validate;
@@ -198,12 +217,17 @@ CommandLine::CommandLine() {
     m_diff->add_option("FILE", m_options.files, "The two documents; \"-\" is the standard input")
         ->required()
         ->expected(2);
+    m_encode = AddFileCommand("encode", "Write the documents that JSON says", kEncodeFooter);
+    AddSchema(m_encode);
+    AddProfile(m_encode);
     m_validate = AddFileCommand("validate", "Say where documents are not what their standard says", kValidateFooter);
-    AddSchema(m_validate);
+    AddContentType(m_validate);
     AddProfile(AddFileCommand("namespaces", "Print the namespace declarations of documents", kNamespacesFooter));
     m_schemas = m_app.add_subcommand("schemas", "Print the schemas that documents can have");
     m_schemas->footer(kSchemasFooter);
     m_schemas->add_flag("--long", m_long, "A block of lines a schema, with header, enumerator, root class and factory");
+    m_schemas->add_option("--json", m_jsonSchema, "Print the JSON Schema of this schema's documents")
+        ->type_name("NAME");
 }
 
 CLI::App* CommandLine::AddFileCommand(const char* name, const char* about, const char* footer) {
@@ -235,8 +259,15 @@ void CommandLine::AddSchema(CLI::App* command) {
     command->add_option("--schema", m_schema, "Name of the schema; see \"imsxml schemas\"")->type_name("NAME");
 }
 
-void CommandLine::AddDecoding(CLI::App* command) {
+void CommandLine::AddContentType(CLI::App* command) {
     AddSchema(command);
+    command->add_option("--content-type", m_contentType, "Content type of the documents, in place of --schema")
+        ->type_name("TYPE")
+        ->excludes("--schema");
+}
+
+void CommandLine::AddDecoding(CLI::App* command) {
+    AddContentType(command);
     AddProfile(command);
     command->add_flag("--binder", m_options.binder,
                       "Let the prefixes that the document declares count (supplementary services only)");
@@ -246,6 +277,8 @@ int CommandLine::Run(int argc, char** argv) {
     try {
         m_app.parse(Arguments(argc, argv));
         if (m_schema) m_options.schema = &SchemaByName(*m_schema);
+        if (m_contentType) m_options.schema = &SchemaByContentType(*m_contentType);
+        if (m_jsonSchema) return Print(JsonSchemaOf(SchemaByName(*m_jsonSchema)));
     } catch (const CLI::ParseError& error) {
         std::ostringstream help;
         return m_app.exit(error, help, std::cerr) == 0 ? Print(help.str()) : kWrongUsage;
@@ -260,6 +293,7 @@ int CommandLine::Run(int argc, char** argv) {
     if (!m_log.empty()) m_options.log = m_log == "all" ? kAllLines : kFaultLines;
     if (m_colour != "auto") m_options.colour = m_colour == "always" ? Colour::Always : Colour::Never;
     if (m_decode->parsed()) return RunOnFiles(DecodeDocument, m_options);
+    if (m_encode->parsed()) return RunOnFiles(EncodeDocument, m_options);
     if (m_validate->parsed()) return RunOnFiles(ValidateDocument, m_options);
     if (m_lost->parsed()) return RunOnFiles(ListLosses, m_options);
     return RunOnFiles(m_convert->parsed() ? ConvertDocument : ListNamespaces, m_options);

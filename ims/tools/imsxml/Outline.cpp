@@ -175,15 +175,15 @@ void Outline::AddLine(const std::string& line, std::size_t depth) {
     m_text += '\n';
 }
 
-std::string Outline::Assignment(const std::string& name, const Json& value) {
+std::string Outline::Assignment(const std::string& name, const Json& value) const {
     return Styled(kName, Unquoted(name)) + " = " + Value(value);
 }
 
 /// Escapes keep a text on its line, and a terminal from obeying it.
-std::string Outline::Value(const Json& value) { return WithoutControls(ToText(value, -1, m_replaced)); }
+std::string Outline::Value(const Json& value) const { return WithoutControls(value.dump()); }
 
 /// The same without quotes.
-std::string Outline::Unquoted(const Json& text) {
+std::string Outline::Unquoted(const Json& text) const {
     const std::string quoted = Value(text);
     return text.is_string() ? quoted.substr(1, quoted.size() - 2) : quoted;
 }

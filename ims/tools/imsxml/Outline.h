@@ -24,8 +24,6 @@ class Outline {
     void AddTree(const Json& root);
 
     const std::string& Text() const { return m_text; }
-    /// True when bytes that are not UTF-8 were replaced.
-    bool HasReplaced() const { return m_replaced; }
 
   private:
     void AddObject(const std::string& head, const Json& object, const Json::const_iterator& field, std::size_t depth);
@@ -35,13 +33,12 @@ class Outline {
     void AddRest(const Json& entry, std::size_t depth);
     void AddAttribute(const Json& pair, std::size_t depth);
     void AddLine(const std::string& line, std::size_t depth);
-    std::string Assignment(const std::string& name, const Json& value);
-    std::string Value(const Json& value);
-    std::string Unquoted(const Json& text);
+    std::string Assignment(const std::string& name, const Json& value) const;
+    std::string Value(const Json& value) const;
+    std::string Unquoted(const Json& text) const;
     std::string Styled(const char* style, const std::string& text) const;
 
     bool m_colour;
-    bool m_replaced = false;
     std::string m_text;
 };
 

@@ -16,6 +16,7 @@
 #include <sys/prctl.h>
 #endif
 
+#include "Input.h"
 #include "Library.h"
 
 namespace {
@@ -72,6 +73,7 @@ int RunCommand(Command command, const Options& options, const std::string& name,
         if (!error.message.empty()) PrintError(document.Describe(error));
         output = error.output;
         status = error.status;
+        output = error.output;
     } catch (const std::exception& error) {
         PrintError(name + ": " + error.what());
         status = kNotDecoded;

@@ -80,7 +80,7 @@ std::vector<std::pair<std::string, std::string>> NamesInPrograms(const XmlSchema
 
 std::string DescribeSchemas() {
     std::string text;
-    for (const XmlSchemaInfo* schema : AllSchemas()) {
+    for (const XmlSchemaInfo* schema : SchemaInfos()) {
         const auto add = [&text](const std::string& what, const std::string& value) {
             constexpr std::size_t kWidth = 12;
             text.append("  ").append(what).append(kWidth - what.size(), ' ').append(value).append("\n");
@@ -88,6 +88,7 @@ std::string DescribeSchemas() {
         text += std::string(text.empty() ? "" : "\n") + schema->name + " (" + std::to_string(schema->id) + ")\n";
         add("access", schema->writes ? "read/write" : "read");
         add("namespace", *schema->namespaceUri != '\0' ? schema->namespaceUri : "-");
+        add("types", *schema->contentTypes != '\0' ? schema->contentTypes : "-");
         add("roots", schema->rootElements);
         for (const auto& [what, name] : NamesInPrograms(*schema)) add(what, name);
     }

@@ -12,8 +12,13 @@ _imsxml() {
     # What stands behind --log alone is a file.
     [ "$option" != --log= ] || { mapfile -t COMPREPLY < <(compgen -W 'all faults' -- "$word"); return; }
     case ${option%=} in
-        --schema)
+        --schema | --json)
             mapfile -t COMPREPLY < <(compgen -W "$("$1" schemas 2>/dev/null | awk 'NR > 1 { print $2 }')" -- "$word")
+            return
+            ;;
+        --content-type)
+            mapfile -t COMPREPLY < <(compgen -W "$("$1" schemas 2>/dev/null |
+                awk 'NR > 1 && $5 != "-" { gsub(",", "\n", $5); print $5 }')" -- "$word")
             return
             ;;
         --format) mapfile -t COMPREPLY < <(compgen -W 'json tree' -- "$word"); return ;;
@@ -30,13 +35,14 @@ _imsxml() {
         esac
     done
     case $command in
-        '') words='decode convert lost diff validate namespaces schemas --help --version' ;;
-        decode) words='--schema --binder --format --color --log --leaks --profile --timeout --help' ;;
-        convert) words='--schema --binder --strict --log --leaks --profile --timeout --help' ;;
-        lost) words='--schema --binder --log --leaks --profile --timeout --help' ;;
-        validate) words='--schema --log --leaks --timeout --help' ;;
+        '') words='decode convert encode lost diff validate namespaces schemas --help --version' ;;
+        decode) words='--schema --content-type --binder --format --color --log --leaks --profile --timeout --help' ;;
+        convert) words='--schema --content-type --binder --strict --log --leaks --profile --timeout --help' ;;
+        encode) words='--schema --log --leaks --profile --timeout --help' ;;
+        lost) words='--schema --content-type --binder --log --leaks --profile --timeout --help' ;;
+        validate) words='--schema --content-type --log --leaks --timeout --help' ;;
         namespaces) words='--log --leaks --profile --timeout --help' ;;
-        schemas) words='--long --help' ;;
+        schemas) words='--long --json --help' ;;
         *) words='--help' ;;
     esac
     if [ -z "$command" ] || [ "${word:0:1}" = - ] || [ "$command" = schemas ]; then

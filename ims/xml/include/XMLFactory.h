@@ -166,6 +166,8 @@ struct XmlSchemaInfo {
     const XmlNamedClass* parts = nullptr;
     /// The namespace of its standard, where the device profile has another; NULL: `namespaceUri`.
     const char* standardUri = nullptr;
+    /// The content types of its documents, separated by blanks, the usual one first; "": none is its own.
+    const char* contentTypes = "";
 };
 
 class IX_XML_EXPORT XMLFactory {
@@ -188,6 +190,9 @@ class IX_XML_EXPORT XMLFactory {
                         void (*report)(const XmlProblem& problem, void* context), void* context);
     /// @return NULL for a number that stands for no schema.
     static const XmlSchemaInfo* SchemaInfo(int id);
+    /// @param type what a header field Content-Type says: parameters, case and white space around do not count.
+    /// @return the number of the schema that documents of this type have; -1 for none, and for NULL.
+    static int SchemaForContentType(const char* type);
 };
 
 /// What documents with a root of some class are: the member `Document` of that class.

@@ -27,6 +27,8 @@ class IX_XML_EXPORT XmlFields {
     /// Children and presence elements.
     static XMLElement* Child(const XMLElement& element, const XmlField& field);
     static IxSingleElementList* List(const XMLElement& element, const XmlField& field);
+    /// Stores a flag, a number or an enumerator, which fits.
+    static void SetNumber(XMLElement& element, const XmlField& field, long long value);
     /// True unless the field is NULL, an empty list, its 'not set' value, or a value that its enumeration has no text
     /// for.
     static bool IsSet(const XMLElement& element, const XmlField& field);

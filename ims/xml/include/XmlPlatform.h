@@ -84,6 +84,18 @@ void ixDelete(Object* object, int module = kSchemaModule) {
     delete object;
 }
 
+/// While one lives, what the device profile leaves to nobody is freed on its thread: the tree of a document that fails,
+/// and what a field held before a document gave it once more. For programs that go on after broken documents.
+class IX_XML_EXPORT XmlTidy {
+  public:
+    XmlTidy();
+    ~XmlTidy();
+    XmlTidy(const XmlTidy&) = delete;
+    XmlTidy& operator=(const XmlTidy&) = delete;
+
+    /// True while one lives on this thread.
+    static bool IsOn();
+};
 /// @}
 
 /// @name Log lines

@@ -61,6 +61,8 @@ class IX_XML_EXPORT XmlRest : public XmlHeapObject {
 
     /// For the reader. @return the new last entry; NULL without memory.
     XmlRestItem* Append(const XmlRestItem& item, std::size_t nameLength, std::size_t textLength);
+    /// Says that what `Append` has added comes from an application, and is to be checked when it is written.
+    void MarkChanged() { m_isChanged = true; }
     /// True when an application has added something.
     bool IsChanged() const { return m_isChanged; }
     /// The last entry; NULL: none.

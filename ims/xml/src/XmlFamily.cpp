@@ -40,12 +40,14 @@ XMLElement* XmlFamilyUnMarshaller::Decode(const char* text, int tokenizerLine, i
         const std::size_t length = __strlen(text);
         complete = length <= INT_MAX && tokenizer->Decode(text, static_cast<int>(length)) == IX_XML_SUCCESS;
         ixLog(m_info.source, complete ? m_info.decoded : m_info.notDecoded);
-        // Required: the tree of a document that could not be decoded to its end is left to nobody, and not freed here.
-        if (complete) root = decoder->GetSessionData();
+        // Required: the tree of a document that could not be decoded to its end is left to nobody, and not freed here,
+        // unless the application wants that.
+        root = complete || XmlTidy::IsOn() ? decoder->GetSessionData() : nullptr;
     }
     ixDelete(decoder);
     ixDelete(tokenizer);
-    return root;
+    if (!complete) ixDelete(root);
+    return complete ? root : nullptr;
 }
 
 XmlFamilyMarshaller* XmlFamilyContext::NewMarshaller() const {

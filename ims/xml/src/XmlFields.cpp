@@ -310,6 +310,16 @@ long long XmlFields::Number(const XMLElement& element, const XmlField& field) {
     }
 }
 
+void XmlFields::SetNumber(XMLElement& element, const XmlField& field, long long value) {
+    if (field.kind == XmlFieldKind::Unsigned) {
+        element.*field.member.unsignedNumber = static_cast<unsigned int>(value);
+    } else if (field.kind == XmlFieldKind::Number64) {
+        element.*field.member.number64 = value;
+    } else {
+        element.*field.member.number = static_cast<int>(value);
+    }
+}
+
 XMLElement* XmlFields::Child(const XMLElement& element, const XmlField& field) {
     const bool holds = field.kind == XmlFieldKind::Child || field.kind == XmlFieldKind::Presence;
     return holds ? field.member.child(element) : nullptr;

@@ -19,6 +19,8 @@ unsigned int ToUnsigned(const char* text, bool nearest) {
     return static_cast<unsigned int>(value);
 }
 
+bool LeavesEarlier(const XmlField& row) { return row.leavesEarlier && !XmlTidy::IsOn(); }
+
 void StoreFlag(int& field, const XmlField& row, const char* text) {
     const bool isTrue = std::strcmp(text, "true") == 0;
     if (row.flag == XmlFlag::TrueOrNot || isTrue || std::strcmp(text, "false") == 0) {
@@ -33,7 +35,7 @@ bool StoreValue(XMLElement& element, const XmlField& row, const char* text) {
     switch (row.kind) {
         case XmlFieldKind::Text: {
             char*& field = element.*row.member.text;
-            return (row.leavesEarlier ? ixOverwriteText(field, text) : ixSetText(field, text)) != 0;
+            return (LeavesEarlier(row) ? ixOverwriteText(field, text) : ixSetText(field, text)) != 0;
         }
         case XmlFieldKind::Flag:
             StoreFlag(element.*row.member.number, row, text);
@@ -101,7 +103,7 @@ XmlAnswer TakeChild(XMLElement& element, const XmlClass& description, const XmlF
     if (row.store == nullptr) return TakenIf(XmlHooks::Append(element, row, child));
     XMLElement* const earlier = row.member.child(element);
     row.store(element, child);
-    if (earlier != child && !row.leavesEarlier) ixDelete(earlier);
+    if (earlier != child && !LeavesEarlier(row)) ixDelete(earlier);
     return XmlAnswer::Taken;
 }
 

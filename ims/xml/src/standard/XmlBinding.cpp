@@ -121,16 +121,6 @@ bool ixReadValue(const XmlField& row, XmlSlice text, long long& value) {
     }
 }
 
-void ixStoreNumber(XMLElement& element, const XmlField& row, long long value) {
-    if (row.kind == XmlFieldKind::Unsigned) {
-        element.*row.member.unsignedNumber = static_cast<unsigned int>(value);
-    } else if (row.kind == XmlFieldKind::Number64) {
-        element.*row.member.number64 = value;
-    } else {
-        element.*row.member.number = static_cast<int>(value);
-    }
-}
-
 // --- Rows ------------------------------------------------------------------------------------------------------------
 
 XmlBinding::Place XmlBinding::FindElement(const XmlClass& description, XmlName name) {
@@ -497,7 +487,7 @@ bool XmlBinding::StoreValue(XMLElement& element, const XmlField& row, const XmlS
     }
     long long value = 0;
     const bool fits = ixReadValue(row, text, value);
-    if (fits) ixStoreNumber(element, row, value);
+    if (fits) XmlFields::SetNumber(element, row, value);
     if (fits && value != row.notSet) return true;
     if (!fits) {
         Find(row.kind == XmlFieldKind::Flag          ? "is neither true nor false"

@@ -113,7 +113,6 @@ class XmlBinding {
 /// @{
 /// The number that a text is. @return false when it is none, or does not fit into the row's field.
 bool ixReadValue(const XmlField& row, XmlSlice text, long long& value);
-void ixStoreNumber(XMLElement& element, const XmlField& row, long long value);
 /// @}
 
 #endif

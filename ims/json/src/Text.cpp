@@ -1,6 +1,7 @@
 #include "Text.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -10,6 +11,22 @@ bool IsControl(unsigned code) {
 }
 
 bool IsTail(char byte) { return (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U; }
+
+/// Single-byte insertions, deletions and replacements that make one word of the other.
+std::size_t EditDistance(std::string_view left, std::string_view right) {
+    std::vector<std::size_t> row(right.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i + 1;
+        for (std::size_t j = 0; j < right.size(); ++j) {
+            const std::size_t replaced = diagonal + (left[i] == right[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
+        }
+    }
+    return row.back();
+}
 
 }  // namespace
 
@@ -54,4 +71,25 @@ std::string Short(std::string_view text) {
     if (text.size() <= length) return WithoutControls(WithBlanks(text));
     while (length > 0 && IsTail(text[length])) --length;
     return WithoutControls(WithBlanks(text.substr(0, length))) + "...";
+}
+
+std::string Nearest(std::string_view word, const std::vector<Candidate>& candidates) {
+    // Longer words are no typing errors of anything, and comparing them takes long.
+    constexpr std::size_t kLongestWord = 200;
+    word = word.substr(0, kLongestWord);
+    std::vector<std::size_t> distances;
+    distances.reserve(candidates.size());
+    for (const Candidate& candidate : candidates) distances.push_back(EditDistance(word, candidate.first));
+    constexpr std::size_t kMost = 3;
+    constexpr std::size_t kSlack = 1;
+    const std::size_t best = *std::min_element(distances.begin(), distances.end());
+    std::string list;
+    std::size_t count = 0;
+    for (std::size_t distance = best; distance <= best + kSlack; ++distance) {
+        for (std::size_t i = 0; i < candidates.size(); ++i) {
+            if (distances[i] != distance || count == kMost) continue;
+            list += (count++ == 0 ? "" : ", ") + candidates[i].second;
+        }
+    }
+    return list;
 }

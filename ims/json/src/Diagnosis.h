@@ -1,7 +1,7 @@
 /// @file
 /// Why a document could not be decoded. The library answers NULL, whatever the fault.
-#ifndef IMSXML_TOOL_DIAGNOSIS_H
-#define IMSXML_TOOL_DIAGNOSIS_H
+#ifndef IMSXML_JSON_DIAGNOSIS_H
+#define IMSXML_JSON_DIAGNOSIS_H
 
 #include <functional>
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
-#include <numeric>
 
 #include "Text.h"
+#include "XmlElementSupport.h"
 
 namespace {
 
@@ -14,44 +14,10 @@ constexpr std::string_view kRuleParts[] = {"ruleset", "rule",    "conditions",  
                                            "sphere",  "actions", "transformations"};
 constexpr char kRuleNamespace[] = "urn:ietf:params:xml:ns:common-policy";
 
-/// Single-byte insertions, deletions and replacements that make one word of the other.
-std::size_t EditDistance(std::string_view left, std::string_view right) {
-    std::vector<std::size_t> row(right.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        std::size_t diagonal = row[0];
-        row[0] = i + 1;
-        for (std::size_t j = 0; j < right.size(); ++j) {
-            const std::size_t replaced = diagonal + (left[i] == right[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
-        }
-    }
-    return row.back();
-}
-
-/// Puts the candidates that are most like `word` into words: the best ones only, and at most three.
-std::string Nearest(std::string_view word, const std::vector<std::pair<std::string_view, std::string>>& candidates) {
-    // Longer words are no typing errors of anything, and comparing them takes long.
-    constexpr std::size_t kLongestWord = 200;
-    word = word.substr(0, kLongestWord);
-    std::vector<std::pair<std::size_t, std::string>> found;
-    found.reserve(candidates.size());
-    for (const auto& [name, text] : candidates) found.emplace_back(EditDistance(word, name), text);
-    std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-    constexpr std::size_t kMost = 3;
-    constexpr std::size_t kSlack = 1;
-    std::string list;
-    for (std::size_t i = 0; i < found.size() && i < kMost && found[i].first <= found[0].first + kSlack; ++i) {
-        list += (i == 0 ? "" : ", ") + found[i].second;
-    }
-    return list;
-}
-
 [[noreturn]] void RefuseRoot(const std::string& root, std::size_t offset) {
     const std::string_view local = std::string_view(root).substr(root.rfind(':') + 1);
-    std::vector<std::pair<std::string_view, std::string>> candidates;
-    for (const XmlSchemaInfo* schema : AllSchemas()) {
+    std::vector<Candidate> candidates;
+    for (const XmlSchemaInfo* schema : SchemaInfos()) {
         for (const std::string_view name : RootsOf(*schema)) {
             candidates.emplace_back(name, std::string(schema->name) + " (<" + std::string(name) + ">)");
         }
@@ -69,9 +35,22 @@ const XmlSchemaInfo& SchemaOfRule(Scanner& scanner) {
                                           : IX_XML_SCHEMA_COMMUNICATION_DIVERSION);
 }
 
+/// Adds a class, and those that its rows lead to.
+void Collect(const XmlClass* description, std::vector<const XmlClass*>& classes) {
+    if (description == nullptr || std::find(classes.begin(), classes.end(), description) != classes.end()) return;
+    classes.push_back(description);
+    for (const XmlFieldTable* table = &description->table; table != nullptr; table = table->base) {
+        for (std::size_t i = 0; i < table->count; ++i) {
+            const XmlField& row = table->fields[i];
+            Collect(row.description, classes);
+            for (std::size_t at = 0; at < row.entryCount; ++at) Collect(row.entries[at].description, classes);
+        }
+    }
+}
+
 }  // namespace
 
-std::vector<const XmlSchemaInfo*> AllSchemas() {
+std::vector<const XmlSchemaInfo*> SchemaInfos() {
     std::vector<const XmlSchemaInfo*> schemas;
     for (int id = 0; id < kXmlSchemaCount; ++id) {
         const XmlSchemaInfo* const schema = XMLFactory::SchemaInfo(id);
@@ -92,14 +71,52 @@ std::vector<std::string_view> RootsOf(const XmlSchemaInfo& schema) {
     return roots;
 }
 
-const XmlSchemaInfo& SchemaByName(const std::string& name) {
-    std::vector<std::pair<std::string_view, std::string>> candidates;
-    for (const XmlSchemaInfo* schema : AllSchemas()) {
-        candidates.emplace_back(schema->name, schema->name);
-        if (name == schema->name) return *schema;
+const XmlSchemaInfo* FindSchema(std::string_view name) {
+    for (const XmlSchemaInfo* schema : SchemaInfos()) {
+        if (name == schema->name) return schema;
     }
-    throw DocumentError{kWrongUsage,
-                        "no schema has the name \"" + name + "\"; the nearest: " + Nearest(name, candidates)};
+    return nullptr;
+}
+
+std::string NoSchema(std::string_view name) {
+    std::vector<Candidate> candidates;
+    for (const XmlSchemaInfo* schema : SchemaInfos()) candidates.emplace_back(schema->name, schema->name);
+    return "no schema has the name " + QuotedText(name) + "; the nearest: " + Nearest(name, candidates);
+}
+
+const XmlSchemaInfo& SchemaByName(const std::string& name) {
+    const XmlSchemaInfo* const schema = FindSchema(name);
+    if (schema == nullptr) throw DocumentError{kWrongUsage, NoSchema(name)};
+    return *schema;
+}
+
+const XmlSchemaInfo& SchemaByContentType(const std::string& type) {
+    const int id = XMLFactory::SchemaForContentType(type.c_str());
+    if (id < 0) throw DocumentError{kWrongUsage, "no schema has the content type " + QuotedText(type)};
+    return *XMLFactory::SchemaInfo(id);
+}
+
+std::vector<const XmlClass*> ClassesOf(const XmlSchemaInfo& schema) {
+    std::vector<const XmlClass*> classes;
+    for (const XmlClass* const* known = schema.classes; *known != nullptr; ++known) Collect(*known, classes);
+    for (const XmlNamedClass* part = schema.parts; part != nullptr; ++part) {
+        if (part->description == nullptr) break;
+        Collect(part->description, classes);
+    }
+    for (const XmlClass* const generic : {&ix_string::kClass, &ix_empty_element_type::kClass}) {
+        Collect(generic, classes);
+    }
+    return classes;
+}
+
+std::vector<const XmlClass*> RootClassesOf(const XmlSchemaInfo& schema, eXMLProfile profile) {
+    if (schema.parts != nullptr && profile == IX_XML_PROFILE_DEVICE) return ClassesOf(schema);
+    const std::size_t count = std::max(RootsOf(schema).size(), std::size_t{1});
+    std::vector<const XmlClass*> classes(schema.classes, schema.classes + count);
+    for (const XmlNamedClass* part = schema.parts; part != nullptr && part->description != nullptr; ++part) {
+        classes.push_back(part->description);
+    }
+    return classes;
 }
 
 bool IsRulePart(std::string_view local) {
@@ -115,7 +132,7 @@ bool TakesRoot(const XmlSchemaInfo& schema, std::string_view local) {
 }
 
 const XmlSchemaInfo* SchemaWithRoot(std::string_view local) {
-    for (const XmlSchemaInfo* schema : AllSchemas()) {
+    for (const XmlSchemaInfo* schema : SchemaInfos()) {
         if (!RootsOf(*schema).empty() && TakesRoot(*schema, local)) return schema;
     }
     return nullptr;

@@ -1,8 +1,8 @@
 /// @file
 /// A walk through the tags of a document with the library's own tokenizer, for what the library does not tell: which
 /// root a document has, and where it stops being one.
-#ifndef IMSXML_TOOL_SCANNER_H
-#define IMSXML_TOOL_SCANNER_H
+#ifndef IMSXML_JSON_SCANNER_H
+#define IMSXML_JSON_SCANNER_H
 
 #include <optional>
 #include <string>

@@ -1,10 +1,12 @@
 /// @file
 /// Work on texts that the files of the command share.
-#ifndef IMSXML_TOOL_TEXT_H
-#define IMSXML_TOOL_TEXT_H
+#ifndef IMSXML_JSON_TEXT_H
+#define IMSXML_JSON_TEXT_H
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 /// White space as XML has it.
 constexpr char kSpaces[] = " \t\r\n";
@@ -34,5 +36,12 @@ std::string WithoutControls(std::string_view text);
 
 /// What of a text fits a message: at most 80 bytes, on one line.
 std::string Short(std::string_view text);
+
+/// A word that could have been meant, and how it is told.
+using Candidate = std::pair<std::string_view, std::string>;
+
+/// Puts those of the candidates into words that are most like `word`: the best ones only, and at most three. There is
+/// one at least.
+std::string Nearest(std::string_view word, const std::vector<Candidate>& candidates);
 
 #endif

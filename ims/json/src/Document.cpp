@@ -1,44 +1,29 @@
 #include "Document.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <climits>
-#include <cstring>
 #include <string_view>
 
-std::string Document::PlaceOf(std::size_t offset) const {
+namespace {
+
+std::string ToText(TextPlace place) { return std::to_string(place.line) + ':' + std::to_string(place.column); }
+
+}  // namespace
+
+TextPlace Document::PlaceAt(std::size_t offset) const {
     const std::string_view before = std::string_view(text).substr(0, offset);
     const auto line = 1 + std::count(before.begin(), before.end(), '\n');
     const std::string_view lineText = before.substr(before.rfind('\n') + 1);
     const auto isLead = [](char byte) { return (static_cast<unsigned char>(byte) & 0xc0U) != 0x80U; };
     const auto column = 1 + std::count_if(lineText.begin(), lineText.end(), isLead);
-    return std::to_string(line) + ':' + std::to_string(column);
+    return {static_cast<int>(line), static_cast<int>(column)};
 }
+
+std::string Document::PlaceOf(std::size_t offset) const { return ToText(PlaceAt(offset)); }
 
 std::string Document::Describe(const DocumentError& error) const {
-    const std::string place = error.offset == kNoOffset ? error.place : PlaceOf(error.offset);
-    return name + (place.empty() ? "" : ':' + place) + ": " + error.message;
-}
-
-std::string ReadText(const std::string& name) {
-    const bool isInput = name == "-";
-    const int file = isInput ? STDIN_FILENO : open(name.c_str(), O_RDONLY | O_CLOEXEC);
-    if (file < 0) throw DocumentError{kWrongUsage, std::strerror(errno)};
-    std::string text;
-    char block[65536];
-    ssize_t got = 0;
-    do {
-        got = read(file, block, sizeof block);
-        if (got > 0) text.append(block, static_cast<std::size_t>(got));
-        // More than this no decoder takes.
-    } while ((got > 0 && text.size() <= INT_MAX) || (got < 0 && errno == EINTR));
-    const int error = errno;
-    if (!isInput) close(file);
-    if (got < 0) throw DocumentError{kWrongUsage, std::strerror(error)};
-    return text;
+    const TextPlace place = error.offset == kNoOffset ? error.place : PlaceAt(error.offset);
+    return name + (place.line == 0 ? "" : ':' + ToText(place)) + ": " + error.message;
 }
 
 void RequireText(const std::string& text) {
