@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "XMLFile.h"
-#include "standard/XmlBinding.h"
+#include "standard/XmlRoots.h"
 #include "standard/XmlStandard.h"
 
 XmlDocumentBase::XmlDocumentBase(XmlDocumentBase&& other) noexcept

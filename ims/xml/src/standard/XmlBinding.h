@@ -5,6 +5,7 @@
 
 #include "XmlClass.h"
 #include "XmlReader.h"
+#include "XmlRoots.h"
 
 /// What is wrong in a document that is read all the same.
 class XmlFindings {
@@ -14,20 +15,6 @@ class XmlFindings {
   protected:
     ~XmlFindings() = default;
 };
-
-/// A root element that a schema knows.
-struct XmlRoot {
-    const XmlClass* description = nullptr;  ///< NULL: it does not know it.
-    XmlSlice name;
-    XmlNamespace ns = XmlNamespace::None;
-};
-
-/// By the local name of the element.
-XmlRoot ixRootOf(const XmlSchemaInfo& schema, const XmlSlice& local);
-/// By the class of the object.
-XmlRoot ixRootOf(const XmlSchemaInfo& schema, const XmlClass& description);
-/// The number of a schema's main namespace.
-XmlNamespace ixMainNamespace(const XmlSchemaInfo& schema);
 
 class XmlBinding {
   public:
