@@ -1,5 +1,6 @@
-// Runs the benchmarks and then prints how many times as fast this library was as each peer on the same document. The
-// machines are noisy and differ, so only these ratios say something; and the allocations, which do not differ.
+// Runs the benchmarks and then prints how many times as fast this library was, in each profile, as each peer on the
+// same document. The machines are noisy and differ, so only these ratios say something; and the allocations, which do
+// not differ.
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -14,7 +15,10 @@
 
 namespace {
 
+/// This library in the device profile and in the standard profile, then the peers.
 constexpr const char* kLibraries[] = {"imsxml", "standard", "expat", "pugixml", "rapidxml", "tinyxml2"};
+constexpr const char* kProfiles[] = {"device", "standard"};
+constexpr std::size_t kProfileCount = std::size(kProfiles);
 constexpr std::size_t kLibraryCount = std::size(kLibraries);
 
 /// Splits "tokenizer/imsxml/1024" into the document "tokenizer/1024" and the library 0.
@@ -47,14 +51,18 @@ class RatioReporter : public benchmark::ConsoleReporter {
     }
 
     void Finalize() override {
-        std::printf("\n%-28s %8s | times as fast as            | allocations for each object and text\n", "", "MiB/s");
-        std::printf("%-28s", "");
-        for (const char* const library : kLibraries)
-            std::printf(" %8s%s", library, library == kLibraries[0] ? " |" : "");
-        std::printf(" |");
-        for (const char* const library : kLibraries) std::printf(" %8s", library);
+        std::printf("\n%-28s %-8s %8s | times as fast as           | allocations for each object and text\n", "", "",
+                    "MiB/s");
+        std::printf("%-28s %-8s %8s |", "", "", "");
+        for (std::size_t i = kProfileCount; i < kLibraryCount; ++i) std::printf(" %8s", kLibraries[i]);
+        std::printf(" | %8s", "own");
+        for (std::size_t i = kProfileCount; i < kLibraryCount; ++i) std::printf(" %8s", kLibraries[i]);
         std::printf("\n");
-        for (const auto& [order, name] : m_order) PrintLine(name, m_documents[name]);
+        for (const auto& [order, name] : m_order) {
+            for (std::size_t profile = 0; profile < kProfileCount; ++profile) {
+                PrintLine(name, m_documents[name], profile);
+            }
+        }
     }
 
   private:
@@ -70,18 +78,19 @@ class RatioReporter : public benchmark::ConsoleReporter {
         return found != run.counters.end() ? static_cast<double>(found->second) : -1;
     }
 
-    static void PrintLine(const std::string& name, const Results& results) {
-        if (results.size() < 2) return;
-        const Result& own = results.at(0);
-        std::printf("%-28s %8.1f |", name.c_str(), own.bytesPerSecond / (1 << 20));
-        for (std::size_t library = 1; library < kLibraryCount; ++library) {
+    static void PrintLine(const std::string& name, const Results& results, std::size_t profile) {
+        const auto own = results.find(profile);
+        if (own == results.end() || results.size() < 2) return;
+        std::printf("%-28s %-8s %8.1f |", name.c_str(), kProfiles[profile], own->second.bytesPerSecond / (1 << 20));
+        for (std::size_t library = kProfileCount; library < kLibraryCount; ++library) {
             const auto peer = results.find(library);
-            PrintCell(peer != results.end() ? peer->second.time / own.time : -1);
+            PrintCell(peer != results.end() ? peer->second.time / own->second.time : -1);
         }
         std::printf(" |");
-        for (std::size_t library = 0; library < kLibraryCount; ++library) {
-            const auto of = results.find(library);
-            PrintCell(of != results.end() ? of->second.allocations : -1);
+        PrintCell(own->second.allocations);
+        for (std::size_t library = kProfileCount; library < kLibraryCount; ++library) {
+            const auto peer = results.find(library);
+            PrintCell(peer != results.end() ? peer->second.allocations : -1);
         }
         std::printf("\n");
     }
