@@ -98,6 +98,27 @@ inline bool ixCopyUpTo(char* to, const char* from, std::size_t length, char byte
     return (found & kHighs) == 0;
 }
 
+/// memcpy for names and the like, which are short: not worth a call.
+inline void ixCopyShort(char* to, const char* from, std::size_t length) {
+    // Two words overlap where the length is none of a word.
+    const auto copyEnds = [&](auto word) {
+        std::memcpy(&word, from, sizeof word);
+        auto last = word;
+        std::memcpy(&last, from + length - sizeof word, sizeof word);
+        std::memcpy(to, &word, sizeof word);
+        std::memcpy(to + length - sizeof word, &last, sizeof word);
+    };
+    if (length > 16) {
+        std::memcpy(to, from, length);
+    } else if (length >= 8) {
+        copyEnds(std::uint64_t{0});
+    } else if (length >= 4) {
+        copyEnds(std::uint32_t{0});
+    } else {
+        for (std::size_t i = 0; i < length; ++i) to[i] = from[i];
+    }
+}
+
 /// True when eight bytes stand for themselves in texts and in attributes: ASCII without control characters, "&", "<",
 /// ">" and quotes.
 inline bool ixArePlain8(const char* text) {

@@ -239,14 +239,19 @@ bool XmlWriter::PrefixOf(XmlUri uri, const XmlSlice& wanted, XmlSlice& prefix) {
 /// @param nameAt out: where the name stands, so that the end tag can have it, too.
 bool XmlWriter::Start(const XmlSlice& local, XmlUri uri, XmlUri& defaultUri, std::size_t& nameAt,
                       std::size_t& nameLength) {
-    if (!Put("<")) return false;
-    nameAt = m_text.Count();
     XmlSlice prefix;
-    if (uri != defaultUri && uri != 0) {
-        if (!PrefixOf(uri, SliceOf("x"), prefix) || !Put(prefix) || !Put(":")) return false;
+    if (uri != defaultUri && uri != 0 && !PrefixOf(uri, SliceOf("x"), prefix)) return false;
+    const std::size_t prefixLength = prefix.length != 0 ? prefix.length + 1 : 0;
+    nameLength = prefixLength + local.length;
+    char* to = m_text.Room(nameLength + 1);
+    if (to == nullptr) return FailMemory();
+    *to++ = '<';
+    nameAt = m_text.Count() - nameLength;
+    if (prefixLength != 0) {
+        ixCopyShort(to, prefix.text, prefix.length);
+        to[prefix.length] = ':';
     }
-    if (!Put(local)) return false;
-    nameLength = m_text.Count() - nameAt;
+    ixCopyShort(to + prefixLength, local.text, local.length);
     if (uri == 0 && defaultUri != 0) {
         defaultUri = 0;
         return Put(" xmlns=\"\"");
@@ -264,7 +269,7 @@ bool XmlWriter::Close(std::size_t content, std::size_t nameAt, std::size_t nameL
     if (to == nullptr) return FailMemory();
     to[0] = '<';
     to[1] = '/';
-    std::memcpy(to + 2, m_text.Values() + nameAt, nameLength);
+    ixCopyShort(to + 2, m_text.Values() + nameAt, nameLength);
     to[nameLength + 2] = '>';
     return true;
 }
@@ -451,7 +456,7 @@ bool XmlWriter::Attribute(const XmlSlice& name, const XmlSlice& value) {
     char* const to = m_text.Room(name.length + 3);
     if (to == nullptr) return FailMemory();
     to[0] = ' ';
-    std::memcpy(to + 1, name.text, name.length);
+    ixCopyShort(to + 1, name.text, name.length);
     to[name.length + 1] = '=';
     to[name.length + 2] = '"';
     return Escaped(value, true) && (m_text.Add('"') || FailMemory());
