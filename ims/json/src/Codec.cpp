@@ -31,7 +31,8 @@ XmlOwned<> ReadStandard(XMLContext& context, const Document& document) {
     XmlOwned<> root(unMarshaller->UnMarshall(document.text.data(), document.text.size()));
     if (root != nullptr) return root;
     const XmlProblem problem = *unMarshaller->Problem();
-    throw DocumentError{kNotDecoded, problem.text, kNoOffset, {problem.line, problem.column}};
+    const int line = problem.line != 0 ? document.line - 1 + problem.line : 0;
+    throw DocumentError{kNotDecoded, problem.text, kNoOffset, {line, problem.column}};
 }
 
 XMLMarshaller& MarshallerOf(XMLContext& context, const XmlSchemaInfo& schema) {

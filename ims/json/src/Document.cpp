@@ -12,11 +12,11 @@ std::string ToText(TextPlace place) { return std::to_string(place.line) + ':' + 
 
 TextPlace Document::PlaceAt(std::size_t offset) const {
     const std::string_view before = std::string_view(text).substr(0, offset);
-    const auto line = 1 + std::count(before.begin(), before.end(), '\n');
+    const auto number = line + std::count(before.begin(), before.end(), '\n');
     const std::string_view lineText = before.substr(before.rfind('\n') + 1);
     const auto isLead = [](char byte) { return (static_cast<unsigned char>(byte) & 0xc0U) != 0x80U; };
     const auto column = 1 + std::count_if(lineText.begin(), lineText.end(), isLead);
-    return {static_cast<int>(line), static_cast<int>(column)};
+    return {static_cast<int>(number), static_cast<int>(column)};
 }
 
 std::string Document::PlaceOf(std::size_t offset) const { return ToText(PlaceAt(offset)); }
@@ -26,11 +26,15 @@ std::string Document::Describe(const DocumentError& error) const {
     return name + (place.line == 0 ? "" : ':' + ToText(place)) + ": " + error.message;
 }
 
-void RequireText(const std::string& text) {
+void RequireLength(const std::string& text) {
     if (text.empty()) throw DocumentError{kNotDecoded, "the file is empty"};
     if (text.size() > INT_MAX) {
         throw DocumentError{kNotDecoded, "longer than " + std::to_string(INT_MAX) + " bytes, which no decoder takes"};
     }
+}
+
+void RequireText(const std::string& text) {
+    RequireLength(text);
     const std::size_t nul = text.find('\0');
     if (nul == std::string::npos) return;
     const std::string mark = text.substr(0, 2);

@@ -29,6 +29,7 @@ struct DocumentError {
 struct Document {
     std::string name;  ///< As the caller gave it; "-" is the standard input.
     std::string text;
+    int line = 1;  ///< That of its first byte, in the file that it is a part of.
 
     TextPlace PlaceAt(std::size_t offset) const;
     /// "LINE:COLUMN".
@@ -37,7 +38,10 @@ struct Document {
     std::string Describe(const DocumentError& error) const;
 };
 
-/// Throws `DocumentError` for a text that no decoder would see to its end.
+/// Throws `DocumentError` for a text that is empty, or longer than a decoder takes.
+void RequireLength(const std::string& text);
+
+/// The same, and for a text that no decoder would see to its end.
 void RequireText(const std::string& text);
 
 #endif

@@ -13,6 +13,7 @@
 #include "Runner.h"
 #include "Schema.h"
 #include "SchemaNames.h"
+#include "Sip.h"
 #include "Text.h"
 
 namespace {
@@ -32,6 +33,7 @@ Exit status, the highest of all files:
 Examples:
   imsxml decode --format tree gruu.xml
   imsxml decode *.xml | jq .root.class
+  imsxml decode --sip notify.sip
   imsxml convert --profile standard waiting.xml
   imsxml decode waiting.xml | imsxml encode -
   imsxml lost presence.xml
@@ -49,12 +51,17 @@ its namespace, unless --schema names one.
 The tree has a line for each field. An element stands on one line when its fields are few and short; otherwise its
 fields are below it, and the field that distinguishes it from its siblings follows the name.
 
+With --sip, a file is a SIP message, several of them, or a MIME multipart. Each part whose content type has a schema is
+decoded, and printed on one line as FILE#2, FILE#2.1 inside part 2, or FILE#3#2 in the third of several messages. The
+other parts are named on the standard error.
+
 Exit status: 0 done, 1 not decoded, 2 wrong usage or unreadable file, 4 time limit.
 
 Examples:
   imsxml decode gruu.xml
   imsxml decode --format tree --schema communication-waiting --binder waiting.xml
   imsxml decode --format tree --color always provisioning.xml | less -R
+  imsxml decode --sip trace.sip | jq -r .file
   curl -s http://xcap.example/waiting.xml | imsxml decode --log -)help";
 
 constexpr char kConvertFooter[] = R"help(
@@ -207,6 +214,9 @@ CommandLine::CommandLine() {
         ->add_option("--color", m_colour, "Colours in the tree: auto (on a terminal, unless NO_COLOR), always or never")
         ->check(CLI::IsMember({"auto", "always", "never"}))
         ->capture_default_str();
+    m_decode->add_flag("--sip", m_options.sip, "Decode the documents in SIP messages and MIME multiparts")
+        ->excludes("--schema")
+        ->excludes("--content-type");
     m_convert = AddFileCommand("convert", "Decode documents and write them again", kConvertFooter);
     AddDecoding(m_convert);
     m_convert->add_flag("--strict", m_options.strict, "Status 3 for a text that is not all that the document says");
@@ -292,7 +302,7 @@ int CommandLine::Run(int argc, char** argv) {
     m_options.tree = m_format == "tree";
     if (!m_log.empty()) m_options.log = m_log == "all" ? kAllLines : kFaultLines;
     if (m_colour != "auto") m_options.colour = m_colour == "always" ? Colour::Always : Colour::Never;
-    if (m_decode->parsed()) return RunOnFiles(DecodeDocument, m_options);
+    if (m_decode->parsed()) return RunOnFiles(m_options.sip ? DecodeMessages : DecodeDocument, m_options);
     if (m_encode->parsed()) return RunOnFiles(EncodeDocument, m_options);
     if (m_validate->parsed()) return RunOnFiles(ValidateDocument, m_options);
     if (m_lost->parsed()) return RunOnFiles(ListLosses, m_options);

@@ -20,6 +20,7 @@ struct Options {
     std::vector<std::string> files;
     const XmlSchemaInfo* schema = nullptr;  ///< NULL: chosen by the root element of each document.
     eXMLProfile profile = IX_XML_PROFILE_DEVICE;
+    bool sip = false;   ///< The files are messages, which can have many documents.
     bool tree = false;  ///< The outline for people in place of JSON.
     Colour colour = Colour::Auto;
     bool binder = false;
@@ -28,7 +29,7 @@ struct Options {
     bool leaks = false;
     double timeout = 10;  ///< Seconds per file; 0: no limit.
 
-    bool HasManyFiles() const { return files.size() > 1; }
+    bool HasManyFiles() const { return sip || files.size() > 1; }
 };
 
 #endif

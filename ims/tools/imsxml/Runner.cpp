@@ -66,7 +66,8 @@ int RunCommand(Command command, const Options& options, const std::string& name,
     if (options.leaks) OpenLedger(name);
     try {
         document.text = input != nullptr ? *input : ReadText(name);
-        RequireText(document.text);
+        // Other parts of a message may have any bytes.
+        options.sip ? RequireLength(document.text) : RequireText(document.text);
         progress.Enter(Stage::Decoding);
         output = command(document, options, progress);
     } catch (const DocumentError& error) {

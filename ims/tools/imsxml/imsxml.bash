@@ -36,7 +36,7 @@ _imsxml() {
     done
     case $command in
         '') words='decode convert encode lost diff validate namespaces schemas --help --version' ;;
-        decode) words='--schema --content-type --binder --format --color --log --leaks --profile --timeout --help' ;;
+        decode) words='--schema --content-type --sip --binder --format --color --log --leaks --profile --timeout --help' ;;
         convert) words='--schema --content-type --binder --strict --log --leaks --profile --timeout --help' ;;
         encode) words='--schema --log --leaks --profile --timeout --help' ;;
         lost) words='--schema --content-type --binder --log --leaks --profile --timeout --help' ;;
