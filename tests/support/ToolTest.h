@@ -46,10 +46,14 @@ class ToolTest : public testing::Test {
         std::ofstream(m_folder + '/' + name, std::ios::binary) << text;
     }
 
-    Result Run(const std::string& arguments) {
+    Result Run(const std::string& arguments) { return Shell("imsxml " + arguments); }
+
+    /// Runs a line of the shell, to which the tool is "imsxml".
+    Result Shell(const std::string& line) {
         // Documents that fail leave their tree to nobody.
         const std::string command =
-            "cd '" + m_folder + "' && ASAN_OPTIONS=detect_leaks=0 '" IMSXML_TOOL "' " + arguments;
+            "cd '" + m_folder +
+            "' && export ASAN_OPTIONS=detect_leaks=0 && imsxml() { '" IMSXML_TOOL "' \"$@\"; } && " + line;
         const int status =
             std::system(("( " + command + " ) >'" + m_folder + "/out' 2>'" + m_folder + "/err'").c_str());
         return {WEXITSTATUS(status), ReadFile(m_folder + "/out"), ReadFile(m_folder + "/err")};
@@ -72,17 +76,6 @@ class ToolTest : public testing::Test {
         std::string printed(text, length > 0 ? static_cast<std::size_t>(length) : 0);
         printed.erase(std::remove(printed.begin(), printed.end(), '\r'), printed.end());
         return printed;
-    }
-
-    /// The message for a document, without the file name.
-    std::string MessageFor(const std::string& text, const std::string& arguments = "decode --schema gruu") {
-        Write("bad", text);
-        const Result result = Run(arguments + " bad");
-        EXPECT_EQ(result.status, 1) << text;
-        EXPECT_EQ(result.output, "") << text;
-        EXPECT_EQ(result.errors.substr(0, 4), "bad:") << text;
-        EXPECT_EQ(result.errors.find('\n'), result.errors.size() - 1) << text;
-        return result.errors.substr(4, result.errors.size() - 5);
     }
 
     std::string m_folder;
