@@ -1,9 +1,9 @@
 /// @file
-/// Small blocks, cut from one range of addresses and kept by each thread for its next allocations.
+/// Small blocks, cut from one range of addresses, for the documents of each thread.
 ///
 /// A document is hundreds of small blocks that come and go together. The C library's allocator merges them when they
 /// have gone and splits them up again for the next document, which takes a third of the time of a small document, and
-/// most of that of a large one.
+/// more of a large one.
 #ifndef IX_DPL_BLOCK_CACHE_H
 #define IX_DPL_BLOCK_CACHE_H
 
@@ -20,11 +20,12 @@
 #endif
 #endif
 
-/// The small blocks of one thread. A block may be freed by another thread than the one that took it.
+/// The small blocks of one thread.
 ///
 /// The range is 1 GiB of addresses, of which only what is used takes memory. It is cut into chunks, a chunk into blocks
-/// of one kind, so that the address of a block tells its size. What a thread has too many of goes in batches to all
-/// threads. The memory serves again and is not given back to the system.
+/// of one size, so that the address of a block tells its size and whose it is. A chunk whose blocks have all gone is
+/// cut anew, so that the blocks of the next large document lie side by side again; what a thread has too many of goes
+/// to the others and back to the system. A block that another thread frees waits until its own thread needs blocks.
 ///
 /// It steps back, so that every block is one of the C library: in a sanitizer build, under valgrind, with
 /// `IMSXML_PLAIN_MALLOC` in the environment, on a 32-bit machine, and when the range is used up.
@@ -36,11 +37,11 @@ class BlockCache {
         BlockCache* const mine = s_pMine;
         const std::size_t kind = (size + kStep - 1) / kStep;
         if (mine != nullptr && kind < kKinds) {
-            Kind& blocks = mine->m_kinds[kind];
-            Block* const block = blocks.first;
+            Chunk& chunk = *mine->m_current[kind];
+            Block* const block = chunk.free;
             if (block != nullptr) {
-                blocks.first = block->next;
-                --blocks.count;
+                chunk.free = block->next;
+                ++chunk.used;
                 return block;
             }
         }
@@ -53,13 +54,16 @@ class BlockCache {
 #ifndef IX_DPL_KEEPS_NONE
         const std::uintptr_t offset =
             reinterpret_cast<std::uintptr_t>(pointer) - s_begin.load(std::memory_order_relaxed);
-        BlockCache* const mine = s_pMine;
-        if (offset < kRange && mine != nullptr) {
-            Kind& blocks = mine->m_kinds[s_kinds[offset / kChunk].load(std::memory_order_relaxed)];
+        if (offset < kRange) {
+            Chunk& chunk = s_chunks[offset / kChunk];
+            if (chunk.owner != s_pMine) {
+                GiveBack(chunk, pointer);
+                return;
+            }
             auto* const block = static_cast<Block*>(pointer);
-            block->next = blocks.first;
-            blocks.first = block;
-            if (++blocks.count >= kBatch) blocks.Hand();
+            block->next = chunk.free;
+            chunk.free = block;
+            if (--chunk.used <= chunk.told) Tell(chunk);
             return;
         }
 #endif
@@ -82,20 +86,18 @@ class BlockCache {
 #ifndef IX_DPL_KEEPS_NONE
     struct Block {
         Block* next;
-        Block* nextBatch;  ///< First block of a batch that all threads share.
     };
-    /// The free blocks of one size.
-    struct Kind {
-        Block* first;
-        Block* full;      ///< A batch more, so that a thread at the limit does not share at each block. NULL: none.
-        unsigned count;   ///< Of the list at `first`, or more.
-        unsigned number;  ///< In `m_kinds`.
-        char* rest;       ///< What has not been cut yet.
-        char* restEnd;
-
-        void Hand();
-        bool Refill();
-        bool Cut();
+    /// A piece of the range.
+    struct Chunk {
+        Block* free;  ///< Blocks that have been cut and are free.
+        BlockCache* owner;
+        unsigned used;
+        /// `Tell` is called when so few blocks are used: none; any number while the chunk is in no list.
+        unsigned told;
+        unsigned kind;
+        char* rest;     ///< What has not been cut yet.
+        Chunk* before;  ///< In the list that it is in: those of its kind with free blocks, or those without any used.
+        Chunk* next;
     };
     /// Leaves the cache of its thread to another one when that ends.
     struct Closer {
@@ -107,20 +109,31 @@ class BlockCache {
     static constexpr std::size_t kKinds = 33;  ///< Up to 512 bytes; the first is of no bytes and stays empty.
     static constexpr std::size_t kChunk = std::size_t{1} << 16;
     static constexpr std::size_t kRange = std::size_t{1} << 30;
-    static constexpr std::size_t kBatch = 512;
+    static constexpr unsigned kMostEmpty = 64;  ///< Chunks without used blocks that a thread keeps.
+
+    BlockCache();
 
     static bool Open();
     static bool Reserve();
-    static char* NewChunk(unsigned kind);
-    static void Share(unsigned kind, Block* batch);
+    static void GiveBack(Chunk& chunk, void* pointer);
+    static void Tell(Chunk& chunk);
+    static char* BeginOf(const Chunk& chunk);
+    bool Refill(unsigned kind);
+    Chunk* NewChunk();
+    void TakeBack();
+    static bool Cut(Chunk& chunk);
 
-    Kind m_kinds[kKinds];
-    BlockCache* m_pNext;  ///< The next one whose thread has ended.
+    Chunk* m_current[kKinds];  ///< That blocks are taken from; never NULL.
+    Chunk* m_partly[kKinds];   ///< Others with free blocks.
+    Chunk* m_empty;
+    unsigned m_emptyCount;
+    std::atomic<Block*> m_back;  ///< What other threads have freed.
+    BlockCache* m_pNext;         ///< The next one whose thread has ended.
 
     static Shared s_shared;
+    static Chunk s_chunks[kRange / kChunk];
     /// Where the range begins; where no block is, as long as there is none.
     static inline std::atomic<std::uintptr_t> s_begin{~std::uintptr_t{0} >> 1};
-    static inline std::atomic<unsigned char> s_kinds[kRange / kChunk];  ///< By chunk.
 #ifdef __GLIBC__
     // Its address is computed without a call of the dynamic linker.
     [[gnu::tls_model("initial-exec")]]
