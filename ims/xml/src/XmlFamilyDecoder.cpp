@@ -1,5 +1,6 @@
 #include "XmlFamilyDecoder.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -75,8 +76,8 @@ int XmlFamilyDecoder::MapPrefix(char* tag, std::size_t length, const XmlElementN
     }
     char* to = m_mappedText.Text();
     if (isEnd) *to++ = '/';
-    std::memcpy(to, prefix, prefixLength);
-    std::memcpy(to + prefixLength, colon, localSize);
+    to = std::copy_n(prefix, prefixLength, to);
+    std::memcpy(to, colon, localSize);
     m_pMappedTag = m_mappedText.Text();
     return 1;
 }

@@ -72,7 +72,7 @@ inline void IxXMLDocGenerator::AppendValue(const char* value) {
     const std::size_t length = value != nullptr ? std::strlen(value) : 0;
     if (length < kCapacity - 1 - m_length && ixCopyUpTo(m_pBuffer + m_length, value, length, '"')) {
         m_length += length;
-    } else if (length != 0 && std::memchr(value, '"', length) != nullptr) {
+    } else if (length != 0 && std::strchr(value, '"') != nullptr) {
         char* const escaped = escapeString(value);
         if (escaped != nullptr) Append(escaped);
         __free(escaped);

@@ -475,7 +475,7 @@ bool XmlBinding::CloseObject(Frame& frame) {
         const std::uint64_t missing = table->told & ~seen;
         for (std::size_t i = 0; missing >> i != 0; ++i) {
             const XmlField& row = table->fields[i];
-            if ((missing >> i & 1) == 0 || &row == ownText || row.role == XmlRole::OwnText) continue;
+            if ((missing >> i & 1) == 0 || row.role == XmlRole::OwnText) continue;
             if (row.mandatory) Find("is missing", {const_cast<char*>(row.Name()), std::strlen(row.Name())});
             const XmlRestItem item = {
                 XmlRestKind::Value, false, &row, nullptr, XmlFields::Number(element, row), "", "", nullptr};
