@@ -1,4 +1,5 @@
 #include <climits>
+#include <cstring>
 #include <random>
 
 #include "XmlDecoder.h"
@@ -75,6 +76,30 @@ class TokenizerTest : public XmlTest {
         return name;
     }
 };
+
+/// Compares the length that the tokenizer tells of each name with its characters.
+class Measurer : public Recorder {
+  public:
+    explicit Measurer(const XmlDecoder& decoder) : m_decoder(decoder) {}
+    int ProcessElement(char* element, char* text) override {
+        EXPECT_EQ(m_decoder.LengthOf(element), std::strlen(element)) << element;
+        return Recorder::ProcessElement(element, text);
+    }
+
+  private:
+    const XmlDecoder& m_decoder;
+};
+
+// Each piece comes to the place of the one before, so that an end tag can stand where its start tag stood.
+TEST_F(TokenizerTest, LengthsOfNamesInPieces) {
+    XmlDecoder decoder;
+    Measurer measurer(decoder);
+    decoder.SetSchemaDecoder(&measurer);
+    for (const char* piece : {"<cp:a>", "</cp:b>", "<cp:b>", "</cp:b>", "</cp:a>"}) {
+        decoder.Decode(piece, static_cast<int>(std::strlen(piece)));
+    }
+    EXPECT_EQ(measurer.m_events, "+cp:a >cp:a +cp:b >cp:b /cp:b[] /cp:a[]");
+}
 
 struct Document {
     const char* text;

@@ -69,7 +69,7 @@ enum eXmlDecodeResult {
 
 /// The name of an element. The tokenizer looks at it once, in the start tag; the end tag has the same.
 struct XmlElementName {
-    char* text = nullptr;          ///< In the start tag; NULL: not looked at yet.
+    char* text = nullptr;          ///< In the start tag; NULL: not looked at yet, or the tag has gone.
     std::size_t length = 0;        ///< Prefix included.
     std::size_t prefixLength = 0;  ///< With the colon; 0: no prefix.
     XmlName whole = IX_STR_IX_NULL;

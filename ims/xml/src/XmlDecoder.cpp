@@ -536,6 +536,8 @@ bool XmlDecoder::PushName(const XmlElementName& name) {
         text[length] = '\0';
     }
     open->name = name;
+    // The tag goes with the text that it stands in, and another name may come to its place.
+    open->name.text = nullptr;
     open->node.m_pData = text;
     open->node.m_pNext = nullptr;
     ++m_openIndex;
