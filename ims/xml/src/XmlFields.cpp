@@ -170,13 +170,9 @@ bool Copier::CopyField(const XMLElement& from, XMLElement& to, const XmlField& r
         case XmlFieldKind::Flag:
         case XmlFieldKind::Number:
         case XmlFieldKind::Enumeration:
-            to.*row.member.number = from.*row.member.number;
-            return true;
         case XmlFieldKind::Unsigned:
-            to.*row.member.unsignedNumber = from.*row.member.unsignedNumber;
-            return true;
         case XmlFieldKind::Number64:
-            to.*row.member.number64 = from.*row.member.number64;
+            XmlFields::SetNumber(to, row, XmlFields::Number(from, row));
             return true;
         case XmlFieldKind::Child:
         case XmlFieldKind::Presence: {
