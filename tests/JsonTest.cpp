@@ -33,11 +33,7 @@ class JsonTest : public XmlTest {
     /// The JSON of a tree makes an equal tree, which is written as the first one is.
     static void ExpectSame(XMLElement* root, const XmlSchemaInfo& schema, eXMLProfile profile) {
         JsonText json(-1);
-        json.Begin('{');
-        json.Member("schema", schema.name);
-        json.Key("root");
-        WriteTree(json, *root);
-        json.End('}');
+        WriteDocument(json, schema.name, nullptr, *root);
         if (json.HasReplaced()) return;  // What is no UTF-8, JSON cannot say.
         try {
             const XmlOwned<> again = Tree(json.Text(), nullptr, profile);

@@ -6,8 +6,6 @@
 
 void* BlockCache::TakeNew(std::size_t size) { return Counted(std::malloc(size != 0 ? size : 1)); }
 
-void BlockCache::GiveOther(void* pointer) { std::free(pointer); }
-
 #else
 
 #include <sys/mman.h>
@@ -199,7 +197,5 @@ void* BlockCache::TakeNew(std::size_t size) {
     const bool isSmall = kind < kKinds && (s_pMine != nullptr || Open());
     return isSmall && s_pMine->Refill(static_cast<unsigned>(kind)) ? Take(size) : Counted(std::malloc(size));
 }
-
-void BlockCache::GiveOther(void* pointer) { std::free(pointer); }
 
 #endif

@@ -10,6 +10,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 
 // A sanitizer has to see every block come and go, in its true size.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || __SIZEOF_POINTER__ < 8
@@ -67,7 +68,7 @@ class BlockCache {
             return;
         }
 #endif
-        GiveOther(pointer);
+        std::free(pointer);
     }
 
     /// Counts an allocation without a result. @return `block`.
@@ -80,7 +81,6 @@ class BlockCache {
 
   private:
     static void* TakeNew(std::size_t size);
-    static void GiveOther(void* pointer);
 
     static inline thread_local unsigned long s_failed = 0;
 #ifndef IX_DPL_KEEPS_NONE

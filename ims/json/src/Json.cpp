@@ -151,6 +151,15 @@ void WriteTree(JsonText& json, const XMLElement& element) {
     json.End('}');
 }
 
+void WriteDocument(JsonText& json, const char* schema, const char* file, const XMLElement& root) {
+    json.Begin('{');
+    json.Member("schema", schema);
+    if (file != nullptr) json.Member("file", file);
+    json.Key("root");
+    WriteTree(json, root);
+    json.End('}');
+}
+
 Json ToJson(const XMLElement& element, bool& replaced) {
     JsonText text(-1);
     WriteTree(text, element);

@@ -14,9 +14,13 @@ using Json = nlohmann::ordered_json;
 /// Writes the class and every field that is set, in the order of the declarations.
 void WriteTree(JsonText& json, const XMLElement& element);
 
-/// The same, to look into.
+/// The same as a value, to look into.
 /// @param replaced out: set when bytes that are not UTF-8 were replaced, else left alone.
 Json ToJson(const XMLElement& element, bool& replaced);
+
+/// Writes what is decoded of a document: its schema and its tree.
+/// @param file NULL: none is named.
+void WriteDocument(JsonText& json, const char* schema, const char* file, const XMLElement& root);
 
 /// True for the only value of an enumeration that JSON has a number for: that of a text which is no word, where it is
 /// not the 'not set' value.

@@ -100,11 +100,7 @@ void Decode(Call& call, const char* name, eXMLProfile profile) {
     const XmlOwned<> root = isDevice ? ReadDevice(*context, call.document) : ReadStandard(*context, call.document);
     if (root == nullptr) throw Diagnose(call.document, schema, [] { return false; });
     JsonText json(-1);
-    json.Begin('{');
-    json.Member("schema", schema.name);
-    json.Key("root");
-    WriteTree(json, *root);
-    json.End('}');
+    WriteDocument(json, schema.name, nullptr, *root);
     call.result = json.Text();
     if (json.HasReplaced()) call.flaw = "bytes that are not UTF-8 were replaced";
 }

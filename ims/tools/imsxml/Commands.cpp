@@ -241,12 +241,7 @@ std::string DecodeDocument(const Document& document, const Options& options, con
         text = outline.Text();
     } else {
         JsonText json(options.HasManyFiles() ? -1 : 2);
-        json.Begin('{');
-        json.Member("schema", decoded.schema->name);
-        json.Member("file", document.name.c_str());
-        json.Key("root");
-        WriteTree(json, *decoded.root);
-        json.End('}');
+        WriteDocument(json, decoded.schema->name, document.name.c_str(), *decoded.root);
         text = json.Text() + '\n';
         replaced = json.HasReplaced();
     }
