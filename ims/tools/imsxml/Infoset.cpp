@@ -14,6 +14,7 @@
 
 #include "Scanner.h"
 #include "Text.h"
+#include "XmlNamespaces.h"
 
 namespace {
 
@@ -26,12 +27,9 @@ constexpr std::size_t kMostOpen = 1000;
 constexpr char kInstanceNamespace[] = "http://www.w3.org/2001/XMLSchema-instance";
 constexpr char kXmlNamespace[] = "http://www.w3.org/XML/1998/namespace";
 
-/// Parts of services leave these to the rest of their document, where servers bind them so.
-constexpr std::pair<const char*, const char*> kUsualPrefixes[] = {
-    {"ss", "http://uri.etsi.org/ngn/params/xml/simservs/xcap"},
-    {"cp", "urn:ietf:params:xml:ns:common-policy"},
-    {"ocp", "urn:oma:xml:xdm:common-policy"},
-};
+/// Parts of services leave the prefixes of these to the rest of their document, where servers bind them as is usual.
+constexpr XmlNamespace kServiceNamespaces[] = {XmlNamespace::Simservs, XmlNamespace::CommonPolicy,
+                                               XmlNamespace::OmaCommonPolicy};
 
 struct Name {
     std::string uri;
@@ -394,9 +392,10 @@ InfoElement ReadInfoset(const std::string& text) {
     if (reader.Read()) return reader.TakeRoot();
     if (!reader.LacksPrefix()) throw DocumentError(reader.Fault());
     std::string declarations;
-    for (const auto& [prefix, uri] : kUsualPrefixes) {
-        if (reader.RootDeclares(prefix)) continue;
-        declarations.append(" xmlns:").append(prefix).append("=\"").append(uri).append("\"");
+    for (const XmlNamespace known : kServiceNamespaces) {
+        const XmlNamespaceInfo& info = kXmlNamespaces[static_cast<std::size_t>(known)];
+        if (reader.RootDeclares(info.prefix)) continue;
+        declarations.append(" xmlns:").append(info.prefix).append("=\"").append(info.uri).append("\"");
     }
     const std::size_t at = std::min(text.find_first_of(" \t\r\n/>", reader.RootOffset()), text.size());
     std::string complete = text;

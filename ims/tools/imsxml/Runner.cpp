@@ -72,7 +72,6 @@ int RunCommand(Command command, const Options& options, const std::string& name,
         output = command(document, options, progress);
     } catch (const DocumentError& error) {
         if (!error.message.empty()) PrintError(document.Describe(error));
-        output = error.output;
         status = error.status;
         output = error.output;
     } catch (const std::exception& error) {
